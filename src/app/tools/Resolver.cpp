@@ -1,0 +1,10 @@
+#include "app/tools/Comandos.h"
+
+namespace trevalo::calc {
+
+int ComandoResolver(const Argumentos&, std::ostream&, std::ostream& errores) {
+    errores << "Orden aún no disponible.\n";
+    return 1;
+}
+
+} // namespace trevalo::calc

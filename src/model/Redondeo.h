@@ -1,0 +1,24 @@
+#pragma once
+// Rounding and number masks shared by the whole program.
+
+#include <string>
+
+namespace trevalo {
+
+// CI: a double becomes an integer to the nearest, ties to the even integer (2.5 -> 2,
+// 3.5 -> 4). Raises error 6 (overflow) beyond the 32-bit range or for a non-finite value.
+long CI(double valor);
+
+// RoundKorvel: the value rounded to the given number of decimals, half away from zero, on
+// the value's 15-significant-digit decimal form (so 2.675 gives 2.68, as the user reads it).
+double RoundKorvel(double valor, int decimales);
+
+// Formats a value through a number mask: "0", "00", "0.00", "0.000", "0.000000",
+// "#,##0.0", "#,##0.00" ... The count of '0' before the point is the least number of
+// integer digits, the characters after the point the decimals, a ',' groups thousands.
+// Rounds half away from zero like RoundKorvel; a negative value keeps its sign even when
+// it rounds to zero ("-0"). The separators are the machine's, passed in.
+std::string Formato(double valor, const std::string& mascara, char separadorDecimal = '.',
+                    char separadorMiles = ',');
+
+} // namespace trevalo
