@@ -3,10 +3,35 @@
 namespace trevalo::calc {
 
 int ComandoResolver(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoVigas(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoExportar(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoImportar(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoDibujar(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoDiseno(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoPerfiles(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoSeccion(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoImportarJet(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoInforme(const Argumentos&, std::ostream&, std::ostream&);
 
 const std::vector<EntradaComando>& TablaComandos() {
     static const std::vector<EntradaComando> tabla = {
-        {"resolver", "resolver VIGA.json [--estaciones N]", &ComandoResolver},
+        {"resolver", "resolver VIGA.json|PROYECTO.trv [--viga NOMBRE] [--estaciones N]",
+         &ComandoResolver},
+        {"vigas", "vigas PROYECTO.trv", &ComandoVigas},
+        {"exportar", "exportar PROYECTO.trv --viga NOMBRE", &ComandoExportar},
+        {"importar", "importar PROYECTO.trv VIGA.json [--nombre NOMBRE]", &ComandoImportar},
+        {"dibujar",
+         "dibujar PROYECTO.trv --viga NOMBRE --vista 1|2|3|4 [--ancho W --alto H] [--reporte] "
+         "-o ARCHIVO.png|.svg|.pdf",
+         &ComandoDibujar},
+        {"diseno", "diseno PROYECTO.trv --viga NOMBRE", &ComandoDiseno},
+        {"perfiles", "perfiles TABLA.pfl", &ComandoPerfiles},
+        {"seccion", "seccion --d D --tw TW --bf BF --tf TF", &ComandoSeccion},
+        {"importar-jet", "importar-jet ANTIGUO NUEVO", &ComandoImportarJet},
+        {"informe",
+         "informe PROYECTO.trv [--viga NOMBRE] [--diagramas] [--reacciones] "
+         "-o ARCHIVO.pdf|.htm|.xlsx|.rtf",
+         &ComandoInforme},
     };
     return tabla;
 }

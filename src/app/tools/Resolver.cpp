@@ -2,6 +2,7 @@
 
 namespace trevalo::calc {
 
+// Placeholder until the command is built.
 int ComandoResolver(const Argumentos&, std::ostream&, std::ostream& errores) {
     errores << "Orden aún no disponible.\n";
     return 1;

@@ -1,0 +1,21 @@
+#include "app/tools/Comandos.h"
+
+namespace trevalo::calc {
+
+// Placeholder until the command is built.
+int ComandoVigas(const Argumentos&, std::ostream&, std::ostream& errores) {
+    errores << "Orden aún no disponible.\n";
+    return 1;
+}
+
+int ComandoExportar(const Argumentos&, std::ostream&, std::ostream& errores) {
+    errores << "Orden aún no disponible.\n";
+    return 1;
+}
+
+int ComandoImportar(const Argumentos&, std::ostream&, std::ostream& errores) {
+    errores << "Orden aún no disponible.\n";
+    return 1;
+}
+
+} // namespace trevalo::calc
