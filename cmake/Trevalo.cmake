@@ -3,9 +3,15 @@
 # "model/Viga.h", "analysis/AnalisisVigasP.h" ...
 function(trevalo_biblioteca nombre)
   file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-  add_library(${nombre} STATIC ${fuentes})
-  target_include_directories(${nombre} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  target_link_libraries(${nombre} PUBLIC trevalo_ajustes ${ARGN})
+  if(fuentes)
+    add_library(${nombre} STATIC ${fuentes})
+    target_include_directories(${nombre} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${nombre} PUBLIC trevalo_ajustes ${ARGN})
+  else()
+    add_library(${nombre} INTERFACE)
+    target_include_directories(${nombre} INTERFACE ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${nombre} INTERFACE trevalo_ajustes ${ARGN})
+  endif()
 endfunction()
 
 # trevalo_prueba(NAME LIBS...): one GoogleTest executable from the current test folder.

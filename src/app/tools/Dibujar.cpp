@@ -8,9 +8,4 @@ int ComandoDibujar(const Argumentos&, std::ostream&, std::ostream& errores) {
     return 1;
 }
 
-int ComandoDiseno(const Argumentos&, std::ostream&, std::ostream& errores) {
-    errores << "Orden aún no disponible.\n";
-    return 1;
-}
-
 } // namespace trevalo::calc

@@ -13,9 +13,4 @@ int ComandoSeccion(const Argumentos&, std::ostream&, std::ostream& errores) {
     return 1;
 }
 
-int ComandoImportarJet(const Argumentos&, std::ostream&, std::ostream& errores) {
-    errores << "Orden aún no disponible.\n";
-    return 1;
-}
-
 } // namespace trevalo::calc

@@ -1,1 +1,0 @@
-#include "analysis/AnalisisVigasP.h"
