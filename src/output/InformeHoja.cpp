@@ -69,6 +69,8 @@ void EscribirInformeHoja(const ContenidoInforme& c, const std::string& ruta) {
     worksheet_set_paper(hoja, 9); // A4
     worksheet_set_portrait(hoja);
     worksheet_fit_to_pages(hoja, 1, 0);
+    // Rows of a stated height, so that every reader anchors the pictures alike.
+    worksheet_set_default_row(hoja, 15, LXW_FALSE);
     worksheet_set_column(hoja, 0, 0, 40, nullptr);
     worksheet_set_column(hoja, 1, 1, 40, nullptr);
     worksheet_set_column(hoja, 2, 2, 10, nullptr);
@@ -99,6 +101,7 @@ void EscribirInformeHoja(const ContenidoInforme& c, const std::string& ruta) {
             lxw_image_options opciones{};
             opciones.x_scale = 1;
             opciones.y_scale = 1;
+            opciones.object_position = LXW_OBJECT_DONT_MOVE_DONT_SIZE;
             opciones.description = const_cast<char*>(leyenda.c_str());
             worksheet_insert_image_buffer_opt(hoja, fila + 1, 0, grafico.Grafico.data(),
                                               grafico.Grafico.size(), &opciones);

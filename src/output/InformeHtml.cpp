@@ -49,7 +49,7 @@ figure { margin: 0; text-align: center; }
 figure img { max-width: 100%; height: auto; border: 1px solid #999; }
 figcaption { font-size: 13px; margin-top: 6px; }
 .cabeza { font-size: 11px; color: #555; border-bottom: 1px solid #999; margin-bottom: 14px;
-          display: flex; justify-content: space-between; }
+          display: flex; justify-content: space-between; padding-bottom: 3px; }
 @media print { body { background: #fff; } .pagina { box-shadow: none; margin: 0 auto;
                page-break-after: always; } }
 </style>

@@ -47,7 +47,8 @@ std::string Hex(const std::vector<std::uint8_t>& bytes) {
 }
 
 std::string FilaTabla(const LineaCabecera& linea) {
-    return "\\trowd\\trgaph108\\trbrdrb\\brdrs\\brdrw5\\brdrcf2\\cellx3800\\cellx" +
+    const std::string borde = "\\clbrdrb\\brdrs\\brdrw5\\brdrcf3";
+    return "\\trowd\\trgaph108" + borde + "\\cellx3800" + borde + "\\cellx" +
            std::to_string(AnchoTexto) + "\n\\pard\\intbl\\sb60\\sa60\\cf2 " + Rtf(linea.Etiqueta) +
            "\\cell\\cf1 " + Rtf(linea.Valor) + "\\cell\\row\n";
 }
@@ -66,7 +67,8 @@ void EscribirInformeTexto(const ContenidoInforme& c, const std::string& ruta) {
     const auto& g = c.Generales;
     std::string r = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n"
                     "{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}}\n"
-                    "{\\colortbl;\\red26\\green26\\blue26;\\red85\\green85\\blue85;}\n"
+                    "{\\colortbl;\\red26\\green26\\blue26;\\red85\\green85\\blue85;"
+                    "\\red204\\green204\\blue204;}\n"
                     "{\\info{\\title " +
                     Rtf(g.TiTulo + " - " + g.Proyecto) + "}{\\author " + Rtf(g.Calculista) +
                     "}}\n\\paperw" + std::to_string(AnchoPapel) + "\\paperh" +
