@@ -2,7 +2,7 @@
 -- Imagen/ImagenViga.kvl; a new project is a copy of it.
 --
 -- Types: text TEXT; 16-bit, 32-bit integers and bytes INTEGER; double REAL; yes/no INTEGER
--- 0 or 1, never Null; the date as TEXT 'yyyy-mm-dd'. Beam names compare and sort with the
+-- 0 or 1, never Null; the date as TEXT 'dd/MM/yyyy'. Beam names compare and sort with the
 -- program's collation ESPANOL (case-blind, accents kept), known only to the program's own
 -- connections. No key constraint: the program keeps keys unique by deleting first.
 
