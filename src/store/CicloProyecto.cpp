@@ -46,7 +46,7 @@ std::string Mayusculas(const std::string& texto) {
     return resultado;
 }
 
-int Preguntar(EstadoProyecto& estado, PlataformaProyecto& plataforma, const Pregunta& pregunta) {
+int Preguntar(EstadoCiclo& estado, PlataformaProyecto& plataforma, const Pregunta& pregunta) {
     estado.Mensaje = pregunta.Texto;
     estado.Respuesta = plataforma.Preguntar(pregunta);
     return estado.Respuesta;
@@ -67,7 +67,7 @@ Pregunta PreguntaReemplazar(const std::string& titulo) {
 }
 
 // The project chosen: its title becomes the current project, not yet opened.
-void ElegirProyecto(const ArchivoElegido& archivo, EstadoProyecto& estado,
+void ElegirProyecto(const ArchivoElegido& archivo, EstadoCiclo& estado,
                     PlataformaProyecto& plataforma) {
     plataforma.PunteroEspera(true);
     estado.NombreProyecto = archivo.FileTitle;
@@ -78,7 +78,7 @@ void ElegirProyecto(const ArchivoElegido& archivo, EstadoProyecto& estado,
 
 // When no project is current, asks for one with the given title; false on cancel.
 bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpetas,
-                        EstadoProyecto& estado, PlataformaProyecto& plataforma) {
+                        EstadoCiclo& estado, PlataformaProyecto& plataforma) {
     if (!Recortado(estado.NombreProyecto).empty()) return true;
     const ArchivoElegido archivo =
         plataforma.PedirArchivo(titulo, ModoDialogo::Abrir, carpetas.RutaProyectos);
@@ -123,11 +123,11 @@ std::string TituloMenu(const std::string& nombreProyecto) {
     return "Trevalo 6.0  Proyecto: [" + nombreProyecto + "]";
 }
 
-std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoProyecto& estado) {
+std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoCiclo& estado) {
     return carpetas.RutaProyectos + "/" + estado.NombreProyecto;
 }
 
-void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                         PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -160,7 +160,7 @@ void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
     plataforma.HabilitarSalvarComo(true);
 }
 
-void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                    PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -169,7 +169,7 @@ void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     ElegirProyecto(archivo, estado, plataforma);
 }
 
-void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                        PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     if (!HayProyectoOElegir("Modificar los Datos Generales del Proyecto", carpetas, estado,
@@ -180,7 +180,7 @@ void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     plataforma.MostrarDatosGenerales(false);
 }
 
-void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                    PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     if (!HayProyectoOElegir("Analizar las Vigas del Proyecto", carpetas, estado, plataforma))
@@ -190,7 +190,7 @@ void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     plataforma.MostrarVigasProyecto();
 }
 
-void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                         PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -213,7 +213,7 @@ void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
     plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
 }
 
-void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                       PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -248,7 +248,7 @@ void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
 
 bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
                            const std::function<std::string()>& leerSeleccionada,
-                           EstadoProyecto& estado, PlataformaProyecto& plataforma) {
+                           EstadoCiclo& estado, PlataformaProyecto& plataforma) {
     const std::string nombre = Recortado(texto);
     if (nombre.empty()) return false;
     if (existe(nombre)) {
@@ -270,7 +270,7 @@ bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
 }
 
 bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
-                          const BuscarViga& existe, EstadoProyecto& estado,
+                          const BuscarViga& existe, EstadoCiclo& estado,
                           PlataformaProyecto& plataforma) {
     const std::string nombre = Recortado(texto);
     if (nombre.empty()) return false;
@@ -290,7 +290,7 @@ bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
     return true;
 }
 
-bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoCiclo& estado,
                            PlataformaProyecto& plataforma) {
     const std::string titulo = "Eliminando Vigas del Proyecto";
     const Pregunta primera =

@@ -93,7 +93,7 @@ class PlataformaProyectoDisco : public PlataformaProyecto {
 };
 
 // Program-wide project state shared by the windows.
-struct EstadoProyecto {
+struct EstadoCiclo {
     std::string NombreProyecto;
     bool ProyectoNuevo = false;
     std::string NombreVigaActual;
@@ -108,20 +108,20 @@ struct EstadoProyecto {
 std::string TituloMenu(const std::string& nombreProyecto);
 
 // The path of the current project: RutaProyectos + "/" + NombreProyecto.
-std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoProyecto& estado);
+std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoCiclo& estado);
 
 // The main menu's commands.
-void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                         PlataformaProyecto& plataforma);
-void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                    PlataformaProyecto& plataforma);
-void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                        PlataformaProyecto& plataforma);
-void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                    PlataformaProyecto& plataforma);
-void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                         PlataformaProyecto& plataforma);
-void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
+void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                       PlataformaProyecto& plataforma);
 
 // The questions around a beam. `existe` is the engine's search for a name among the beams
@@ -134,17 +134,17 @@ using BuscarViga = std::function<bool(const std::string& nombre)>;
 // name and DialogoAceptado becomes true; the caller then copies the beam.
 bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
                            const std::function<std::string()>& leerSeleccionada,
-                           EstadoProyecto& estado, PlataformaProyecto& plataforma);
+                           EstadoCiclo& estado, PlataformaProyecto& plataforma);
 
 // " Aceptar " of "Renombrar Vigas" for the beam `actual`. On yes, NombreRenombrar takes the
 // trimmed name and DialogoAceptado becomes true; the caller then renames the beam. A name
 // that differs from a taken one only in case is taken.
 bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
-                          const BuscarViga& existe, EstadoProyecto& estado,
+                          const BuscarViga& existe, EstadoCiclo& estado,
                           PlataformaProyecto& plataforma);
 
 // The two questions before the beam `nombre` is deleted; true when both were answered yes.
-bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoCiclo& estado,
                            PlataformaProyecto& plataforma);
 
 } // namespace trevalo

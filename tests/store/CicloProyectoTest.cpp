@@ -67,7 +67,7 @@ class Ciclo : public ::testing::Test {
 
     CarpetaPrueba tmp;
     CarpetasPrograma carpetas;
-    EstadoProyecto estado;
+    EstadoCiclo estado;
     PlataformaGuionada p;
 };
 
@@ -137,7 +137,7 @@ TEST_F(Ciclo, CrearEnOtraCarpetaCopiaEnProyectos) {
 
 TEST_F(Ciclo, CancelarNoCambiaNada) {
     estado.NombreProyecto = "Actual.trv";
-    using Operacion = void (*)(const CarpetasPrograma&, EstadoProyecto&, PlataformaProyecto&);
+    using Operacion = void (*)(const CarpetasPrograma&, EstadoCiclo&, PlataformaProyecto&);
     for (Operacion op :
          {&CrearNuevoProyecto, &AbrirProyecto, &SalvarComoProyecto, &EliminarProyecto}) {
         op(carpetas, estado, p);
