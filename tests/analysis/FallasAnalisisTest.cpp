@@ -23,7 +23,9 @@ struct Falla {
     std::string texto;
 };
 
-void PrintTo(const Falla& f, std::ostream* os) { *os << f.nombre; }
+void PrintTo(const Falla& f, std::ostream* os) {
+    *os << f.nombre;
+}
 
 const std::string kDivision = "División por cero";
 const std::string kSubindice = "El subíndice está fuera del intervalo";

@@ -154,7 +154,9 @@ std::vector<Caso> Casos() {
     };
 }
 
-void PrintTo(const Caso& c, std::ostream* os) { *os << c.nombre; }
+void PrintTo(const Caso& c, std::ostream* os) {
+    *os << c.nombre;
+}
 
 class FormasCerradas : public ::testing::TestWithParam<Caso> {};
 
