@@ -159,11 +159,12 @@ TEST(TablasEntregadas, NumeradasDeMenorAMayor) {
         EXPECT_EQ(t.Filas.front().Designacion, primera) << archivo;
         for (std::size_t i = 0; i < t.Filas.size(); ++i)
             EXPECT_EQ(t.Filas[i].Numero, static_cast<std::int16_t>(i + 1));
-        if (familia == F::DobleTee || familia == F::SeccionU)
-            for (std::size_t i = 1; i < t.Filas.size(); ++i)
-                EXPECT_LE(ValorCampo(familia, t.Filas[i - 1], "DimensionD"),
-                          ValorCampo(familia, t.Filas[i], "DimensionD"))
-                    << archivo << " " << t.Filas[i].Designacion;
+        if (familia != F::DobleTee && familia != F::SeccionU) continue;
+        for (std::size_t i = 1; i < t.Filas.size(); ++i) {
+            EXPECT_LE(ValorCampo(familia, t.Filas[i - 1], "DimensionD"),
+                      ValorCampo(familia, t.Filas[i], "DimensionD"))
+                << archivo << " " << t.Filas[i].Designacion;
+        }
     }
 }
 
