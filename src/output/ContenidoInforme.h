@@ -19,7 +19,7 @@ inline constexpr int AnchoGraficoPantalla = 710;
 inline constexpr int AltoGraficoPantalla = 810;
 // Pictures are painted at print resolution: the same layout scaled by this factor, so that
 // lines and text stay sharp on paper (about 300 dots per inch across the printed width).
-inline constexpr int FactorImpresion = 3;
+inline constexpr int FactorImpresion = 2;
 inline constexpr int AnchoGrafico = AnchoGraficoPantalla * FactorImpresion;
 inline constexpr int AltoGrafico = AltoGraficoPantalla * FactorImpresion;
 

@@ -9,7 +9,7 @@
 
 namespace trevalo {
 
-// Encodes a picture; fast compression, since a report writes hundreds of them.
+// Encodes a picture as 24-bit RGB with fast compression, since a report writes hundreds.
 std::vector<std::uint8_t> CodificarPng(const QImage& imagen);
 
 // Decodes a stored picture; a null image if the bytes are empty or not a PNG.

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cstring>
+#include <vector>
 
 #include "output/GraficoPng.h"
 
@@ -116,6 +118,33 @@ void PintarCabecera(QPainter& p, const ContenidoInforme& c) {
           QStringLiteral("Calculista"));
 }
 
+// The smallest rectangle that holds every pixel that is not white: only that part of a
+// picture goes to the page, which looks the same on white paper and spares a PDF the
+// compression of the blank margins of every picture.
+QRect ZonaPintada(const QImage& imagen) {
+    const QImage rgb = imagen.convertToFormat(QImage::Format_RGB32);
+    const auto ancho = static_cast<std::size_t>(rgb.width());
+    const std::vector<QRgb> blanca(ancho, qRgb(255, 255, 255));
+    auto filaBlanca = [&](int y) {
+        return std::memcmp(rgb.constScanLine(y), blanca.data(), ancho * sizeof(QRgb)) == 0;
+    };
+    int arriba = 0, abajo = rgb.height() - 1;
+    while (arriba <= abajo && filaBlanca(arriba)) ++arriba;
+    while (abajo > arriba && filaBlanca(abajo)) --abajo;
+    if (arriba > abajo) return {};
+    int izquierda = rgb.width(), derecha = -1;
+    for (int y = arriba; y <= abajo; ++y) {
+        const auto* fila = reinterpret_cast<const QRgb*>(rgb.constScanLine(y));
+        int x = 0;
+        while (x < izquierda && fila[x] == blanca[0]) ++x;
+        izquierda = std::min(izquierda, x);
+        x = rgb.width() - 1;
+        while (x > derecha && fila[x] == blanca[0]) --x;
+        derecha = std::max(derecha, x);
+    }
+    return QRect(QPoint(izquierda, arriba), QPoint(derecha, abajo));
+}
+
 void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme& grafico) {
     Letra(p, 8, true, ColorEtiqueta);
     const QRectF cabeza(Izquierda, Arriba, AnchoUtil, 14);
@@ -135,7 +164,12 @@ void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme&
     const QRectF marco(Izquierda + (AnchoUtil - tamano.width()) / 2, arriba, tamano.width(),
                        tamano.height());
     const QImage imagen = DecodificarPng(grafico.Grafico);
-    if (!imagen.isNull()) p.drawImage(marco, imagen);
+    if (const QRect zona = imagen.isNull() ? QRect() : ZonaPintada(imagen); !zona.isEmpty()) {
+        const double e = marco.width() / imagen.width();
+        p.drawImage(QRectF(marco.left() + zona.left() * e, marco.top() + zona.top() * e,
+                           zona.width() * e, zona.height() * e),
+                    imagen, zona);
+    }
     p.setPen(QPen(ColorRaya, 0.5));
     p.setBrush(Qt::NoBrush);
     p.drawRect(marco);

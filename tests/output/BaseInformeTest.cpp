@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,6 +11,7 @@
 #include "VerificaError.h"
 #include "output/BaseInforme.h"
 #include "output/LlenarImpreDatos.h"
+#include "platform/MotorDatos.h"
 
 namespace trevalo {
 namespace {
@@ -68,8 +67,7 @@ TEST_F(FillTest, GeneralesHoldsExactlyOneRowWithEveryField) {
     Recorrido r;
     LlenarImpreDatos(ruta, Generales(), {"V-1"}, {}, r.Pasos());
     LlenarImpreDatos(ruta, Generales(), {"V-1"}, {}, r.Pasos());
-    SQLite::Database bd(ruta);
-    EXPECT_EQ(bd.execAndGet("SELECT COUNT(*) FROM Generales").getInt(), 1);
+    EXPECT_EQ(BaseDatos::Abrir(ruta).AbrirRecordset("Generales").RecordCount(), 1);
     const auto c = LeerBaseInforme(ruta);
     EXPECT_EQ(c.Generales.TiTulo, "ANALISIS Y DISEÑO DE VIGAS CONTINUAS");
     EXPECT_EQ(c.Generales.Usuario, "Ing. Núñez");
@@ -184,15 +182,11 @@ TEST_F(FillTest, AFailureMidwayLeavesTheLastReportAsItWas) {
 }
 
 TEST_F(FillTest, ReadingSortsPicturesByNumeroWhateverTheStoredOrder) {
-    {
-        SQLite::Database bd(ruta, SQLite::OPEN_READWRITE);
-        for (int n : {3, 1, 2}) {
-            SQLite::Statement s(bd, "INSERT INTO Graficos (Numero, Grafico) VALUES (?, ?)");
-            s.bind(1, n);
-            const std::string b = "g" + std::to_string(n);
-            s.bind(2, b.data(), static_cast<int>(b.size()));
-            s.exec();
-        }
+    auto bd = BaseDatos::Abrir(ruta);
+    for (int n : {3, 1, 2}) {
+        const std::string b = "g" + std::to_string(n);
+        bd.Ejecutar("INSERT INTO Graficos (Numero, Grafico) VALUES (?, ?)",
+                    {n, Valor::Binario(b.begin(), b.end())});
     }
     const auto c = LeerBaseInforme(ruta);
     ASSERT_EQ(c.Graficos.size(), 3u);

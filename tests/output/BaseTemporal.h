@@ -1,9 +1,8 @@
 #pragma once
-// A fresh report database for each test, in a folder of its own.
+// A fresh report database for each test, in a folder of its own: a copy of the empty
+// template that the installation ships.
 
 #include <gtest/gtest.h>
-
-#include <SQLiteCpp/SQLiteCpp.h>
 
 #include <filesystem>
 #include <string>
@@ -21,10 +20,7 @@ class BaseTemporalTest : public testing::Test {
         std::filesystem::remove_all(carpeta);
         std::filesystem::create_directories(carpeta);
         ruta = (carpeta / "Temporal.mdb").string();
-        SQLite::Database bd(ruta, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-        bd.exec("CREATE TABLE Generales (Usuario TEXT, Version TEXT, TiTulo TEXT, "
-                "Proyecto TEXT, Propietario TEXT, Calculista TEXT, FC REAL, FY REAL, D8 REAL);"
-                "CREATE TABLE Graficos (Numero INTEGER, Grafico BLOB);");
+        std::filesystem::copy_file(TREVALO_RUTA_PROGRAMA "/Imagen/Temporal.kvl", ruta);
     }
     void TearDown() override { std::filesystem::remove_all(carpeta); }
 
