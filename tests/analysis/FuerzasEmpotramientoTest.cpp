@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "VerificaError.h"
+#include "analysis/CargasPrueba.h"
 #include "analysis/CorteMomentoTramo.h"
 #include "analysis/FuerzasEmpotramiento.h"
 #include "analysis/VigasPrueba.h"
@@ -17,14 +18,6 @@ namespace trevalo {
 namespace {
 
 using namespace prueba;
-
-// A straight piece of load: q0 at x0 rising or falling linearly to q1 at x1 (kgf/m).
-struct Pieza {
-    double x0, x1, q0, q1;
-};
-struct Puntual {
-    double P, x;
-};
 
 // End forces of a fixed-fixed beam of length L, as equivalent joint loads.
 FuerzasExtremos Integrar(double L, const std::vector<Pieza>& piezas,
@@ -51,103 +44,12 @@ FuerzasExtremos Integrar(double L, const std::vector<Pieza>& piezas,
     return f;
 }
 
-const double L = 7.5;
+const double L = LCarga;
 
-struct CasoFE {
-    std::string nombre;
-    void (*cargar)(VigaActual&);
-    std::vector<Pieza> piezas;
-    std::vector<Puntual> puntuales;
-};
-
-void PrintTo(const CasoFE& c, std::ostream* os) {
-    *os << c.nombre;
-}
-
-std::vector<CasoFE> CasosFE() {
-    return {
-        {"Uniforme", [](VigaActual& v) { v.W1(1) = 1800; }, {{0, L, 1800, 1800}}, {}},
-        {"Puntuales",
-         [](VigaActual& v) {
-             v.CantW2(1) = 3;
-             v.P(1, 1) = 4000;
-             v.LP(1, 1) = 1.2;
-             v.P(1, 2) = -1500;
-             v.LP(1, 2) = 3.75;
-             v.P(1, 3) = 2500;
-             v.LP(1, 3) = 6.9;
-         },
-         {},
-         {{4000, 1.2}, {-1500, 3.75}, {2500, 6.9}}},
-        {"Parciales",
-         [](VigaActual& v) {
-             v.CantW3(1) = 2;
-             v.W3_(1, 1) = 900;
-             v.La3_(1, 1) = 0.5;
-             v.Lb3_(1, 1) = 3;
-             v.W3_(1, 2) = 1300;
-             v.La3_(1, 2) = 2;
-             v.Lb3_(1, 2) = 7.5;
-         },
-         {{0.5, 3, 900, 900}, {2, 7.5, 1300, 1300}},
-         {}},
-        {"Triangular",
-         [](VigaActual& v) { v.W4(1) = 2400; },
-         {{0, L / 2, 0, 2400}, {L / 2, L, 2400, 0}},
-         {}},
-        {"Trapecio1",
-         [](VigaActual& v) {
-             v.W5(1) = 2000;
-             v.la5(1) = 1.5;
-         },
-         {{0, 1.5, 0, 2000}, {1.5, L - 1.5, 2000, 2000}, {L - 1.5, L, 2000, 0}},
-         {}},
-        {"TriangularDerecha",
-         [](VigaActual& v) {
-             v.CantW6(1) = 2;
-             v.W6_(1, 1) = 1700;
-             v.La6_(1, 1) = 1;
-             v.Lb6_(1, 1) = 4;
-             v.W6_(1, 2) = 600;
-             v.La6_(1, 2) = 0;
-             v.Lb6_(1, 2) = L;
-         },
-         {{1, 4, 0, 1700}, {0, L, 0, 600}},
-         {}},
-        {"TriangularIzquierda",
-         [](VigaActual& v) {
-             v.CantW7(1) = 1;
-             v.W7_(1, 1) = 2100;
-             v.La7_(1, 1) = 2.5;
-             v.Lb7_(1, 1) = 6;
-         },
-         {{2.5, 6, 2100, 0}},
-         {}},
-        {"Trapecio2",
-         [](VigaActual& v) {
-             v.CantW8(1) = 3;
-             v.WIzq8_(1, 1) = 500;
-             v.WDer8_(1, 1) = 1900;
-             v.La8_(1, 1) = 0.5;
-             v.Lb8_(1, 1) = 5;
-             v.WIzq8_(1, 2) = 2200;
-             v.WDer8_(1, 2) = 800;
-             v.La8_(1, 2) = 3;
-             v.Lb8_(1, 2) = 7;
-             v.WIzq8_(1, 3) = 700;
-             v.WDer8_(1, 3) = 700;
-             v.La8_(1, 3) = 1;
-             v.Lb8_(1, 3) = 2;
-         },
-         {{0.5, 5, 500, 1900}, {3, 7, 2200, 800}, {1, 2, 700, 700}},
-         {}},
-    };
-}
-
-class FuerzasPorTipo : public ::testing::TestWithParam<CasoFE> {};
+class FuerzasPorTipo : public ::testing::TestWithParam<CasoCarga> {};
 
 TEST_P(FuerzasPorTipo, CoincidenConLaIntegracion) {
-    const CasoFE& caso = GetParam();
+    const CasoCarga& caso = GetParam();
     VigaActual v = VigaRecta({L});
     ProyectoActual p = ProyectoPrueba();
     caso.cargar(v);
@@ -164,7 +66,7 @@ TEST_P(FuerzasPorTipo, CoincidenConLaIntegracion) {
     EXPECT_EQ(f.NJ, 0.0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cargas, FuerzasPorTipo, ::testing::ValuesIn(CasosFE()),
+INSTANTIATE_TEST_SUITE_P(Cargas, FuerzasPorTipo, ::testing::ValuesIn(CasosCarga()),
                          [](const auto& info) { return info.param.nombre; });
 
 // Own weight: 0.25 x 0.5 x 2500 = 312.5 kgf/m, rounded to the even 312; steel by its area.
