@@ -17,8 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace trevalo;
 
-void Construir(const std::string& plantilla, const std::string& destino, int nVigas,
-               char** vigas) {
+void Construir(const std::string& plantilla, const std::string& destino, int nVigas, char** vigas) {
     fs::copy_file(plantilla, destino, fs::copy_options::overwrite_existing);
     EstadoProyecto estado;
     estado.BDProyecto = BaseDatos::Abrir(destino);

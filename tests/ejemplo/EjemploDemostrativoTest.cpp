@@ -52,8 +52,8 @@ class EjemploDemostrativo : public ::testing::Test {
   protected:
     static void SetUpTestSuite() {
         ASSERT_TRUE(fs::is_regular_file(Ejemplo)) << "build the data targets first";
-        const std::string copia = fs::temp_directory_path() /
-                                  ("trevalo_ejemplo_" + std::to_string(::getpid()) + ".trv");
+        const std::string copia =
+            fs::temp_directory_path() / ("trevalo_ejemplo_" + std::to_string(::getpid()) + ".trv");
         fs::remove(copia);
         vigas_ = new std::map<std::string, VigaResuelta>(ResolverEjemplo(copia));
         fs::remove(copia);
@@ -109,13 +109,12 @@ TEST_P(Equilibrio, ReaccionesIgualanLasCargas) {
                 1e-6 * GetParam().cargaTotal);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Vigas, Equilibrio,
-    ::testing::Values(CasoEquilibrio{"V-101 Entrepiso Eje B", 55137.5},
-                      CasoEquilibrio{"V-201 Techo Galpón IPE 300", 8580},
-                      CasoEquilibrio{"V-102 Balcón en Volado", 13109.6},
-                      CasoEquilibrio{"V-001 Fundación sobre Pilotes", 188400},
-                      CasoEquilibrio{"V-401 Viga de Transferencia", 107200}));
+INSTANTIATE_TEST_SUITE_P(Vigas, Equilibrio,
+                         ::testing::Values(CasoEquilibrio{"V-101 Entrepiso Eje B", 55137.5},
+                                           CasoEquilibrio{"V-201 Techo Galpón IPE 300", 8580},
+                                           CasoEquilibrio{"V-102 Balcón en Volado", 13109.6},
+                                           CasoEquilibrio{"V-001 Fundación sobre Pilotes", 188400},
+                                           CasoEquilibrio{"V-401 Viga de Transferencia", 107200}));
 
 TEST_F(EjemploDemostrativo, TodasLasVigasResuelvenConResultadosFinitos) {
     ASSERT_GE(vigas_->size(), 6u);
@@ -182,9 +181,9 @@ TEST_F(EjemploDemostrativo, MuestraCadaRasgoDeUnaViga) {
         for (long k = 1; k <= v.NJRes; ++k) sostenidas.insert(v.R10(k));
         volado |= !sostenidas.count(1) || !sostenidas.count(v.NT + 1);
         for (long t = 1; t <= v.NT; ++t) {
-            const int presentes[] = {v.W1(t) != 0,     v.CantW2(t) > 0, v.CantW3(t) > 0,
-                                     v.W4(t) != 0,     v.W5(t) != 0,    v.CantW6(t) > 0,
-                                     v.CantW7(t) > 0,  v.CantW8(t) > 0};
+            const int presentes[] = {v.W1(t) != 0,    v.CantW2(t) > 0, v.CantW3(t) > 0,
+                                     v.W4(t) != 0,    v.W5(t) != 0,    v.CantW6(t) > 0,
+                                     v.CantW7(t) > 0, v.CantW8(t) > 0};
             for (int tipo = 1; tipo <= 8; ++tipo)
                 if (presentes[tipo - 1]) tiposCarga.insert(tipo);
         }
@@ -222,9 +221,9 @@ TEST(InicioInstalado, CopiaLoQueLaInstalacionTrae) {
                   LeerArchivo(e.path().string()));
     }
     EXPECT_GT(tablas, 0);
-    EXPECT_EQ(std::distance(fs::directory_iterator(carpetas.RutaPerfiles),
-                            fs::directory_iterator()),
-              tablas);
+    EXPECT_EQ(
+        std::distance(fs::directory_iterator(carpetas.RutaPerfiles), fs::directory_iterator()),
+        tablas);
 }
 
 } // namespace
