@@ -1,0 +1,191 @@
+// What the user does to the view: zoom steps, pans, the tools of stations and text factor,
+// and the selection of spans by a band with its five tests.
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "VigasPrueba.h"
+#include "drawing/OperacionesVista.h"
+
+using namespace trevalo;
+
+namespace {
+
+TEST(Zoom, DiezPasosAfueraLleganADecimoYSeQuedan) {
+    EstadoPloteos e;
+    for (int i = 0; i < 9; ++i) EjecuteZoomOut(e);
+    EXPECT_NEAR(e.FactorZoom, 0.1, 1e-12);
+    EjecuteZoomOut(e);
+    EXPECT_EQ(e.FactorZoom, 0.1);
+    EjecuteZoomOut(e);
+    EXPECT_EQ(e.FactorZoom, 0.1);
+    EjecuteZoomIn(e); // steps add: 0.1 + 0.1
+    EXPECT_NEAR(e.FactorZoom, 0.2, 1e-12);
+    for (int i = 0; i < 30; ++i) EjecuteZoomIn(e);
+    EXPECT_NEAR(e.FactorZoom, 3.2, 1e-9); // no upper limit
+}
+
+TEST(Zoom, ExtensionReiniciaSoloLoDeLaVentana) {
+    for (bool ventanaProyecto : {true, false}) {
+        EstadoPloteos e;
+        e.FactorZoom = 2.3;
+        e.PanX = 5;
+        e.PanY = -7;
+        e.EstacionesDiagrama = 14;
+        e.EstacionesDiseno = 5;
+        e.FactorLetra = 1.7;
+        EjecuteZoomExtents(e, ventanaProyecto);
+        EXPECT_EQ(e.FactorZoom, 1.0);
+        EXPECT_EQ(e.PanX, 0.0);
+        EXPECT_EQ(e.PanY, 0.0);
+        EXPECT_EQ(e.EstacionesDiagrama, ventanaProyecto ? 10 : 14);
+        EXPECT_EQ(e.EstacionesDiseno, ventanaProyecto ? 2 : 5);
+        EXPECT_EQ(e.FactorLetra, ventanaProyecto ? 1.0 : 1.7);
+    }
+}
+
+TEST(Teclado, FlechasMuevenContraSuSentidoCuatroDecimasDeMetro) {
+    struct Caso {
+        int tecla;
+        double panX, panY;
+    };
+    // Escala 50 px/m: a step is 20 pixels.
+    for (const auto& c : {Caso{TeclaIzquierda, 20, 0}, Caso{TeclaDerecha, -20, 0},
+                          Caso{TeclaArriba, 0, 20}, Caso{TeclaAbajo, 0, -20}}) {
+        EstadoPloteos e;
+        e.Escala = 50;
+        EXPECT_TRUE(TeclaLienzo(e, c.tecla, true));
+        EXPECT_DOUBLE_EQ(e.PanX, c.panX) << c.tecla;
+        EXPECT_DOUBLE_EQ(e.PanY, c.panY) << c.tecla;
+    }
+    EstadoPloteos e;
+    e.Escala = 50;
+    EXPECT_TRUE(TeclaLienzo(e, TeclaMasNumerico, true));
+    EXPECT_NEAR(e.FactorZoom, 1.1, 1e-12);
+    EXPECT_TRUE(TeclaLienzo(e, TeclaMenosNumerico, true));
+    EXPECT_TRUE(TeclaLienzo(e, TeclaIzquierda, true));
+    EXPECT_TRUE(TeclaLienzo(e, TeclaEscape, true));
+    EXPECT_EQ(e.PanX, 0.0);
+    EXPECT_FALSE(TeclaLienzo(e, 65, true)); // 'A' does nothing
+}
+
+TEST(Herramientas, DireccionesDelEditorSonDiezPixelesFijos) {
+    EstadoPloteos e;
+    e.Escala = 300;
+    DesplazarVista(e, Direccion::Izquierda);
+    EXPECT_EQ(e.PanX, -10.0);
+    DesplazarVista(e, Direccion::Derecha);
+    DesplazarVista(e, Direccion::Derecha);
+    EXPECT_EQ(e.PanX, 10.0);
+    DesplazarVista(e, Direccion::Arriba);
+    EXPECT_EQ(e.PanY, 10.0);
+    DesplazarVista(e, Direccion::Abajo);
+    DesplazarVista(e, Direccion::Abajo);
+    EXPECT_EQ(e.PanY, -10.0);
+}
+
+TEST(Herramientas, ArrastreUnPixelPorPixel) {
+    EstadoPloteos e;
+    double ux = 100, uy = 100;
+    EXPECT_FALSE(ArrastrarVista(e, ux, uy, 100, 100));
+    EXPECT_TRUE(ArrastrarVista(e, ux, uy, 130, 90));
+    EXPECT_TRUE(ArrastrarVista(e, ux, uy, 131, 95));
+    EXPECT_EQ(e.PanX, 31.0);
+    EXPECT_EQ(e.PanY, -5.0);
+    EXPECT_EQ(ux, 131.0);
+    EXPECT_EQ(uy, 95.0);
+}
+
+TEST(Herramientas, EstacionesYLetraConSusLimites) {
+    EstadoPloteos e;
+    for (int i = 0; i < 20; ++i) DisminuirEstaciones(e, 2);
+    EXPECT_EQ(e.EstacionesDiagrama, 2);
+    for (int i = 0; i < 20; ++i) DisminuirEstaciones(e, 3);
+    EXPECT_EQ(e.EstacionesDiseno, 1);
+    AumentarEstaciones(e, 2);
+    AumentarEstaciones(e, 3);
+    AumentarEstaciones(e, 1); // the elevation has no stations
+    AumentarEstaciones(e, 4);
+    EXPECT_EQ(e.EstacionesDiagrama, 3);
+    EXPECT_EQ(e.EstacionesDiseno, 2);
+    for (int i = 0; i < 20; ++i) LetraMenos(e);
+    EXPECT_EQ(e.FactorLetra, 0.3);
+    LetraMas(e);
+    EXPECT_NEAR(e.FactorLetra, 0.4, 1e-12);
+    LetraR(e);
+    EXPECT_EQ(e.FactorLetra, 1.0);
+}
+
+TEST(Banda, EsquinaMenorYTamanoAbsoluto) {
+    const auto b = BandaDeArrastre(50, 40, 20, 70);
+    EXPECT_EQ(b.Left, 20);
+    EXPECT_EQ(b.Top, 40);
+    EXPECT_EQ(b.Width, 30);
+    EXPECT_EQ(b.Height, 30);
+}
+
+// Two spans at 100 px/m with the origin at (0, 0): span 1 level from (0, 0) to (100, 0),
+// span 2 rising from (100, 0) to (200, -100), slope -1 on the screen.
+EstadoPloteos DosTramos() {
+    EstadoPloteos e;
+    e.Escala = 100;
+    e.XPlot.Redim(3);
+    e.YPlot.Redim(3);
+    e.XPlot(2) = 1;
+    e.XPlot(3) = 2;
+    e.YPlot(3) = -1;
+    return e;
+}
+
+struct CasoBanda {
+    const char* nombre;
+    BandaSeleccion banda;
+    std::set<long> tomados;
+};
+
+class SeleccionPorBanda : public ::testing::TestWithParam<CasoBanda> {};
+
+TEST_P(SeleccionPorBanda, CincoPruebas) {
+    const auto& c = GetParam();
+    const auto e = DosTramos();
+    auto viga = prueba::VigaDeTramos({1, 1.4142135623730951});
+    const auto tomados = SeleccioneZoom(e, viga, c.banda);
+    EXPECT_EQ(std::set<long>(tomados.begin(), tomados.end()), c.tomados);
+    for (long i = 1; i <= 2; ++i) EXPECT_EQ(viga.TramoMarcado(i), c.tomados.count(i) == 1) << i;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Banda, SeleccionPorBanda,
+    ::testing::Values(
+        // 1 and 4: the level span wholly inside; span 2 starts beyond the right edge.
+        CasoBanda{"Entero", {-10, -10, 100, 20}, {1}},
+        // 2: the level span crosses the band's left edge at the band's height.
+        CasoBanda{"BordeIzquierdoHorizontal", {40, -5, 20, 10}, {1}},
+        // 2 on the slope: at x = 140 the span is at y = -40, inside -60..-20.
+        CasoBanda{"BordeIzquierdoInclinado", {140, -60, 20, 40}, {2}},
+        // 5: the second end of span 2 inside.
+        CasoBanda{"SegundoExtremo", {190, -110, 20, 20}, {2}},
+        // Kept: the right-edge test reuses the left edge's offset with the opposite sign, so
+        // it misses span 2 that plainly runs through the band (y = -25 at x = 125) ...
+        CasoBanda{"BordeDerechoNoVe", {110, -32, 20, 10}, {}},
+        // ... and takes it from a band far below it (the span is at -20..-40 there).
+        CasoBanda{"BordeDerechoVeDeMas", {120, 10, 20, 20}, {2}},
+        // A level span: the tests reduce to the band's height against the line.
+        CasoBanda{"HorizontalFueraDeAltura", {40, 5, 20, 10}, {}}),
+    [](const auto& info) { return std::string(info.param.nombre); });
+
+TEST(Banda, SoloAgregaYSaltaTramosSinAncho) {
+    auto e = DosTramos();
+    auto viga = prueba::VigaDeTramos({1, 1});
+    viga.TramoMarcado(2) = true;
+    EXPECT_EQ(SeleccioneZoom(e, viga, {40, -5, 20, 10}), std::vector<long>{1});
+    EXPECT_TRUE(viga.TramoMarcado(1));
+    EXPECT_TRUE(viga.TramoMarcado(2));
+    // A span whose ends share x is never taken, even by a band over its ends.
+    e.XPlot(3) = 1;
+    auto otra = prueba::VigaDeTramos({1, 1});
+    EXPECT_EQ(SeleccioneZoom(e, otra, {90, -110, 20, 120}), std::vector<long>{1});
+}
+
+} // namespace
