@@ -19,7 +19,9 @@ DireccionTramo DireccionDeTramo(const GeometriaJuntas& g, long i) {
     return d;
 }
 
-long CantidadEstaciones(double ancho, long estaciones) { return CI(ancho * estaciones); }
+long CantidadEstaciones(double ancho, long estaciones) {
+    return CI(ancho * estaciones);
+}
 
 FuerzasEstacion FuerzasEnEstacion(const ProyectoActual& proyecto, const VigaActual& viga,
                                   const ResultadosViga& resultados, const GeometriaJuntas& g,
@@ -27,8 +29,8 @@ FuerzasEstacion FuerzasEnEstacion(const ProyectoActual& proyecto, const VigaActu
     const auto t = static_cast<std::int16_t>(i);
     const DireccionTramo d = DireccionDeTramo(g, i);
     FuerzasEstacion f;
-    CorteMomentoTramo(viga, resultados, t, PesoPropioTramo(proyecto, viga, t), d.largo,
-                      x / d.cos, d.cos, d.sin, f.M, f.V);
+    CorteMomentoTramo(viga, resultados, t, PesoPropioTramo(proyecto, viga, t), d.largo, x / d.cos,
+                      d.cos, d.sin, f.M, f.V);
     f.M *= viga.FMayorTramo(i);
     f.V *= viga.FMayorTramo(i);
     return f;

@@ -39,8 +39,8 @@ PuntoPlot Desplazado(PuntoPlot p, const TramoDiagrama& t, double largo) {
     return {p.first + largo * t.sinA, p.second + largo - largo * (1 - t.cosA)};
 }
 
-void Cuadrilatero(Lienzo& lienzo, PuntoPlot b0, PuntoPlot b1, const TramoDiagrama& t,
-                  double o0, double o1, const Pluma& pluma) {
+void Cuadrilatero(Lienzo& lienzo, PuntoPlot b0, PuntoPlot b1, const TramoDiagrama& t, double o0,
+                  double o1, const Pluma& pluma) {
     PoligonoConPluma(lienzo, pluma, {b0, Desplazado(b0, t, o0), Desplazado(b1, t, o1), b1});
 }
 
@@ -62,9 +62,8 @@ void EtiquetasMargen(Lienzo& lienzo, const EstadoPloteos& v, double longTotal) {
 
 // Labels of the station at x0 (the k-th of n) with its moment M0 and shear V0.
 void EtiquetasEstacion(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga,
-                       const ResultadosViga& r, const EscalaDiagramas& esc,
-                       const TramoDiagrama& t, long estacion, long n, double x0,
-                       const FuerzasEstacion& f0) {
+                       const ResultadosViga& r, const EscalaDiagramas& esc, const TramoDiagrama& t,
+                       long estacion, long n, double x0, const FuerzasEstacion& f0) {
     const double k = t.k;
     const double xs = v.Escala * (x0 + v.XPlot(t.i)) + v.OrigenX;
     const double yi = v.Escala * v.YPlot(t.i) + v.OrigenY;
@@ -82,16 +81,16 @@ void EtiquetasEstacion(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual&
     if (estacion == 1) {
         const std::string texto = (positivo ? "+" : "") + Formato(f0.M, "0");
         medir(texto, w, e);
-        const double y = positivo ? baseEn(x0 - (w / 2) / v.Escala, 4 * k)
-                                  : yi + t.bajada - 2 * k + f0.M * t.F;
+        const double y =
+            positivo ? baseEn(x0 - (w / 2) / v.Escala, 4 * k) : yi + t.bajada - 2 * k + f0.M * t.F;
         TextoRotado(lienzo, texto, xs, y, 90);
     }
     if (estacion == n && t.i == viga.NT) {
         const double mj = r.MomJ(t.i) * viga.FMayorTramo(t.i);
         const std::string texto = Formato(mj, "0");
         medir(texto, w, e);
-        double y = v.Escala * v.YPlot(t.i + 1) + v.OrigenY + t.bajada - 2 +
-                   RoundKorvel(mj, 0) * t.F;
+        double y =
+            v.Escala * v.YPlot(t.i + 1) + v.OrigenY + t.bajada - 2 + RoundKorvel(mj, 0) * t.F;
         if (RoundKorvel(r.MomJ(t.i), 0) > 0) y += w + 5;
         TextoRotado(lienzo, texto, xs + e / 2, y, 90);
     }
@@ -110,7 +109,9 @@ void EtiquetasEstacion(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual&
         const std::string texto = Formato(r.CorJ(t.i) * viga.FMayorTramo(t.i), "0");
         medir(texto, w, e);
         const double xj = v.Escala * v.XPlot(t.i + 1) + v.OrigenX;
-        TextoRotado(lienzo, texto, xj + (4 * k + w) * t.sinA, baseEn(x0, 0) + 112 * k + w + 4 * k - (4 * k + w) * (1 - t.cosA), 90 + t.grados);
+        TextoRotado(lienzo, texto, xj + (4 * k + w) * t.sinA,
+                    baseEn(x0, 0) + 112 * k + w + 4 * k - (4 * k + w) * (1 - t.cosA),
+                    90 + t.grados);
     }
 }
 
@@ -129,8 +130,7 @@ void PlotearTramo(Lienzo& lienzo, const EstadoPloteos& v, const ProyectoActual& 
         const PuntoPlot b0 = Base(v, t, x0), b1 = Base(v, t, x1);
         lienzo.DrawMode = DrawModeCopiar;
         lienzo.FillColor = RellenoMomento;
-        Cuadrilatero(lienzo, b0, b1, t, f0.M * t.F, f1.M * t.F,
-                     {EstiloSolido, 1, PlumaMomento});
+        Cuadrilatero(lienzo, b0, b1, t, f0.M * t.F, f1.M * t.F, {EstiloSolido, 1, PlumaMomento});
         lienzo.DrawMode = DrawModeMascara;
         lienzo.FillColor = RellenoCorte;
         Cuadrilatero(lienzo, {b0.first, b0.second + bajadaCorte},

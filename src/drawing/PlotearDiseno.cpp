@@ -15,10 +15,10 @@ constexpr Color ColorDespiece = 0x0000FF; // red
 // Rows of the sheet, as distances below BaseY in pixels (k = FactorSimbolo).
 struct FilasHoja {
     double k = 1;
-    double H0 = 0;     // first row: 115 k for concrete, 30 k for steel
-    double E4 = 0;     // gap added once per group of rows
-    double extra = 0;  // ExtraDiseno
-    double izquierda = 0; // left end of the beam on the screen
+    double H0 = 0;             // first row: 115 k for concrete, 30 k for steel
+    double E4 = 0;             // gap added once per group of rows
+    double extra = 0;          // ExtraDiseno
+    double izquierda = 0;      // left end of the beam on the screen
     double YAsI = 0, YMuS = 0; // absolute heights kept for the detailing strip
 };
 
@@ -103,9 +103,9 @@ void Reacciones(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga,
         }
         if (RoundKorvel(r.ReacH(j), 0) != 0) {
             const double s = r.ReacH(j) > 0 ? -1 : 1; // arrow left of the joint for > 0
-            PoligonoEn(lienzo, {{x + s * 5 * k, y},
-                                {x + s * 11 * k, y - 6 * k},
-                                {x + s * 11 * k, y + 6 * k}});
+            PoligonoEn(
+                lienzo,
+                {{x + s * 5 * k, y}, {x + s * 11 * k, y - 6 * k}, {x + s * 11 * k, y + 6 * k}});
             RectanguloEn(lienzo, x + s * 11 * k, y - 2 * k, x + s * 35 * k, y + 2 * k);
             const std::string texto = Formato(r.ReacH(j), "0");
             const TextoHoja m = Medir(lienzo, v, texto);
@@ -133,16 +133,16 @@ void Celdas(Lienzo& lienzo, const EstadoPloteos& v, const FilasHoja& f,
 }
 
 // The empty strip for detailing bars by hand, on report pictures of concrete beams.
-void Despiece(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga,
-              const FilasHoja& f) {
+void Despiece(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga, const FilasHoja& f) {
     const double k = f.k;
     const double y = f.YAsI + (f.YMuS - f.YAsI) / 2 - 10 * k;
     LineaPen(lienzo, CI(v.Escala * v.XPlot(1) + v.OrigenX - 10 * k), CI(y),
-             CI(v.Escala * v.XPlot(viga.NT + 1) + v.OrigenX + 10 * k), CI(y),
-             ColorDespiece, 1, EstiloGuionPuntoPunto);
+             CI(v.Escala * v.XPlot(viga.NT + 1) + v.OrigenX + 10 * k), CI(y), ColorDespiece, 1,
+             EstiloGuionPuntoPunto);
     const auto columna = [&](const std::string& texto, bool unidad, auto altura) {
         const TextoHoja m = Medir(lienzo, v, texto);
-        TextoRotado(lienzo, texto, CI(f.izquierda - m.TH - (unidad ? 23 : 35) * k), altura(m.TW), 90);
+        TextoRotado(lienzo, texto, CI(f.izquierda - m.TH - (unidad ? 23 : 35) * k), altura(m.TW),
+                    90);
     };
     columna("DESPIECE", false, [&](long TW) { return y + TW / 2.0; });
     columna("Superior", true, [&](long) { return y - 10 * k; });
@@ -165,8 +165,7 @@ void PlotearDiseno(Lienzo& lienzo, EstadoPloteos& v, const ProyectoActual& proye
 
     Reacciones(lienzo, v, viga, r);
     const std::vector<TramoDiseno> tabla =
-        TablaDiseno(proyecto, viga, r, v.XPlot, v.YPlot,
-                    v.EstacionesDiseno, resumen);
+        TablaDiseno(proyecto, viga, r, v.XPlot, v.YPlot, v.EstacionesDiseno, resumen);
     const double e = 1 / v.Escala;
     for (const TramoDiseno& tramo : tabla) {
         double P = 9 * e;

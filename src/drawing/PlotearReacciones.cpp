@@ -54,8 +54,8 @@ void Rotulo(Lienzo& lienzo, const EstadoPloteos& v, double longTotal, const std:
 
 // One reaction row at joint j: vertical value `rv`, horizontal `rh` (already at the row's
 // level); `hayV`, `arriba`, `hayH` are the row's own tests.
-void Reacciones(Lienzo& lienzo, const EstadoPloteos& v, double x, double y0, double rv,
-                double rh, bool hayV, bool arriba, bool hayH, bool haciaDerecha) {
+void Reacciones(Lienzo& lienzo, const EstadoPloteos& v, double x, double y0, double rv, double rh,
+                bool hayV, bool arriba, bool hayH, bool haciaDerecha) {
     const double k = v.FactorSimbolo;
     if (hayV) {
         FlechaVertical(lienzo, x, y0, arriba);
@@ -116,8 +116,7 @@ void PlotearReacciones(Lienzo& lienzo, EstadoPloteos& v, const ProyectoActual&,
         const double y0 = v.Escala * v.YPlot(j) + v.OrigenY + 135 * k;
         if (j == 1) Rotulo(lienzo, v, viga.LongTotal, "R(Servicio)", 43, y0);
         Reacciones(lienzo, v, x, y0, r.ReacV(j), r.ReacH(j), r.ReacV(j) != 0,
-                   RoundKorvel(r.ReacV(j), 0) > 0, RoundKorvel(r.ReacH(j), 0) != 0,
-                   r.ReacH(j) > 0);
+                   RoundKorvel(r.ReacV(j), 0) > 0, RoundKorvel(r.ReacH(j), 0) != 0, r.ReacH(j) > 0);
     }
     lienzo.FillStyle = RellenoTransparente;
     for (long j = 1; j <= viga.NT + 1; ++j) {

@@ -33,8 +33,8 @@ TEST(PlotearDiagramas, DosPoligonosPorEstacionYAlturaFija) {
         for (const auto& o : p) {
             const long ord = std::max(std::labs(o.Puntos[1].y - o.Puntos[0].y),
                                       std::labs(o.Puntos[2].y - o.Puntos[3].y));
-            (o.DrawMode == DrawModeMascara ? maxV : maxM) = std::max(
-                o.DrawMode == DrawModeMascara ? maxV : maxM, ord);
+            (o.DrawMode == DrawModeMascara ? maxV : maxM) =
+                std::max(o.DrawMode == DrawModeMascara ? maxV : maxM, ord);
         }
         EXPECT_EQ(maxM, 60) << caso.estaciones;
         EXPECT_EQ(maxV, 60) << caso.estaciones;

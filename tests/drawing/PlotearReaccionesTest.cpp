@@ -17,8 +17,7 @@ LienzoGrabador Pintar(CasoViga& c) {
 // Polygons with a vertex at (x, y).
 long ConVertice(const LienzoGrabador& l, PuntoApi p) {
     long n = 0;
-    for (const auto& o : Poligonos(l))
-        n += std::count(o.Puntos.begin(), o.Puntos.end(), p) > 0;
+    for (const auto& o : Poligonos(l)) n += std::count(o.Puntos.begin(), o.Puntos.end(), p) > 0;
     return n;
 }
 
@@ -53,8 +52,8 @@ TEST(PlotearReacciones, FilasUltimaYServicio) {
 TEST(PlotearReacciones, ReaccionesPequenasAparecenODesaparecen) {
     struct Caso {
         double reacV, reacH;
-        long flechasAbajo; // rows with a down arrow at joint 1 (tip 25 under the row)
-        long flechasH;     // horizontal arrow heads at joint 1
+        long flechasAbajo;     // rows with a down arrow at joint 1 (tip 25 under the row)
+        long flechasH;         // horizontal arrow heads at joint 1
         long textos0, textos1; // labels "0" and "1" written at joint 1
     };
     const Caso casos[] = {
@@ -71,8 +70,7 @@ TEST(PlotearReacciones, ReaccionesPequenasAparecenODesaparecen) {
         c.r.ReacV(1) = k.reacV;
         c.r.ReacH(1) = k.reacH;
         const LienzoGrabador l = Pintar(c);
-        EXPECT_EQ(ConVertice(l, {300, 275 + 25}) + ConVertice(l, {300, 335 + 25}),
-                  k.flechasAbajo)
+        EXPECT_EQ(ConVertice(l, {300, 275 + 25}) + ConVertice(l, {300, 335 + 25}), k.flechasAbajo)
             << k.reacV;
         EXPECT_EQ(ConVertice(l, {300 - 5, 275}) + ConVertice(l, {300 - 5, 335}), k.flechasH)
             << k.reacH;

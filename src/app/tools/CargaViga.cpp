@@ -16,9 +16,8 @@ bool EsJson(const std::string& ruta) {
 VigaCargada CargarYResolver(const std::string& archivo, const std::string& nombreViga) {
     VigaCargada c;
     if (!EsJson(archivo))
-        throw ErrorTrevalo(ErrArchivoNoEncontrado,
-                           "No se puede leer el proyecto \"" + archivo + "\" (viga " +
-                               nombreViga + ").");
+        throw ErrorTrevalo(ErrArchivoNoEncontrado, "No se puede leer el proyecto \"" + archivo +
+                                                       "\" (viga " + nombreViga + ").");
     LeerVigaJsonArchivo(archivo, c.proyecto, c.viga);
     // The settings came with the beam: the analysis has nothing to read again.
     AnalizarViga([](ProyectoActual&) {}, c.proyecto, c.viga, c.resultados);

@@ -26,9 +26,10 @@ nlohmann::json Resumen(const ResumenAcero& r, long nt) {
         for (long t = 1; t <= nt; ++t) l.push_back(a(t));
         return l;
     };
-    return {{"AsSupIzquierda", lista(r.AsSupIzquierda)}, {"AsInfIzquierda", lista(r.AsInfIzquierda)},
-            {"AsSupCentro", lista(r.AsSupCentro)},       {"AsInfCentro", lista(r.AsInfCentro)},
-            {"AsSupDerecha", lista(r.AsSupDerecha)},     {"AsInfDerecha", lista(r.AsInfDerecha)}};
+    return {
+        {"AsSupIzquierda", lista(r.AsSupIzquierda)}, {"AsInfIzquierda", lista(r.AsInfIzquierda)},
+        {"AsSupCentro", lista(r.AsSupCentro)},       {"AsInfCentro", lista(r.AsInfCentro)},
+        {"AsSupDerecha", lista(r.AsSupDerecha)},     {"AsInfDerecha", lista(r.AsInfDerecha)}};
 }
 
 nlohmann::json Estacion(const TramoDiseno& tramo, const EstacionDiseno& e, bool concreto) {
