@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "analysis/SolucionBanda.h"
 #include "model/Viga.h"
 
 namespace trevalo {
@@ -16,7 +17,19 @@ using LectorProyecto = std::function<void(ProyectoActual&)>;
 // factor). Raises the program's error (and leaves the results empty) for a bar of no
 // length, a joint or type number beyond the lists, FC = 0 with DEFCOR, the root of a
 // negative or a non-finite result.
+//
+// Step 1 calls leerProyecto, so a setting changed in the project file takes effect at the
+// next solve; an empty reader leaves the settings as they are.
+//
+// Errors: 5 the root of a negative (FC < 0 on a concrete beam); 9 a joint number in R1, R2,
+// R3 or R10 outside 1..NT + 1, or VT rounding to a type outside 1..NTipos; 11 a bar of no
+// length, a zero shear modulus with DEFCOR, a load position on a bar with CosX = 0;
+// 6 a result that is not a finite number. Whatever the reader raises passes through.
 void AnalizarViga(const LectorProyecto& leerProyecto, ProyectoActual& proyecto,
                   const VigaActual& viga, ResultadosViga& resultados);
+
+// The same analysis with another elimination in place of ResolverBanda.
+void AnalizarViga(const LectorProyecto& leerProyecto, ProyectoActual& proyecto,
+                  const VigaActual& viga, ResultadosViga& resultados, ResolvedorBanda resolver);
 
 } // namespace trevalo

@@ -39,7 +39,8 @@ inline constexpr long ErrFaltaColumna = 3265;
 inline constexpr long ErrJsonNoValido = 3343;
 
 // Reads settings and beam from a parsed document.
-void LeerVigaJson(const nlohmann::json& documento, ProyectoActual& proyecto, VigaActual& viga);
+void LeerVigaJson(const nlohmann::ordered_json& documento, ProyectoActual& proyecto,
+                  VigaActual& viga);
 
 // Parses the text and reads it (ErrJsonNoValido when it is not JSON).
 void LeerVigaJsonTexto(const std::string& texto, ProyectoActual& proyecto, VigaActual& viga);
@@ -50,6 +51,6 @@ void LeerVigaJsonArchivo(const std::string& ruta, ProyectoActual& proyecto, Viga
 // Writes settings and beam as the document above, every column of every table, slots up to
 // their counts, the model's joint dimensions as they stand. Reading it back gives the same
 // settings and beam (LongTotal recomputed, FMayorTramo set from FMayoracion).
-nlohmann::json EscribirVigaJson(const ProyectoActual& proyecto, const VigaActual& viga);
+nlohmann::ordered_json EscribirVigaJson(const ProyectoActual& proyecto, const VigaActual& viga);
 
 } // namespace trevalo::calc

@@ -1,0 +1,306 @@
+#include "store/CicloProyecto.h"
+
+#include <filesystem>
+
+#include <unicode/unistr.h>
+
+#include "model/Errores.h"
+
+namespace trevalo {
+
+namespace {
+
+const std::string TituloCrear = "Crear Nuevo Proyecto";
+const std::string TituloEliminar = "Eliminado Proyectos";
+
+// The pointer goes back to normal however an operation ends.
+class PunteroNormalAlSalir {
+  public:
+    explicit PunteroNormalAlSalir(PlataformaProyecto& p) : plataforma_(p) {}
+    ~PunteroNormalAlSalir() { plataforma_.PunteroEspera(false); }
+    PunteroNormalAlSalir(const PunteroNormalAlSalir&) = delete;
+    PunteroNormalAlSalir& operator=(const PunteroNormalAlSalir&) = delete;
+
+  private:
+    PlataformaProyecto& plataforma_;
+};
+
+// Runs a file or database step whose failure the menu operations ignore.
+template <typename Paso> void Ignorando(Paso paso) {
+    try {
+        paso();
+    } catch (const ErrorTrevalo&) {
+        // The next step runs on, as users of the menu know it.
+    }
+}
+
+std::string Recortado(const std::string& texto) {
+    const auto inicio = texto.find_first_not_of(' ');
+    if (inicio == std::string::npos) return "";
+    return texto.substr(inicio, texto.find_last_not_of(' ') - inicio + 1);
+}
+
+std::string Mayusculas(const std::string& texto) {
+    std::string resultado;
+    icu::UnicodeString::fromUTF8(texto).toUpper().toUTF8String(resultado);
+    return resultado;
+}
+
+int Preguntar(EstadoCiclo& estado, PlataformaProyecto& plataforma, const Pregunta& pregunta) {
+    estado.Mensaje = pregunta.Texto;
+    estado.Respuesta = plataforma.Preguntar(pregunta);
+    return estado.Respuesta;
+}
+
+Pregunta SiNo(std::string texto, std::string titulo, IconoMensaje icono, int defecto) {
+    return {std::move(texto), std::move(titulo), BotonesMensaje::SiNo, icono, defecto};
+}
+
+Pregunta Aviso(std::string texto, std::string titulo) {
+    return {std::move(texto), std::move(titulo), BotonesMensaje::Aceptar, IconoMensaje::Advertencia,
+            1};
+}
+
+Pregunta PreguntaReemplazar(const std::string& titulo) {
+    return SiNo("Proyecto: " + titulo + " ya Existe...    \n¿Desea Reemplazarlo?    ", TituloCrear,
+                IconoMensaje::Advertencia, 2);
+}
+
+// The project chosen: its title becomes the current project, not yet opened.
+void ElegirProyecto(const ArchivoElegido& archivo, EstadoCiclo& estado,
+                    PlataformaProyecto& plataforma) {
+    plataforma.PunteroEspera(true);
+    estado.NombreProyecto = archivo.FileTitle;
+    plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
+    plataforma.HabilitarSalvarComo(true);
+    plataforma.PunteroEspera(false);
+}
+
+// When no project is current, asks for one with the given title; false on cancel.
+bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpetas,
+                        EstadoCiclo& estado, PlataformaProyecto& plataforma) {
+    if (!Recortado(estado.NombreProyecto).empty()) return true;
+    const ArchivoElegido archivo =
+        plataforma.PedirArchivo(titulo, ModoDialogo::Abrir, carpetas.RutaProyectos);
+    if (archivo.Cancelado) return false;
+    ElegirProyecto(archivo, estado, plataforma);
+    return true;
+}
+
+ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
+    if (ec == std::errc::no_such_file_or_directory)
+        return ErrorTrevalo(53, "No se encontró el archivo");
+    if (ec == std::errc::permission_denied || ec == std::errc::operation_not_permitted)
+        return ErrorTrevalo(70, "Permiso denegado");
+    return ErrorTrevalo(75, "Error de acceso a la ruta o el archivo");
+}
+
+} // namespace
+
+bool PlataformaProyectoDisco::ExisteArchivo(const std::string& ruta) {
+    std::error_code ec;
+    return std::filesystem::is_regular_file(ruta, ec);
+}
+
+void PlataformaProyectoDisco::CopiarArchivo(const std::string& origen, const std::string& destino) {
+    std::error_code ec;
+    if (!ExisteArchivo(origen))
+        throw ErrorArchivo(std::make_error_code(std::errc::no_such_file_or_directory));
+    std::filesystem::copy_file(origen, destino, std::filesystem::copy_options::overwrite_existing,
+                               ec);
+    if (ec) throw ErrorArchivo(ec);
+}
+
+void PlataformaProyectoDisco::BorrarArchivo(const std::string& ruta) {
+    std::error_code ec;
+    if (!ExisteArchivo(ruta))
+        throw ErrorArchivo(std::make_error_code(std::errc::no_such_file_or_directory));
+    std::filesystem::remove(ruta, ec);
+    if (ec) throw ErrorArchivo(ec);
+}
+
+std::string TituloMenu(const std::string& nombreProyecto) {
+    return "Trevalo 6.0  Proyecto: [" + nombreProyecto + "]";
+}
+
+std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoCiclo& estado) {
+    return carpetas.RutaProyectos + "/" + estado.NombreProyecto;
+}
+
+void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                        PlataformaProyecto& plataforma) {
+    PunteroNormalAlSalir puntero(plataforma);
+    const ArchivoElegido archivo = plataforma.PedirArchivo(
+        "Crear un Nuevo Proyecto", ModoDialogo::Salvar, carpetas.RutaProyectos);
+    if (archivo.Cancelado) return;
+
+    if (plataforma.ExisteArchivo(archivo.FileName)) {
+        if (Preguntar(estado, plataforma, PreguntaReemplazar(archivo.FileTitle)) != RespuestaSi)
+            return;
+        const Pregunta segura =
+            SiNo("Proyecto: " + archivo.FileTitle + "    \n\n¿Esta Seguro de Reemplazarlo?    ",
+                 TituloCrear, IconoMensaje::Advertencia, 1);
+        if (Preguntar(estado, plataforma, segura) != RespuestaSi) return;
+        Ignorando([&] { plataforma.BorrarArchivo(archivo.FileName); });
+    }
+
+    plataforma.PunteroEspera(true);
+    estado.NombreProyecto = archivo.FileTitle;
+    // Always into RutaProyectos, whatever folder the dialog chose: kept, users rely on
+    // finding every project there.
+    Ignorando([&] {
+        plataforma.CopiarArchivo(carpetas.RutaPrograma + "/Imagen/ImagenViga.kvl",
+                                 RutaProyectoActual(carpetas, estado));
+    });
+    plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
+    Ignorando([&] { plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado)); });
+    estado.ProyectoNuevo = true;
+    plataforma.MostrarDatosGenerales(true);
+    estado.ProyectoNuevo = false;
+    plataforma.HabilitarSalvarComo(true);
+}
+
+void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                   PlataformaProyecto& plataforma) {
+    PunteroNormalAlSalir puntero(plataforma);
+    const ArchivoElegido archivo = plataforma.PedirArchivo(
+        "Abrir un Proyecto Existente", ModoDialogo::Abrir, carpetas.RutaProyectos);
+    if (archivo.Cancelado) return;
+    ElegirProyecto(archivo, estado, plataforma);
+}
+
+void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                       PlataformaProyecto& plataforma) {
+    PunteroNormalAlSalir puntero(plataforma);
+    if (!HayProyectoOElegir("Modificar los Datos Generales del Proyecto", carpetas, estado,
+                            plataforma))
+        return;
+    Ignorando([&] { plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado)); });
+    estado.ProyectoNuevo = false;
+    plataforma.MostrarDatosGenerales(false);
+}
+
+void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                   PlataformaProyecto& plataforma) {
+    PunteroNormalAlSalir puntero(plataforma);
+    if (!HayProyectoOElegir("Analizar las Vigas del Proyecto", carpetas, estado, plataforma))
+        return;
+    estado.ProyectoNuevo = false;
+    plataforma.PunteroEspera(true);
+    plataforma.MostrarVigasProyecto();
+}
+
+void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                        PlataformaProyecto& plataforma) {
+    PunteroNormalAlSalir puntero(plataforma);
+    const ArchivoElegido archivo = plataforma.PedirArchivo(
+        "Salvar el Proyecto Actual con otro Nombre", ModoDialogo::Salvar, carpetas.RutaProyectos);
+    if (archivo.Cancelado) return;
+
+    // One question only, under the title of creating: kept as users know it.
+    if (plataforma.ExisteArchivo(archivo.FileName)) {
+        if (Preguntar(estado, plataforma, PreguntaReemplazar(archivo.FileTitle)) != RespuestaSi)
+            return;
+        Ignorando([&] { plataforma.BorrarArchivo(archivo.FileName); });
+    }
+
+    plataforma.PunteroEspera(true);
+    Ignorando(
+        [&] { plataforma.CopiarArchivo(RutaProyectoActual(carpetas, estado), archivo.FileName); });
+    // The open database stays on the old file; from now on the project is looked for in
+    // RutaProyectos under the new title.
+    estado.NombreProyecto = archivo.FileTitle;
+    plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
+}
+
+void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                      PlataformaProyecto& plataforma) {
+    PunteroNormalAlSalir puntero(plataforma);
+    const ArchivoElegido archivo = plataforma.PedirArchivo(
+        "Eliminar Proyecto de Vigas", ModoDialogo::Abrir, carpetas.RutaProyectos);
+    if (archivo.Cancelado) return;
+
+    const Pregunta primera =
+        SiNo("Eliminar el Proyecto: " + archivo.FileTitle + "...    \n\n¿Esta Usted Seguro?",
+             TituloEliminar, IconoMensaje::Advertencia, 2);
+    if (Preguntar(estado, plataforma, primera) != RespuestaSi) return;
+    const Pregunta segunda =
+        SiNo(archivo.FileTitle + "...    \n\n¿Esta Usted Seguro de Eliminarlo?      ",
+             TituloEliminar, IconoMensaje::Advertencia, 1);
+    if (Preguntar(estado, plataforma, segunda) != RespuestaSi) return;
+
+    try {
+        plataforma.BorrarArchivo(archivo.FileName);
+    } catch (const ErrorTrevalo& e) {
+        plataforma.Preguntar(
+            Aviso(e.Descripcion() + "      ", "Error Número: " + std::to_string(e.Numero())));
+        return;
+    }
+
+    // By title only: a file of the same name in another folder also clears the current
+    // project, kept on purpose.
+    if (Mayusculas(Recortado(archivo.FileTitle)) == Mayusculas(Recortado(estado.NombreProyecto))) {
+        estado.NombreProyecto.clear();
+        plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
+        plataforma.HabilitarSalvarComo(false);
+    }
+}
+
+bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
+                           const std::function<std::string()>& leerSeleccionada,
+                           EstadoCiclo& estado, PlataformaProyecto& plataforma) {
+    const std::string nombre = Recortado(texto);
+    if (nombre.empty()) return false;
+    if (existe(nombre)) {
+        Preguntar(
+            estado, plataforma,
+            Aviso("La Viga: " + nombre + "       \nLa Viga ya Existe en el Proyecto...        ",
+                  "Creando Nueva Viga"));
+        return false;
+    }
+    const std::string origen = leerSeleccionada();
+    const Pregunta pregunta =
+        SiNo("Salvar Como (Crear) la Viga: " + nombre +
+                 "       \nA Partir de la Viga Seleccionada: " + origen + "       \n\n",
+             "Salvar Como", IconoMensaje::Pregunta, 1);
+    if (Preguntar(estado, plataforma, pregunta) != RespuestaSi) return false;
+    estado.NombreCopiaViga = nombre;
+    estado.DialogoAceptado = true;
+    return true;
+}
+
+bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
+                          const BuscarViga& existe, EstadoCiclo& estado,
+                          PlataformaProyecto& plataforma) {
+    const std::string nombre = Recortado(texto);
+    if (nombre.empty()) return false;
+    if (existe(nombre)) {
+        Preguntar(estado, plataforma,
+                  Aviso("Nombre: " + nombre +
+                            "       \nEste Nombre ya Existe en las Vigas del Proyecto...       \n",
+                        "Renombrar"));
+        return false;
+    }
+    const Pregunta pregunta = SiNo("Renombrar la Viga: " + actual + "   Por el Nombre: " + nombre +
+                                       "       \n\nEsta Usted Seguro?       \n",
+                                   "Renombrar", IconoMensaje::Pregunta, 1);
+    if (Preguntar(estado, plataforma, pregunta) != RespuestaSi) return false;
+    estado.NombreRenombrar = nombre;
+    estado.DialogoAceptado = true;
+    return true;
+}
+
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoCiclo& estado,
+                           PlataformaProyecto& plataforma) {
+    const std::string titulo = "Eliminando Vigas del Proyecto";
+    const Pregunta primera =
+        SiNo("Viga: " + nombre +
+                 "\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
+             titulo, IconoMensaje::Advertencia, 2);
+    if (Preguntar(estado, plataforma, primera) != RespuestaSi) return false;
+    const Pregunta segunda = SiNo("Viga: " + nombre + "\n¿Esta Seguro de Eliminar la Viga?    ",
+                                  titulo, IconoMensaje::Advertencia, 1);
+    return Preguntar(estado, plataforma, segunda) == RespuestaSi;
+}
+
+} // namespace trevalo

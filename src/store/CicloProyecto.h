@@ -1,0 +1,150 @@
+#pragma once
+// The life of a project file: create from the template, open, modify, save as, delete; and
+// the questions around the copy, rename and delete of a beam.
+//
+// A project is a ".trv" file in RutaProyectos; NombreProyecto (its file title) alone says
+// which project is current, and its path is always RutaProyectos + "/" + NombreProyecto.
+// The logic talks to the screens and files through PlataformaProyecto, so that the windows
+// plug in their dialogs and tests plug in scripted answers.
+//
+// Settled behaviour kept as users know it:
+//  - a new project is always copied into RutaProyectos, whatever folder the dialog chose,
+//    while the exists test and the delete before it go to the folder chosen;
+//  - save as copies the file but leaves the open database handle on the old file;
+//  - deleting a file whose title equals the current project's (case and blanks aside)
+//    clears the current project, whatever its folder.
+//
+// The menu operations ignore a failing copy, delete or open (the next step runs), except
+// the delete of EliminarProyecto, which shows the error and stops. A cancelled file dialog
+// ends an operation with nothing changed.
+
+#include <functional>
+#include <string>
+
+#include "store/CarpetasPrograma.h"
+
+namespace trevalo {
+
+enum class ModoDialogo { Abrir, Salvar };
+
+// The answer of a file dialog: the full path and the file title (name with extension).
+struct ArchivoElegido {
+    bool Cancelado = true;
+    std::string FileName;
+    std::string FileTitle;
+};
+
+enum class BotonesMensaje { Aceptar, SiNo };
+enum class IconoMensaje { Ninguno, Pregunta, Advertencia };
+
+// Buttons pressed, as the message box reports them.
+inline constexpr int RespuestaAceptar = 1;
+inline constexpr int RespuestaSi = 6;
+inline constexpr int RespuestaNo = 7;
+
+// One message box: text (lines joined by "\n", trailing blanks part of it), title, buttons,
+// icon and the default button (1 the first, 2 the second).
+struct Pregunta {
+    std::string Texto;
+    std::string Titulo;
+    BotonesMensaje Botones = BotonesMensaje::Aceptar;
+    IconoMensaje Icono = IconoMensaje::Ninguno;
+    int BotonDefecto = 1;
+
+    bool operator==(const Pregunta&) const = default;
+};
+
+// Filter of every project file dialog; filter index 1, file name preset empty.
+inline constexpr const char* FiltroProyectos = "Trevalo (*.trv)|*.trv";
+
+// What the lifecycle asks of the screens and the files. File and database operations raise
+// ErrorTrevalo on failure.
+class PlataformaProyecto {
+  public:
+    virtual ~PlataformaProyecto() = default;
+    // A file dialog with FiltroProyectos, starting in `carpeta`.
+    virtual ArchivoElegido PedirArchivo(const std::string& titulo, ModoDialogo modo,
+                                        const std::string& carpeta) = 0;
+    // A message box; returns the button pressed (RespuestaSi, RespuestaNo, RespuestaAceptar).
+    virtual int Preguntar(const Pregunta& pregunta) = 0;
+    virtual bool ExisteArchivo(const std::string& ruta) = 0;
+    virtual void CopiarArchivo(const std::string& origen, const std::string& destino) = 0;
+    virtual void BorrarArchivo(const std::string& ruta) = 0;
+    // Opens the project database for shared reading and writing; the new handle replaces
+    // the one held (BDProyecto), which is never closed by the program.
+    virtual void AbrirBaseDatos(const std::string& ruta) = 0;
+    // Shows the general data dialog modally; `proyectoNuevo` while it is shown.
+    virtual void MostrarDatosGenerales(bool proyectoNuevo) = 0;
+    // Shows the project window modally; it opens the database itself.
+    virtual void MostrarVigasProyecto() = 0;
+    virtual void ColocarTituloMenu(const std::string& titulo) = 0;
+    virtual void HabilitarSalvarComo(bool habilitado) = 0;
+    virtual void PunteroEspera(bool espera) = 0;
+};
+
+// The file operations on the disk, for the windows to build on. Errors: 53 "No se encontró
+// el archivo" for a missing source, 70 "Permiso denegado" when the system refuses, 75
+// "Error de acceso a la ruta o el archivo" otherwise. A copy replaces its destination.
+class PlataformaProyectoDisco : public PlataformaProyecto {
+  public:
+    bool ExisteArchivo(const std::string& ruta) override;
+    void CopiarArchivo(const std::string& origen, const std::string& destino) override;
+    void BorrarArchivo(const std::string& ruta) override;
+};
+
+// Program-wide project state shared by the windows.
+struct EstadoCiclo {
+    std::string NombreProyecto;
+    bool ProyectoNuevo = false;
+    std::string NombreVigaActual;
+    std::string NombreCopiaViga;
+    std::string NombreRenombrar;
+    bool DialogoAceptado = false;
+    std::string Mensaje; // the last question's text
+    int Respuesta = 0;   // the last button pressed
+};
+
+// "Trevalo 6.0  Proyecto: [" + nombre + "]" (two blanks before "Proyecto").
+std::string TituloMenu(const std::string& nombreProyecto);
+
+// The path of the current project: RutaProyectos + "/" + NombreProyecto.
+std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoCiclo& estado);
+
+// The main menu's commands.
+void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                        PlataformaProyecto& plataforma);
+void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                   PlataformaProyecto& plataforma);
+void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                       PlataformaProyecto& plataforma);
+void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                   PlataformaProyecto& plataforma);
+void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                        PlataformaProyecto& plataforma);
+void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+                      PlataformaProyecto& plataforma);
+
+// The questions around a beam. `existe` is the engine's search for a name among the beams
+// of the project, which ignores case. Each returns true when the operation may go on; an
+// empty name returns false with no message (the dialog puts the focus back in its box).
+using BuscarViga = std::function<bool(const std::string& nombre)>;
+
+// " Aceptar " of "Salvar Como...": `leerSeleccionada` moves to the beam selected in the
+// project window, loads it and gives its name. On yes, NombreCopiaViga takes the trimmed
+// name and DialogoAceptado becomes true; the caller then copies the beam.
+bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
+                           const std::function<std::string()>& leerSeleccionada,
+                           EstadoCiclo& estado, PlataformaProyecto& plataforma);
+
+// " Aceptar " of "Renombrar Vigas" for the beam `actual`. On yes, NombreRenombrar takes the
+// trimmed name and DialogoAceptado becomes true; the caller then renames the beam. A name
+// that differs from a taken one only in case is taken.
+bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
+                          const BuscarViga& existe, EstadoCiclo& estado,
+                          PlataformaProyecto& plataforma);
+
+// The two questions before the beam `nombre` is deleted; true when both were answered yes.
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoCiclo& estado,
+                           PlataformaProyecto& plataforma);
+
+} // namespace trevalo

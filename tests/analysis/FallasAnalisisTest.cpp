@@ -1,0 +1,167 @@
+// Input that the beam editor should have stopped but that reaches the analysis anyway: each
+// fault raises the program's error with its classic number and text, and leaves no results
+// that could be shown as if the run had worked.
+
+#include <functional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "VerificaError.h"
+#include "analysis/AnalisisVigasP.h"
+#include "analysis/VigasPrueba.h"
+
+namespace trevalo {
+namespace {
+
+using namespace prueba;
+
+struct Falla {
+    std::string nombre;
+    std::function<void(VigaActual&, ProyectoActual&)> romper;
+    long numero;
+    std::string texto;
+};
+
+void PrintTo(const Falla& f, std::ostream* os) {
+    *os << f.nombre;
+}
+
+const std::string kDivision = "División por cero";
+const std::string kSubindice = "El subíndice está fuera del intervalo";
+const std::string kLlamada = "Argumento o llamada a procedimiento no válida";
+const std::string kDesborde = "Desbordamiento";
+
+std::vector<Falla> Fallas() {
+    return {
+        {"TramoSinLongitud", [](VigaActual& v, ProyectoActual&) { v.LT(2) = 0; }, 11, kDivision},
+        {"JuntaDesplazadaSobreLaVecina",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerDesplazadas(v, {{2, -4, 0}});
+         },
+         11, kDivision},
+        {"ApoyoMasAllaDeLasJuntas",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, ApoyoFijo}, {5, ApoyoFijo}});
+         },
+         9, kSubindice},
+        {"ApoyoEnJuntaCero",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{0, ApoyoFijo}, {3, ApoyoFijo}});
+         },
+         9, kSubindice},
+        {"AccionMasAllaDeLasJuntas",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerAcciones(v, {{5, 0, 100, 0}});
+         },
+         9, kSubindice},
+        {"ResorteMasAllaDeLasJuntas",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerResortes(v, {{5, 0, 100, 0}});
+         },
+         9, kSubindice},
+        {"DesplazadaMasAllaDeLasJuntas",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerDesplazadas(v, {{5, 0.1, 0}});
+         },
+         9, kSubindice},
+        {"TipoInexistente", [](VigaActual& v, ProyectoActual&) { v.VT(2) = 2; }, 9, kSubindice},
+        // 1.5 rounds to 2 (ties to even), a type the beam does not have.
+        {"TipoRedondeadoInexistente", [](VigaActual& v, ProyectoActual&) { v.VT(1) = 1.5; }, 9,
+         kSubindice},
+        {"ResistenciaNegativa", [](VigaActual&, ProyectoActual& p) { p.FC = -210; }, 5, kLlamada},
+        {"ConcretoSinResistenciaConCortante",
+         [](VigaActual&, ProyectoActual& p) {
+             p.FC = 0;
+             p.DEFCOR = true;
+         },
+         11, kDivision},
+        {"AceroSinModuloConCortante",
+         [](VigaActual& v, ProyectoActual& p) {
+             v.OpcionConcreto = 1;
+             v.B1(1) = 50;
+             v.T1(1) = 8000;
+             p.ModuloAcero = 0;
+             p.DEFCOR = true;
+         },
+         11, kDivision},
+        {"ModuloInfinito",
+         [](VigaActual& v, ProyectoActual& p) {
+             v.OpcionConcreto = 1;
+             v.B1(1) = 50;
+             v.T1(1) = 8000;
+             p.ModuloAcero = 1e306;
+         },
+         6, kDesborde},
+        // A vertical bar (CosX = 0) cannot place a load along its horizontal projection.
+        {"CargaEnBarraVertical",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerDesplazadas(v, {{2, -4, 3}});
+             v.CantW2(1) = 1;
+             v.P(1, 1) = 100;
+             v.LP(1, 1) = 0;
+         },
+         11, kDivision},
+    };
+}
+
+class FallasAnalisis : public ::testing::TestWithParam<Falla> {};
+
+TEST_P(FallasAnalisis, ErrorYResultadosVacios) {
+    const Falla& falla = GetParam();
+    VigaActual v = VigaRecta({4, 5, 3});
+    ProyectoActual p = ProyectoPrueba();
+    PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}, {4, RodilloEnX}});
+    for (long t = 1; t <= v.NT; ++t) v.W1(t) = 1000;
+    // Results of an earlier good run must not survive the failed one.
+    ResultadosViga r;
+    AnalizarViga({}, p, v, r);
+    ASSERT_EQ(r.NJuntas, 4);
+
+    falla.romper(v, p);
+    EXPECT_TREVALO_ERROR(AnalizarViga({}, p, v, r), falla.numero, falla.texto);
+    EXPECT_EQ(r.NJuntas, 0);
+    EXPECT_EQ(r.MomI.Ubound(), 0);
+    EXPECT_EQ(r.DespY.Ubound(), 0);
+    EXPECT_EQ(r.ReacV.Ubound(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Entradas, FallasAnalisis, ::testing::ValuesIn(Fallas()),
+                         [](const auto& info) { return info.param.nombre; });
+
+// Step 1 reads the settings at every run; a failure there clears the results as well.
+TEST(LecturaProyecto, CadaCorridaLeeLosAjustes) {
+    VigaActual v = VigaRecta({4});
+    PonerApoyos(v, {{1, ApoyoFijo}, {2, ApoyoFijo}});
+    ProyectoActual p = ProyectoPrueba();
+    int lecturas = 0;
+    const LectorProyecto lector = [&](ProyectoActual& q) {
+        ++lecturas;
+        q.PPV = true; // own weight 0.3 x 0.5 x 2500 = 375 kgf/m
+    };
+    ResultadosViga r;
+    AnalizarViga(lector, p, v, r);
+    AnalizarViga(lector, p, v, r);
+    EXPECT_EQ(lecturas, 2);
+    EXPECT_DOUBLE_EQ(r.ReacV(1), 375 * 4 / 2.0);
+
+    const LectorProyecto roto = [](ProyectoActual&) {
+        throw ErrorTrevalo(3024, "No se encontró el archivo");
+    };
+    EXPECT_TREVALO_ERROR(AnalizarViga(roto, p, v, r), 3024, "No se encontró el archivo");
+    EXPECT_EQ(r.NJuntas, 0);
+}
+
+// Without supports the pivots fall to 1e-20 and the solve goes through without a message,
+// as it always did: the numbers are huge but finite.
+TEST(LecturaProyecto, MecanismoSinMensaje) {
+    VigaActual v = VigaRecta({4, 4});
+    ProyectoActual p = ProyectoPrueba();
+    for (long t = 1; t <= v.NT; ++t) v.W1(t) = 1000;
+    ResultadosViga r;
+    AnalizarViga({}, p, v, r);
+    EXPECT_GT(std::fabs(r.DespY(2)), 1e10);
+}
+
+} // namespace
+} // namespace trevalo

@@ -1,0 +1,218 @@
+// Solves beams whose answers are known in closed form and checks the results against the
+// textbook expressions (Euler-Bernoulli and, with shear deformation, Timoshenko).
+
+#include <cmath>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "analysis/AnalisisVigasP.h"
+#include "analysis/CorteMomentoTramo.h"
+#include "analysis/VigasPrueba.h"
+
+namespace trevalo {
+namespace {
+
+using namespace prueba;
+
+const double w = 1200;  // kgf/m
+const double L = 6;     // m
+const double Pc = 5000; // kgf
+const double E = ModuloConcreto(250);
+const double I = InerciaRectangular(0.3, 0.5);
+const double A = 0.3 * 0.5;
+const double G = E / 2.4;
+
+struct Esperado {
+    Arreglo<double> ResultadosViga::*campo;
+    long i;
+    double valor;
+};
+
+struct Caso {
+    std::string nombre;
+    std::function<void(VigaActual&, ProyectoActual&)> preparar;
+    std::vector<Esperado> esperados;
+};
+
+using R = ResultadosViga;
+
+void Uniforme(VigaActual& v) {
+    for (long t = 1; t <= v.NT; ++t) v.W1(t) = static_cast<std::int32_t>(w);
+}
+
+// Moment at a rotational spring of stiffness k on the left end of a simply supported span.
+double MomentoResorte(double k) {
+    return k * (w * L * L * L / (24 * E * I)) / (1 + k * L / (3 * E * I));
+}
+const double kGiro = 2.0e6;   // kgf-m/rad
+const double kVertical = 5e5; // kgf/m
+const double deltaResorte = Pc / (kVertical + 3 * E * I / (L * L * L));
+
+std::vector<Caso> Casos() {
+    return {
+        {"SimplementeApoyada",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, ApoyoFijo}, {2, ApoyoFijo}});
+             Uniforme(v);
+         },
+         {{&R::ReacV, 1, w * L / 2},
+          {&R::ReacV, 2, w * L / 2},
+          {&R::CorI, 1, w * L / 2},
+          {&R::CorJ, 1, w * L / 2},
+          {&R::MomI, 1, 0},
+          {&R::MomJ, 1, 0},
+          {&R::GiroZ, 1, -w * L * L * L / (24 * E * I)},
+          {&R::GiroZ, 2, w * L * L * L / (24 * E * I)}}},
+        {"Empotrada",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, Empotramiento}, {2, Empotramiento}});
+             Uniforme(v);
+         },
+         {{&R::MomI, 1, -w * L * L / 12},
+          {&R::MomJ, 1, -w * L * L / 12},
+          {&R::ReacM, 1, w * L * L / 12},
+          {&R::ReacM, 2, -w * L * L / 12},
+          {&R::ReacV, 1, w * L / 2},
+          {&R::ReacV, 2, w * L / 2}}},
+        {"EmpotradaApoyada",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, Empotramiento}, {2, RodilloEnX}});
+             Uniforme(v);
+         },
+         {{&R::ReacV, 1, 5 * w * L / 8},
+          {&R::ReacV, 2, 3 * w * L / 8},
+          {&R::MomI, 1, -w * L * L / 8},
+          {&R::ReacM, 1, w * L * L / 8},
+          {&R::GiroZ, 2, w * L * L * L / (48 * E * I)}}},
+        {"Voladizo",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, Empotramiento}});
+             Uniforme(v);
+         },
+         {{&R::DespY, 2, w * L * L * L * L / (8 * E * I)},
+          {&R::GiroZ, 2, -w * L * L * L / (6 * E * I)},
+          {&R::MomI, 1, -w * L * L / 2},
+          {&R::ReacM, 1, w * L * L / 2},
+          {&R::ReacV, 1, w * L},
+          {&R::CorJ, 1, 0}}},
+        {"DosTramosIguales",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}, {3, RodilloEnX}});
+             Uniforme(v);
+         },
+         {{&R::ReacV, 1, 0.375 * w * L},
+          {&R::ReacV, 2, 1.25 * w * L},
+          {&R::ReacV, 3, 0.375 * w * L},
+          {&R::MomJ, 1, -w * L * L / 8},
+          {&R::MomI, 2, -w * L * L / 8},
+          {&R::GiroZ, 2, 0}}},
+        {"PuntualCentrada",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}});
+             v.CantW2(1) = 1;
+             v.P(1, 1) = static_cast<std::int32_t>(Pc);
+             v.LP(1, 1) = L / 2;
+         },
+         {{&R::ReacV, 1, Pc / 2},
+          {&R::ReacV, 2, Pc / 2},
+          {&R::GiroZ, 1, -Pc * L * L / (16 * E * I)},
+          {&R::MomI, 1, 0}}},
+        {"ResorteVertical",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, Empotramiento}});
+             PonerResortes(v, {{2, 0, kVertical, 0}});
+             PonerAcciones(v, {{2, 0, Pc, 0}});
+         },
+         {{&R::DespY, 2, deltaResorte},
+          {&R::ReacV, 2, kVertical * deltaResorte},
+          {&R::ReacV, 1, Pc - kVertical * deltaResorte},
+          {&R::ReacM, 1, (Pc - kVertical * deltaResorte) * L}}},
+        {"ResorteGiro",
+         [](VigaActual& v, ProyectoActual&) {
+             PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}});
+             PonerResortes(v, {{1, 0, 0, kGiro}});
+             Uniforme(v);
+         },
+         {{&R::MomI, 1, -MomentoResorte(kGiro)},
+          {&R::ReacM, 1, MomentoResorte(kGiro)},
+          {&R::GiroZ, 1, -MomentoResorte(kGiro) / kGiro},
+          {&R::ReacV, 1, w * L / 2 + MomentoResorte(kGiro) / L},
+          {&R::ReacV, 2, w * L / 2 - MomentoResorte(kGiro) / L}}},
+        {"VoladizoConCortante",
+         [](VigaActual& v, ProyectoActual& p) {
+             p.DEFCOR = true;
+             PonerApoyos(v, {{1, Empotramiento}});
+             PonerAcciones(v, {{2, 0, Pc, 0}});
+         },
+         {{&R::DespY, 2, Pc * L * L * L / (3 * E * I) + Pc * L * 1.2 / (G * A)},
+          {&R::GiroZ, 2, -Pc * L * L / (2 * E * I)},
+          {&R::MomI, 1, -Pc * L},
+          {&R::ReacV, 1, Pc}}},
+    };
+}
+
+void PrintTo(const Caso& c, std::ostream* os) {
+    *os << c.nombre;
+}
+
+class FormasCerradas : public ::testing::TestWithParam<Caso> {};
+
+TEST_P(FormasCerradas, CoincidenConLaTeoria) {
+    const Caso& caso = GetParam();
+    const long tramos = caso.nombre == "DosTramosIguales" ? 2 : 1;
+    VigaActual v = VigaRecta(std::vector<double>(static_cast<std::size_t>(tramos), L));
+    ProyectoActual p = ProyectoPrueba();
+    caso.preparar(v, p);
+    ResultadosViga r;
+    AnalizarViga({}, p, v, r);
+    for (const Esperado& e : caso.esperados) {
+        const double obtenido = (r.*e.campo)(e.i);
+        const bool desplazamiento =
+            e.campo == &R::DespX || e.campo == &R::DespY || e.campo == &R::GiroZ;
+        // Forces against the size of the load; displacements against their own size.
+        const double escala =
+            desplazamiento ? std::fabs(e.valor) : std::max(std::fabs(e.valor), w * L * L);
+        EXPECT_NEAR(obtenido, e.valor, std::max(1e-9 * escala, 1e-15)) << "slot " << e.i;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Vigas, FormasCerradas, ::testing::ValuesIn(Casos()),
+                         [](const auto& info) { return info.param.nombre; });
+
+// A supported joint reads exactly zero, not the tiny residue of the penalty, and as a
+// positive zero.
+TEST(FormasCerradas, ApoyoSinResiduo) {
+    VigaActual v = VigaRecta({L, L});
+    ProyectoActual p = ProyectoPrueba();
+    PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}, {3, Empotramiento}});
+    Uniforme(v);
+    ResultadosViga r;
+    AnalizarViga({}, p, v, r);
+    for (double d : {r.DespX(1), r.DespY(1), r.DespY(2), r.DespX(3), r.DespY(3), r.GiroZ(3)}) {
+        EXPECT_EQ(d, 0.0);
+        EXPECT_FALSE(std::signbit(d));
+    }
+    EXPECT_NE(r.GiroZ(1), 0.0);
+}
+
+// The maximum moment of a mid-span point load, PL/4, taken by statics inside the span.
+TEST(FormasCerradas, MomentoBajoLaCarga) {
+    VigaActual v = VigaRecta({L});
+    ProyectoActual p = ProyectoPrueba();
+    PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}});
+    v.CantW2(1) = 1;
+    v.P(1, 1) = static_cast<std::int32_t>(Pc);
+    v.LP(1, 1) = L / 2;
+    ResultadosViga r;
+    AnalizarViga({}, p, v, r);
+    double M = 0, V = 0;
+    CorteMomentoTramo(v, r, 1, 0, L, L / 2, 1, 0, M, V);
+    EXPECT_NEAR(M, Pc * L / 4, 1e-9 * Pc * L);
+    EXPECT_NEAR(V, -Pc / 2, 1e-9 * Pc);
+}
+
+} // namespace
+} // namespace trevalo

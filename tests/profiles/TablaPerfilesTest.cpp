@@ -1,0 +1,229 @@
+// Profile table files: names by family, creation from the templates, save and reload.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "CarpetaTemporal.h"
+#include "VerificaError.h"
+#include "platform/MotorDatos.h"
+#include "profiles/TablaPerfiles.h"
+
+namespace trevalo {
+namespace {
+
+using F = FamiliaPerfil;
+
+TEST(NombresDeTablas, ReglaDelPrefijo) {
+    struct Caso {
+        F familia;
+        std::string titulo, esperado;
+    };
+    const Caso casos[] = {
+        {F::DobleTee, "Acerias.pfl", "DobleTee_Acerias.pfl"},
+        {F::DobleTee, "dobletee_acerias.pfl", "dobletee_acerias.pfl"}, // any case: kept
+        {F::DobleTee, "DOBLETEE_X", "DOBLETEE_X"},                     // no extension added
+        {F::DobleTee, "DobleTee.pfl", "DobleTee_DobleTee.pfl"},        // 9 characters compared
+        {F::DobleTee, "  DobleTee_X.pfl", "  DobleTee_X.pfl"},         // tested trimmed, kept
+        {F::SeccionU, "U", "U_U"}, // one letter differs from "U_"
+        {F::SeccionU, "u_canal.pfl", "u_canal.pfl"},
+        {F::SeccionU, "Uconal.pfl", "U_Uconal.pfl"},
+        {F::TuboCuadrado, "cuadrada_x.pfl", "cuadrada_x.pfl"},
+        {F::TuboCuadrado, "Tubos.pfl", "Cuadrada_Tubos.pfl"},
+        {F::TuboRectangular, "Rectangular.pfl", "Rectangular_Rectangular.pfl"},
+        {F::TuboRectangular, "RECTANGULAR_R.pfl", "RECTANGULAR_R.pfl"},
+    };
+    for (const Caso& c : casos) EXPECT_EQ(TituloConPrefijo(c.familia, c.titulo), c.esperado);
+}
+
+TEST(NombresDeTablas, PatronPideUnCaracterTrasElPrefijo) {
+    struct Caso {
+        F familia;
+        std::string nombre;
+        bool coincide;
+    };
+    const Caso casos[] = {
+        {F::DobleTee, "DobleTee_.pfl", false},
+        {F::DobleTee, "DobleTee_A.pfl", true},
+        {F::DobleTee, "dobletee_a.PFL", true},
+        {F::DobleTee, "DobleTee_A", false},
+        {F::DobleTee, "DobleTee_A.plf", false},
+        {F::SeccionU, "U_.pfl", false},
+        {F::SeccionU, "U_1.pfl", true},
+        {F::SeccionU, "DobleTee_A.pfl", false},
+        {F::TuboCuadrado, "Cuadrada_SHS.pfl", true},
+        {F::TuboRectangular, "Cuadrada_SHS.pfl", false},
+    };
+    for (const Caso& c : casos)
+        EXPECT_EQ(CoincidePatron(c.familia, c.nombre), c.coincide) << c.nombre;
+}
+
+TEST(NombresDeTablas, CamposPorFamilia) {
+    EXPECT_EQ(Familia(F::DobleTee).Campos.size(), 16u);
+    EXPECT_EQ(Familia(F::SeccionU).Campos.size(), 13u);
+    EXPECT_EQ(Familia(F::TuboCuadrado).Campos.size(), 7u);
+    EXPECT_EQ(Familia(F::TuboRectangular).Campos.size(), 9u);
+    EXPECT_EQ(Familia(F::DobleTee).Campos[12], "CosntanteTorsionJ");
+    EXPECT_EQ(Familia(F::TuboCuadrado).Campos[6], "MOduloPlastico");
+    EXPECT_EQ(Familia(F::TuboCuadrado).CampoInercia, "Inercia");
+    EXPECT_EQ(Familia(F::DobleTee).Filtro, "Tabla de Perfiles (*.plf)|DobleTee_?*.pfl");
+    EXPECT_EQ(Familia(F::DobleTee).Titulo, "Tabla de Seccines Doble Tee");
+}
+
+TEST(NombresDeTablas, MensajeDeTablaExistente) {
+    EXPECT_EQ(MensajeTablaExiste("U_A.pfl"),
+              "La Tabla: \"U_A.pfl\" Ya Existe en el Programa...      \nDesea Reemplazarla?      ");
+}
+
+FilaPerfil Fila(F familia, const std::string& nombre, double base) {
+    FilaPerfil f{0, nombre, {}};
+    for (std::size_t i = 0; i < Familia(familia).Campos.size(); ++i) f.Valores.push_back(base + i);
+    return f;
+}
+
+class ArchivosDeTablas : public ::testing::Test {
+  protected:
+    std::string Nueva(F familia, const std::string& titulo) {
+        const std::string ruta = RutaTablaNueva(carpeta.Ruta(), familia, titulo);
+        CrearTablaPerfiles(RutaPrograma, familia, ruta);
+        return ruta;
+    }
+    CarpetaTemporal carpeta;
+};
+
+TEST_F(ArchivosDeTablas, CadaPlantillaNaceVaciaYGuardaSusCampos) {
+    for (F familia : TodasLasFamilias) {
+        const std::string ruta = Nueva(familia, "Prueba.pfl");
+        const TablaPerfiles vacia = LeerTablaPerfiles(ruta, familia);
+        EXPECT_EQ(vacia.DescripcionTabla, "");
+        EXPECT_TRUE(vacia.Filas.empty());
+
+        const TablaPerfiles tabla{"  Fabricante  ", 2530, {Fila(familia, " A 1 ", 1.5)}};
+        ASSERT_TRUE(SalvarTablaPerfiles(ruta, familia, tabla));
+        const TablaPerfiles leida = LeerTablaPerfiles(ruta, familia);
+        EXPECT_EQ(leida.DescripcionTabla, "Fabricante");
+        EXPECT_EQ(leida.ResistenciaFY, 2530);
+        ASSERT_EQ(leida.Filas.size(), 1u);
+        EXPECT_EQ(leida.Filas[0].Numero, 1);
+        EXPECT_EQ(leida.Filas[0].Designacion, "A 1");
+        EXPECT_EQ(leida.Filas[0].Valores, tabla.Filas[0].Valores);
+    }
+}
+
+TEST_F(ArchivosDeTablas, NuevaVaSiempreALaCarpetaDeTablas) {
+    const std::string ruta = Nueva(F::SeccionU, "U");
+    EXPECT_EQ(ruta, carpeta.Archivo("U_U"));
+    EXPECT_TRUE(std::filesystem::exists(ruta));
+}
+
+TEST_F(ArchivosDeTablas, CrearReemplazaLaTablaExistente) {
+    const std::string ruta = Nueva(F::DobleTee, "X.pfl");
+    SalvarTablaPerfiles(ruta, F::DobleTee, {"Vieja", 1, {Fila(F::DobleTee, "A", 1)}});
+    CrearTablaPerfiles(RutaPrograma, F::DobleTee, ruta);
+    EXPECT_TRUE(LeerTablaPerfiles(ruta, F::DobleTee).Filas.empty());
+}
+
+TEST_F(ArchivosDeTablas, SinPlantillaEsError53) {
+    EXPECT_TREVALO_ERROR(CrearTablaPerfiles(carpeta.Ruta(), F::DobleTee, carpeta.Archivo("A")), 53,
+                         "No se encontró el archivo");
+}
+
+TEST_F(ArchivosDeTablas, SalvarRenumeraDesdeElLugarDeLaFila) {
+    const std::string ruta = Nueva(F::TuboCuadrado, "T.pfl");
+    TablaPerfiles tabla{"Tubos",
+                        3515,
+                        {Fila(F::TuboCuadrado, "A", 10), Fila(F::TuboCuadrado, "B", 20),
+                         Fila(F::TuboCuadrado, "C", 30)}};
+    SalvarTablaPerfiles(ruta, F::TuboCuadrado, tabla);
+    tabla = LeerTablaPerfiles(ruta, F::TuboCuadrado);
+    tabla.Filas.erase(tabla.Filas.begin() + 1); // the grid deleted row 2
+    SalvarTablaPerfiles(ruta, F::TuboCuadrado, tabla);
+
+    const TablaPerfiles leida = LeerTablaPerfiles(ruta, F::TuboCuadrado);
+    ASSERT_EQ(leida.Filas.size(), 2u);
+    EXPECT_EQ(leida.Filas[0].Numero, 1);
+    EXPECT_EQ(leida.Filas[1].Numero, 2);
+    EXPECT_EQ(leida.Filas[1].Designacion, "C");
+    EXPECT_EQ(ValorCampo(F::TuboCuadrado, leida.Filas[1], "Inercia"), 33);
+}
+
+TEST_F(ArchivosDeTablas, LecturaEnOrdenDeNumero) {
+    const std::string ruta = Nueva(F::TuboRectangular, "R.pfl");
+    BaseDatos bd = BaseDatos::Abrir(ruta);
+    for (int n : {3, 1, 2})
+        bd.Ejecutar("INSERT INTO DatosPerfil (Numero, Designacion, Area) VALUES (?, ?, ?)",
+                    {n, "R" + std::to_string(n), n * 1.5});
+    const TablaPerfiles leida = LeerTablaPerfiles(ruta, F::TuboRectangular);
+    ASSERT_EQ(leida.Filas.size(), 3u);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(leida.Filas[static_cast<std::size_t>(i)].Numero, i + 1);
+        EXPECT_EQ(leida.Filas[static_cast<std::size_t>(i)].Designacion,
+                  "R" + std::to_string(i + 1));
+    }
+    // Fields left Null read as 0, as the grid shows them.
+    EXPECT_EQ(ValorCampo(F::TuboRectangular, leida.Filas[0], "InerciaY"), 0);
+    EXPECT_EQ(leida.ResistenciaFY, 0); // no GeneralPerfil row yet
+}
+
+TEST_F(ArchivosDeTablas, SinDescripcionNoSeEscribeNada) {
+    const std::string ruta = Nueva(F::SeccionU, "A.pfl");
+    SalvarTablaPerfiles(ruta, F::SeccionU, {"Canales", 2530, {Fila(F::SeccionU, "C 1", 1)}});
+    EXPECT_FALSE(SalvarTablaPerfiles(ruta, F::SeccionU, {"    ", 1, {}}));
+    const TablaPerfiles leida = LeerTablaPerfiles(ruta, F::SeccionU);
+    EXPECT_EQ(leida.DescripcionTabla, "Canales");
+    EXPECT_EQ(leida.Filas.size(), 1u);
+}
+
+TEST_F(ArchivosDeTablas, TablaSinFilasDejaUnaFilaGeneral) {
+    const std::string ruta = Nueva(F::SeccionU, "A.pfl");
+    SalvarTablaPerfiles(ruta, F::SeccionU, {"Canales", 2530, {Fila(F::SeccionU, "C 1", 1)}});
+    SalvarTablaPerfiles(ruta, F::SeccionU, {"Otra", 2400, {}});
+    BaseDatos bd = BaseDatos::Abrir(ruta);
+    EXPECT_EQ(bd.AbrirRecordset("GeneralPerfil").RecordCount(), 1);
+    EXPECT_EQ(bd.AbrirRecordset("DatosPerfil").RecordCount(), 0);
+}
+
+// A channel file saved as a double tee fails at the first field it lacks, after both
+// deletes have run: the file must be as it was.
+TEST_F(ArchivosDeTablas, FallaEnMedioDelGuardadoDejaElArchivoComoEstaba) {
+    const std::string ruta = Nueva(F::SeccionU, "A.pfl");
+    const TablaPerfiles original{
+        "Canales", 2530, {Fila(F::SeccionU, "C 1", 1), Fila(F::SeccionU, "C 2", 2)}};
+    SalvarTablaPerfiles(ruta, F::SeccionU, original);
+    EXPECT_TREVALO_ERROR(
+        SalvarTablaPerfiles(ruta, F::DobleTee, {"Otra", 1, {Fila(F::DobleTee, "I", 5)}}), 3265,
+        "Elemento no encontrado en esta colección.");
+    const TablaPerfiles leida = LeerTablaPerfiles(ruta, F::SeccionU);
+    EXPECT_EQ(leida.DescripcionTabla, "Canales");
+    ASSERT_EQ(leida.Filas.size(), 2u);
+    EXPECT_EQ(leida.Filas[1].Valores, original.Filas[1].Valores);
+}
+
+TEST_F(ArchivosDeTablas, ArchivoDeOtraFamiliaFallaAlLeerElCampo) {
+    const std::string ruta = Nueva(F::TuboCuadrado, "A.pfl");
+    SalvarTablaPerfiles(ruta, F::TuboCuadrado, {"T", 1, {Fila(F::TuboCuadrado, "T", 1)}});
+    EXPECT_TREVALO_ERROR(LeerTablaPerfiles(ruta, F::TuboRectangular), 3265,
+                         "Elemento no encontrado en esta colección.");
+}
+
+TEST_F(ArchivosDeTablas, ArchivoInexistenteEsErrorDelMotor) {
+    try {
+        LeerTablaPerfiles(carpeta.Archivo("DobleTee_No.pfl"), F::DobleTee);
+        ADD_FAILURE() << "no error";
+    } catch (const ErrorTrevalo& e) {
+        EXPECT_EQ(e.Numero() & 0xff, 14); // the engine's "unable to open"
+    }
+}
+
+TEST_F(ArchivosDeTablas, ListaSoloLasDeLaFamilia) {
+    for (const char* n : {"DobleTee_.pfl", "DobleTee_B.pfl", "dobletee_a.pfl", "U_C.pfl",
+                          "DobleTee_D", "Cuadrada_E.pfl"})
+        std::ofstream(carpeta.Archivo(n)) << "x";
+    EXPECT_EQ(TablasDeFamilia(carpeta.Ruta(), F::DobleTee),
+              (std::vector<std::string>{"DobleTee_B.pfl", "dobletee_a.pfl"}));
+    EXPECT_EQ(TablasDeFamilia(carpeta.Ruta(), F::SeccionU), std::vector<std::string>{"U_C.pfl"});
+}
+
+} // namespace
+} // namespace trevalo

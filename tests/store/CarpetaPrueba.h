@@ -1,0 +1,48 @@
+#pragma once
+// A fresh temporary folder for one test, removed with everything in it at the end, and small
+// helpers to write and read whole files.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <unistd.h>
+
+class CarpetaPrueba {
+  public:
+    CarpetaPrueba() {
+        const auto* prueba = ::testing::UnitTest::GetInstance()->current_test_info();
+        std::string nombre = std::string(prueba->test_suite_name()) + "_" + prueba->name();
+        for (char& c : nombre)
+            if (c == '/') c = '_';
+        ruta_ = std::filesystem::temp_directory_path() /
+                ("trevalo_" + nombre + "_" + std::to_string(::getpid()));
+        std::filesystem::remove_all(ruta_);
+        std::filesystem::create_directories(ruta_);
+    }
+    ~CarpetaPrueba() {
+        std::error_code ec;
+        std::filesystem::remove_all(ruta_, ec);
+    }
+    CarpetaPrueba(const CarpetaPrueba&) = delete;
+    CarpetaPrueba& operator=(const CarpetaPrueba&) = delete;
+
+    std::string operator/(const std::string& relativa) const { return (ruta_ / relativa).string(); }
+    std::string Ruta() const { return ruta_.string(); }
+
+  private:
+    std::filesystem::path ruta_;
+};
+
+inline void EscribirArchivo(const std::string& ruta, const std::string& contenido) {
+    std::filesystem::create_directories(std::filesystem::path(ruta).parent_path());
+    std::ofstream(ruta, std::ios::binary) << contenido;
+}
+
+inline std::string LeerArchivo(const std::string& ruta) {
+    std::ifstream archivo(ruta, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(archivo), std::istreambuf_iterator<char>());
+}

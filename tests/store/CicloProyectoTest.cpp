@@ -1,0 +1,342 @@
+// The life of projects driven by scripted answers: dialogs and message boxes are a fake,
+// the files are real ones in a temporary folder.
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <filesystem>
+#include <vector>
+
+#include "CarpetaPrueba.h"
+#include "store/CicloProyecto.h"
+
+namespace fs = std::filesystem;
+using namespace trevalo;
+
+namespace {
+
+class PlataformaGuionada : public PlataformaProyectoDisco {
+  public:
+    std::deque<ArchivoElegido> archivos;
+    std::deque<int> respuestas;
+    std::vector<std::string> dialogos; // titles of the file dialogs shown
+    std::vector<Pregunta> preguntas;
+    std::vector<std::string> basesAbiertas;
+    std::vector<bool> datosGenerales; // ProyectoNuevo of each showing of DatosG
+    int ventanasProyecto = 0;
+    std::string titulo = "sin titulo";
+    bool salvarComo = false;
+    bool espera = false;
+
+    ArchivoElegido PedirArchivo(const std::string& t, ModoDialogo modo,
+                                const std::string& carpeta) override {
+        dialogos.push_back(t + (modo == ModoDialogo::Abrir ? " [abrir] " : " [salvar] ") + carpeta);
+        if (archivos.empty()) return {};
+        ArchivoElegido a = archivos.front();
+        archivos.pop_front();
+        return a;
+    }
+    int Preguntar(const Pregunta& p) override {
+        preguntas.push_back(p);
+        if (respuestas.empty()) return RespuestaAceptar;
+        const int r = respuestas.front();
+        respuestas.pop_front();
+        return r;
+    }
+    void AbrirBaseDatos(const std::string& ruta) override { basesAbiertas.push_back(ruta); }
+    void MostrarDatosGenerales(bool nuevo) override { datosGenerales.push_back(nuevo); }
+    void MostrarVigasProyecto() override { ++ventanasProyecto; }
+    void ColocarTituloMenu(const std::string& t) override { titulo = t; }
+    void HabilitarSalvarComo(bool h) override { salvarComo = h; }
+    void PunteroEspera(bool e) override { espera = e; }
+};
+
+class Ciclo : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        carpetas.RutaPrograma = tmp / "programa";
+        carpetas.RutaProyectos = tmp / "proyectos";
+        EscribirArchivo(tmp / "programa/Imagen/ImagenViga.kvl", "proyecto vacio");
+        fs::create_directories(carpetas.RutaProyectos);
+        fs::create_directories(tmp / "otra");
+    }
+
+    ArchivoElegido En(const std::string& carpeta, const std::string& nombre) const {
+        return {false, tmp / (carpeta + "/" + nombre), nombre};
+    }
+
+    CarpetaPrueba tmp;
+    CarpetasPrograma carpetas;
+    EstadoCiclo estado;
+    PlataformaGuionada p;
+};
+
+const std::string TituloCrear = "Crear Nuevo Proyecto";
+
+TEST_F(Ciclo, CrearSobreArchivoExistentePreguntaDosVecesYLoReemplaza) {
+    EscribirArchivo(tmp / "proyectos/Edificio.trv", "vigas del usuario");
+    p.archivos = {En("proyectos", "Edificio.trv")};
+    p.respuestas = {RespuestaSi, RespuestaSi};
+
+    CrearNuevoProyecto(carpetas, estado, p);
+
+    ASSERT_EQ(p.preguntas.size(), 2u);
+    EXPECT_EQ(p.preguntas[0],
+              (Pregunta{"Proyecto: Edificio.trv ya Existe...    \n¿Desea Reemplazarlo?    ",
+                        TituloCrear, BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}));
+    EXPECT_EQ(p.preguntas[1],
+              (Pregunta{"Proyecto: Edificio.trv    \n\n¿Esta Seguro de Reemplazarlo?    ",
+                        TituloCrear, BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), "proyecto vacio");
+    EXPECT_EQ(estado.NombreProyecto, "Edificio.trv");
+    EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Edificio.trv]");
+    EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Edificio.trv"});
+    EXPECT_EQ(p.datosGenerales, std::vector<bool>{true});
+    EXPECT_FALSE(estado.ProyectoNuevo);
+    EXPECT_TRUE(p.salvarComo);
+    EXPECT_FALSE(p.espera);
+    EXPECT_EQ(p.dialogos,
+              std::vector<std::string>{"Crear un Nuevo Proyecto [salvar] " + tmp / "proyectos"});
+}
+
+// A "no" to either question leaves the file and the state as they were.
+class CrearRespuestas : public Ciclo, public ::testing::WithParamInterface<std::vector<int>> {};
+
+TEST_P(CrearRespuestas, NoDejaTodoIgual) {
+    EscribirArchivo(tmp / "proyectos/Edificio.trv", "vigas del usuario");
+    estado.NombreProyecto = "Anterior.trv";
+    p.archivos = {En("proyectos", "Edificio.trv")};
+    p.respuestas = {GetParam().begin(), GetParam().end()};
+
+    CrearNuevoProyecto(carpetas, estado, p);
+
+    EXPECT_EQ(p.preguntas.size(), GetParam().size());
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), "vigas del usuario");
+    EXPECT_EQ(estado.NombreProyecto, "Anterior.trv");
+    EXPECT_TRUE(p.basesAbiertas.empty());
+    EXPECT_TRUE(p.datosGenerales.empty());
+    EXPECT_FALSE(p.espera);
+}
+
+INSTANTIATE_TEST_SUITE_P(Guiones, CrearRespuestas,
+                         ::testing::Values(std::vector<int>{RespuestaNo},
+                                           std::vector<int>{RespuestaSi, RespuestaNo}));
+
+TEST_F(Ciclo, CrearEnOtraCarpetaCopiaEnProyectos) {
+    EscribirArchivo(tmp / "otra/Puente.trv", "ajeno");
+    p.archivos = {En("otra", "Puente.trv")};
+    p.respuestas = {RespuestaSi, RespuestaSi};
+
+    CrearNuevoProyecto(carpetas, estado, p);
+
+    // The exists test and the delete went to the folder chosen; the copy to RutaProyectos.
+    EXPECT_FALSE(fs::exists(tmp / "otra/Puente.trv"));
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Puente.trv"), "proyecto vacio");
+    EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Puente.trv"});
+}
+
+TEST_F(Ciclo, CancelarNoCambiaNada) {
+    estado.NombreProyecto = "Actual.trv";
+    using Operacion = void (*)(const CarpetasPrograma&, EstadoCiclo&, PlataformaProyecto&);
+    for (Operacion op :
+         {&CrearNuevoProyecto, &AbrirProyecto, &SalvarComoProyecto, &EliminarProyecto}) {
+        op(carpetas, estado, p);
+        EXPECT_FALSE(p.espera);
+    }
+    EXPECT_EQ(estado.NombreProyecto, "Actual.trv");
+    EXPECT_EQ(p.titulo, "sin titulo");
+    EXPECT_TRUE(p.preguntas.empty());
+    EXPECT_EQ(p.dialogos.size(), 4u);
+}
+
+TEST_F(Ciclo, AbrirEligeSinAbrirLaBase) {
+    p.archivos = {En("otra", "Galpon.trv")};
+    AbrirProyecto(carpetas, estado, p);
+    EXPECT_EQ(estado.NombreProyecto, "Galpon.trv");
+    EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "proyectos/Galpon.trv");
+    EXPECT_TRUE(p.basesAbiertas.empty());
+    EXPECT_TRUE(p.salvarComo);
+    EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Galpon.trv]");
+}
+
+TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
+    estado.NombreProyecto = "   ";
+    p.archivos = {En("proyectos", "Casa.trv")};
+    ModificarProyecto(carpetas, estado, p);
+    EXPECT_EQ(p.dialogos, std::vector<std::string>{"Modificar los Datos Generales del "
+                                                   "Proyecto [abrir] " +
+                                                   tmp / "proyectos"});
+    EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Casa.trv"});
+    EXPECT_EQ(p.datosGenerales, std::vector<bool>{false});
+
+    AnalizarVigas(carpetas, estado, p);
+    EXPECT_EQ(p.dialogos.size(), 1u);
+    EXPECT_EQ(p.ventanasProyecto, 1);
+    EXPECT_EQ(p.basesAbiertas.size(), 1u); // the project window opens it itself
+    EXPECT_FALSE(p.espera);
+
+    estado.NombreProyecto.clear();
+    AnalizarVigas(carpetas, estado, p); // cancelled: no window
+    EXPECT_EQ(p.dialogos.back(), "Analizar las Vigas del Proyecto [abrir] " + tmp / "proyectos");
+    EXPECT_EQ(p.ventanasProyecto, 1);
+}
+
+TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
+    EscribirArchivo(tmp / "proyectos/Viejo.trv", "vigas");
+    EscribirArchivo(tmp / "otra/Nuevo.trv", "se pierde");
+    estado.NombreProyecto = "Viejo.trv";
+    ModificarProyecto(carpetas, estado, p); // opens the old file, no dialog
+    p.archivos = {En("otra", "Nuevo.trv")};
+    p.respuestas = {RespuestaSi};
+
+    SalvarComoProyecto(carpetas, estado, p);
+
+    ASSERT_EQ(p.preguntas.size(), 1u); // one question only, under the title of creating
+    EXPECT_EQ(p.preguntas[0].Titulo, TituloCrear);
+    EXPECT_EQ(p.preguntas[0].Texto,
+              "Proyecto: Nuevo.trv ya Existe...    \n¿Desea Reemplazarlo?    ");
+    EXPECT_EQ(LeerArchivo(tmp / "otra/Nuevo.trv"), "vigas");
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Viejo.trv"), "vigas");
+    EXPECT_EQ(estado.NombreProyecto, "Nuevo.trv");
+    EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Nuevo.trv]");
+    // The handle stays on the old file, and the project is now looked for in RutaProyectos.
+    EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Viejo.trv"});
+    EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "proyectos/Nuevo.trv");
+}
+
+TEST_F(Ciclo, EliminarArchivoDeOtraCarpetaConElMismoTituloLimpiaElProyecto) {
+    EscribirArchivo(tmp / "proyectos/Torre.trv", "actual");
+    EscribirArchivo(tmp / "otra/TORRE.trv", "otro");
+    estado.NombreProyecto = "Torre.trv";
+    p.salvarComo = true;
+    p.archivos = {En("otra", "TORRE.trv")};
+    p.respuestas = {RespuestaSi, RespuestaSi};
+
+    EliminarProyecto(carpetas, estado, p);
+
+    ASSERT_EQ(p.preguntas.size(), 2u);
+    EXPECT_EQ(
+        p.preguntas[0],
+        (Pregunta{"Eliminar el Proyecto: TORRE.trv...    \n\n¿Esta Usted Seguro?",
+                  "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}));
+    EXPECT_EQ(
+        p.preguntas[1],
+        (Pregunta{"TORRE.trv...    \n\n¿Esta Usted Seguro de Eliminarlo?      ",
+                  "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
+    EXPECT_FALSE(fs::exists(tmp / "otra/TORRE.trv"));
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Torre.trv"), "actual");
+    EXPECT_EQ(estado.NombreProyecto, "");
+    EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: []");
+    EXPECT_FALSE(p.salvarComo);
+}
+
+TEST_F(Ciclo, EliminarComparaMayusculasDeLetrasEspanolas) {
+    EscribirArchivo(tmp / "otra/ampliación ñandú.trv", "x");
+    estado.NombreProyecto = " AMPLIACIÓN ÑANDÚ.TRV";
+    p.archivos = {En("otra", "ampliación ñandú.trv")};
+    p.respuestas = {RespuestaSi, RespuestaSi};
+    EliminarProyecto(carpetas, estado, p);
+    EXPECT_EQ(estado.NombreProyecto, "");
+}
+
+TEST_F(Ciclo, EliminarOtroProyectoDejaElActual) {
+    EscribirArchivo(tmp / "proyectos/Otro.trv", "x");
+    estado.NombreProyecto = "Actual.trv";
+    p.salvarComo = true;
+    p.archivos = {En("proyectos", "Otro.trv")};
+    p.respuestas = {RespuestaSi, RespuestaSi};
+    EliminarProyecto(carpetas, estado, p);
+    EXPECT_FALSE(fs::exists(tmp / "proyectos/Otro.trv"));
+    EXPECT_EQ(estado.NombreProyecto, "Actual.trv");
+    EXPECT_EQ(p.titulo, "sin titulo");
+    EXPECT_TRUE(p.salvarComo);
+}
+
+TEST_F(Ciclo, EliminarQueFallaMuestraElErrorYNoLimpia) {
+    estado.NombreProyecto = "Perdido.trv";
+    p.archivos = {En("proyectos", "Perdido.trv")}; // no such file
+    p.respuestas = {RespuestaSi, RespuestaSi};
+    EliminarProyecto(carpetas, estado, p);
+    ASSERT_EQ(p.preguntas.size(), 3u);
+    EXPECT_EQ(p.preguntas[2], (Pregunta{"No se encontró el archivo      ", "Error Número: 53",
+                                        BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
+    EXPECT_EQ(estado.NombreProyecto, "Perdido.trv");
+}
+
+TEST_F(Ciclo, CopiaFallidaSeIgnoraYLaSecuenciaSigue) {
+    fs::remove(tmp / "programa/Imagen/ImagenViga.kvl");
+    p.archivos = {En("proyectos", "Sin.trv")};
+    CrearNuevoProyecto(carpetas, estado, p);
+    EXPECT_FALSE(fs::exists(tmp / "proyectos/Sin.trv"));
+    EXPECT_EQ(estado.NombreProyecto, "Sin.trv");
+    EXPECT_EQ(p.basesAbiertas.size(), 1u);
+    EXPECT_TRUE(p.preguntas.empty());
+}
+
+// The questions around a beam; the project's names are searched ignoring case.
+class PreguntasViga : public Ciclo {
+  protected:
+    BuscarViga existe = [](const std::string& n) { return n == "V-1" || n == "v-1"; };
+    int lecturas = 0;
+    std::function<std::string()> leer = [this] {
+        ++lecturas;
+        return std::string("V-1");
+    };
+};
+
+TEST_F(PreguntasViga, SalvarComo) {
+    EXPECT_FALSE(AceptarSalvarComoViga("   ", existe, leer, estado, p));
+    EXPECT_TRUE(p.preguntas.empty());
+
+    EXPECT_FALSE(AceptarSalvarComoViga(" v-1 ", existe, leer, estado, p));
+    EXPECT_EQ(
+        p.preguntas.back(),
+        (Pregunta{"La Viga: v-1       \nLa Viga ya Existe en el Proyecto...        ",
+                  "Creando Nueva Viga", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
+    EXPECT_EQ(lecturas, 0);
+
+    p.respuestas = {RespuestaNo, RespuestaSi};
+    EXPECT_FALSE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, p));
+    EXPECT_FALSE(estado.DialogoAceptado);
+    EXPECT_TRUE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, p));
+    EXPECT_EQ(p.preguntas.back(),
+              (Pregunta{"Salvar Como (Crear) la Viga: V-2       \nA Partir de la Viga "
+                        "Seleccionada: V-1       \n\n",
+                        "Salvar Como", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1}));
+    EXPECT_EQ(estado.NombreCopiaViga, "V-2");
+    EXPECT_TRUE(estado.DialogoAceptado);
+    EXPECT_EQ(lecturas, 2);
+}
+
+TEST_F(PreguntasViga, Renombrar) {
+    EXPECT_FALSE(AceptarRenombrarViga("v-1", "V-1", existe, estado, p));
+    EXPECT_EQ(p.preguntas.back(),
+              (Pregunta{"Nombre: v-1       \nEste Nombre ya Existe en las Vigas del "
+                        "Proyecto...       \n",
+                        "Renombrar", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
+    p.respuestas = {RespuestaSi};
+    EXPECT_TRUE(AceptarRenombrarViga(" Eje B ", "V-1", existe, estado, p));
+    EXPECT_EQ(
+        p.preguntas.back().Texto,
+        "Renombrar la Viga: V-1   Por el Nombre: Eje B       \n\nEsta Usted Seguro?       \n");
+    EXPECT_EQ(estado.NombreRenombrar, "Eje B");
+    EXPECT_TRUE(estado.DialogoAceptado);
+}
+
+TEST_F(PreguntasViga, Eliminar) {
+    p.respuestas = {RespuestaSi, RespuestaNo, RespuestaSi, RespuestaSi};
+    EXPECT_FALSE(ConfirmarEliminarViga("V-1", estado, p));
+    EXPECT_TRUE(ConfirmarEliminarViga("V-1", estado, p));
+    ASSERT_EQ(p.preguntas.size(), 4u);
+    EXPECT_EQ(p.preguntas[0],
+              (Pregunta{"Viga: V-1\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted "
+                        "Seguro?    ",
+                        "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo,
+                        IconoMensaje::Advertencia, 2}));
+    EXPECT_EQ(p.preguntas[1], (Pregunta{"Viga: V-1\n¿Esta Seguro de Eliminar la Viga?    ",
+                                        "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo,
+                                        IconoMensaje::Advertencia, 1}));
+    EXPECT_EQ(estado.Respuesta, RespuestaSi);
+}
+
+} // namespace
