@@ -20,9 +20,9 @@ namespace trevalo::calc {
 
 namespace {
 
-nlohmann::json Resumen(const ResumenAcero& r, long nt) {
+nlohmann::ordered_json Resumen(const ResumenAcero& r, long nt) {
     const auto lista = [nt](const Arreglo<double>& a) {
-        nlohmann::json l = nlohmann::json::array();
+        nlohmann::ordered_json l = nlohmann::ordered_json::array();
         for (long t = 1; t <= nt; ++t) l.push_back(a(t));
         return l;
     };
@@ -32,16 +32,16 @@ nlohmann::json Resumen(const ResumenAcero& r, long nt) {
         {"AsSupDerecha", lista(r.AsSupDerecha)},     {"AsInfDerecha", lista(r.AsInfDerecha)}};
 }
 
-nlohmann::json Estacion(const TramoDiseno& tramo, const EstacionDiseno& e, bool concreto) {
+nlohmann::ordered_json Estacion(const TramoDiseno& tramo, const EstacionDiseno& e, bool concreto) {
     const TextosEstacion tx = TextosDeEstacion(tramo, e);
-    nlohmann::json textos;
+    nlohmann::ordered_json textos;
     if (concreto) textos = {{"E(3/8)", tx.E}, {"AS(S)", tx.AsS}, {"AS(I)", tx.AsI}};
     textos["MU(S)"] = tx.MuS;
     textos["MU(I)"] = tx.MuI;
     textos["VU"] = tx.Vu;
     textos["PROGRES"] = tx.Progresiva;
-    nlohmann::json j = {{"i", e.i}, {"h", e.h},   {"x", e.x},   {"M", e.M},
-                        {"V", e.V}, {"Mu", e.Mu}, {"Vu", e.Vu}, {"textos", textos}};
+    nlohmann::ordered_json j = {{"i", e.i}, {"h", e.h},   {"x", e.x},   {"M", e.M},
+                                {"V", e.V}, {"Mu", e.Mu}, {"Vu", e.Vu}, {"textos", textos}};
     if (concreto) {
         j["AsSup"] = e.AsSup;
         j["AsInf"] = e.AsInf;
@@ -92,9 +92,9 @@ int ComandoDiseno(const Argumentos& args, std::ostream& salida, std::ostream& er
         const std::vector<TramoDiseno> tabla =
             TablaDiseno(c.proyecto, c.viga, c.resultados, g.XPlot, g.YPlot, estaciones, hoja);
         DisenoParaCAD(c.proyecto, c.viga, c.resultados, g.XPlot, g.YPlot, estaciones, cad);
-        nlohmann::json tramos = nlohmann::json::array();
+        nlohmann::ordered_json tramos = nlohmann::ordered_json::array();
         for (const TramoDiseno& tramo : tabla) {
-            nlohmann::json lista = nlohmann::json::array();
+            nlohmann::ordered_json lista = nlohmann::ordered_json::array();
             for (const EstacionDiseno& e : tramo.Estaciones)
                 lista.push_back(Estacion(tramo, e, concreto));
             tramos.push_back({{"tramo", tramo.t},
@@ -103,10 +103,10 @@ int ComandoDiseno(const Argumentos& args, std::ostream& salida, std::ostream& er
                               {"n", tramo.n},
                               {"estaciones", lista}});
         }
-        nlohmann::json doc = {{"viga", c.viga.NombreVigaActual},
-                              {"concreto", concreto},
-                              {"estacionesPorMetro", estaciones},
-                              {"tramos", tramos}};
+        nlohmann::ordered_json doc = {{"viga", c.viga.NombreVigaActual},
+                                      {"concreto", concreto},
+                                      {"estacionesPorMetro", estaciones},
+                                      {"tramos", tramos}};
         doc["resumenHoja"] = Resumen(hoja, c.viga.NT);
         doc["resumenCAD"] = Resumen(cad, c.viga.NT);
         salida << doc.dump(2) << "\n";
