@@ -20,40 +20,39 @@ struct FilasHoja {
     double extra = 0;          // ExtraDiseno
     double izquierda = 0;      // left end of the beam on the screen
     double YAsI = 0, YMuS = 0; // absolute heights kept for the detailing strip
+    long TH = 0;               // line height of the sheet's font
 };
 
-// Text of the sheet: size 7 k FactorLetra, always turned 90 degrees (reading upward). TW and
-// TH are rounded like every other pixel amount.
-struct TextoHoja {
-    long TW = 0, TH = 0;
-};
-
-TextoHoja Medir(Lienzo& lienzo, const EstadoPloteos& v, const std::string& texto) {
+// Every text of the sheet: size 7 k FactorLetra, turned 90 degrees (reading upward) unless
+// told. Widths (TW) and the one line height (TH) are rounded like every other pixel amount.
+void Letra(Lienzo& lienzo, const EstadoPloteos& v) {
     FijarLetra(lienzo, 7, v.FactorSimbolo * v.FactorLetra);
-    return {CI(lienzo.TextWidth(texto)), CI(lienzo.TextHeight(texto))};
 }
 
-// Writes `texto` turned 90 degrees at corner (x, y) and returns its measures.
-TextoHoja Escribir(Lienzo& lienzo, const EstadoPloteos& v, const std::string& texto, double x,
-                   double y, double angulo = 90) {
-    const TextoHoja m = Medir(lienzo, v, texto);
+long TW(Lienzo& lienzo, const EstadoPloteos& v, const std::string& texto) {
+    Letra(lienzo, v);
+    return CI(lienzo.TextWidth(texto));
+}
+
+void Escribir(Lienzo& lienzo, const EstadoPloteos& v, const std::string& texto, double x, double y,
+              double angulo = 90) {
+    Letra(lienzo, v);
     TextoRotado(lienzo, texto, x, y, angulo);
-    return m;
 }
 
-// Headings stand left of the beam, names 35 k and units 23 k out; `arriba(TW)` gives the
-// corner's height below BaseY from the heading's own width.
+// Headings stand left of the beam, names 35 k and units 23 k out; `altura(TW)` gives the
+// corner's height from the heading's own width.
 template <typename Altura>
 void Encabezado(Lienzo& lienzo, const EstadoPloteos& v, const FilasHoja& f,
                 const std::string& texto, bool unidad, Altura altura) {
-    const TextoHoja m = Medir(lienzo, v, texto);
-    const double x = CI(f.izquierda - m.TH - (unidad ? 23 : 35) * f.k);
-    TextoRotado(lienzo, texto, x, v.BaseY + altura(m.TW), 90);
+    const double x = CI(f.izquierda - f.TH - (unidad ? 23 : 35) * f.k);
+    Escribir(lienzo, v, texto, x, altura(TW(lienzo, v, texto)));
 }
 
 void Encabezados(Lienzo& lienzo, const EstadoPloteos& v, const FilasHoja& f, bool concreto) {
     const double k = f.k, H0 = f.H0, E4 = f.E4, ex = f.extra;
-    const auto fija = [](double y) { return [y](long) { return y; }; };
+    const double b = v.BaseY;
+    const auto fija = [b](double y) { return [b, y](long) { return b + y; }; };
     Encabezado(lienzo, v, f, "REACCION", false, fija(75 * k));
     Encabezado(lienzo, v, f, "kgf", true, fija(65 * k));
     if (concreto) {
@@ -67,18 +66,18 @@ void Encabezados(Lienzo& lienzo, const EstadoPloteos& v, const FilasHoja& f, boo
     const double mu = H0 + 105 * k + 2 * E4 + ex;
     Encabezado(lienzo, v, f, "MU(S)", false, fija(mu));
     Encabezado(lienzo, v, f, "kgf-m", true, fija(mu));
-    Encabezado(lienzo, v, f, "MU(I)", false, [&](long TW) { return mu + TW + 5 * k; });
-    Encabezado(lienzo, v, f, "kgf-m", true, [&](long TW) { return mu + TW + 8 * k; });
+    Encabezado(lienzo, v, f, "MU(I)", false, [&](long tw) { return b + mu + tw + 5 * k; });
+    Encabezado(lienzo, v, f, "kgf-m", true, [&](long tw) { return b + mu + tw + 8 * k; });
     Encabezado(lienzo, v, f, "VU", false, fija(H0 + 172 * k + 3 * E4 + ex));
     Encabezado(lienzo, v, f, "kgf", true, fija(H0 + 172 * k + 3 * E4 + ex));
     Encabezado(lienzo, v, f, "PROGRES", false,
-               [&](long TW) { return H0 + 180 * k + TW + 4 * E4 + ex; });
+               [&](long tw) { return b + H0 + 180 * k + tw + 4 * E4 + ex; });
     Encabezado(lienzo, v, f, "m", true,
-               [&](long TW) { return H0 + 195 * k + TW + 5 * k + 4 * E4 + ex; });
+               [&](long tw) { return b + H0 + 195 * k + tw + 5 * k + 4 * E4 + ex; });
 }
 
 // Reaction arrows of the sheet (service values, sizes following the zoom).
-void Reacciones(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga,
+void Reacciones(Lienzo& lienzo, const EstadoPloteos& v, const FilasHoja& f, const VigaActual& viga,
                 const ResultadosViga& r) {
     const double k = v.FactorSimbolo;
     lienzo.DrawMode = DrawModeCopiar;
@@ -98,8 +97,8 @@ void Reacciones(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga,
                            {{x, y + 25 * k}, {x - 6 * k, y + 19 * k}, {x + 6 * k, y + 21 * k}});
             }
             const std::string texto = Formato(r.ReacV(j), "0");
-            const TextoHoja m = Medir(lienzo, v, texto);
-            TextoRotado(lienzo, texto, CI(m.TH / 2.0 + x - 2 * k), CI(y + m.TW + 8 * k), 90);
+            Escribir(lienzo, v, texto, CI(f.TH / 2.0 + x - 2 * k),
+                     CI(y + TW(lienzo, v, texto) + 8 * k));
         }
         if (RoundKorvel(r.ReacH(j), 0) != 0) {
             const double s = r.ReacH(j) > 0 ? -1 : 1; // arrow left of the joint for > 0
@@ -108,9 +107,8 @@ void Reacciones(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga,
                 {{x + s * 5 * k, y}, {x + s * 11 * k, y - 6 * k}, {x + s * 11 * k, y + 6 * k}});
             RectanguloEn(lienzo, x + s * 11 * k, y - 2 * k, x + s * 35 * k, y + 2 * k);
             const std::string texto = Formato(r.ReacH(j), "0");
-            const TextoHoja m = Medir(lienzo, v, texto);
-            const double xt = r.ReacH(j) > 0 ? x - m.TW - 14 * k : 16 * k + x;
-            TextoRotado(lienzo, texto, CI(xt), CI(4 * k + y), 0);
+            const double xt = r.ReacH(j) > 0 ? x - TW(lienzo, v, texto) - 14 * k : 16 * k + x;
+            Escribir(lienzo, v, texto, CI(xt), CI(4 * k + y), 0);
         }
     }
 }
@@ -121,15 +119,15 @@ void Celdas(Lienzo& lienzo, const EstadoPloteos& v, const FilasHoja& f,
     const double k = f.k, b = v.BaseY + f.H0, E4 = f.E4, ex = f.extra;
     if (concreto) {
         Escribir(lienzo, v, textos.E, x, b);
-        const TextoHoja s = Escribir(lienzo, v, textos.AsS, x, b + 35 * k + E4);
-        Escribir(lienzo, v, textos.AsI, x, b + 35 * k + s.TW + 8 * k + E4);
+        Escribir(lienzo, v, textos.AsS, x, b + 35 * k + E4);
+        Escribir(lienzo, v, textos.AsI, x, b + 35 * k + TW(lienzo, v, textos.AsS) + 8 * k + E4);
     }
     const double mu = b + 105 * k + 2 * E4 + ex;
     Escribir(lienzo, v, textos.MuS, x, mu);
-    Escribir(lienzo, v, textos.MuI, x, mu + Medir(lienzo, v, textos.MuI).TW + 5 * k);
+    Escribir(lienzo, v, textos.MuI, x, mu + TW(lienzo, v, textos.MuI) + 5 * k);
     Escribir(lienzo, v, textos.Vu, x, b + 175 * k + 3 * E4 + ex);
-    const long tw = Medir(lienzo, v, textos.Progresiva).TW;
-    Escribir(lienzo, v, textos.Progresiva, x, b + 195 * k + tw + 5 * k + 4 * E4 + ex);
+    Escribir(lienzo, v, textos.Progresiva, x,
+             b + 195 * k + TW(lienzo, v, textos.Progresiva) + 5 * k + 4 * E4 + ex);
 }
 
 // The empty strip for detailing bars by hand, on report pictures of concrete beams.
@@ -139,14 +137,9 @@ void Despiece(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual& viga, co
     LineaPen(lienzo, CI(v.Escala * v.XPlot(1) + v.OrigenX - 10 * k), CI(y),
              CI(v.Escala * v.XPlot(viga.NT + 1) + v.OrigenX + 10 * k), CI(y), ColorDespiece, 1,
              EstiloGuionPuntoPunto);
-    const auto columna = [&](const std::string& texto, bool unidad, auto altura) {
-        const TextoHoja m = Medir(lienzo, v, texto);
-        TextoRotado(lienzo, texto, CI(f.izquierda - m.TH - (unidad ? 23 : 35) * k), altura(m.TW),
-                    90);
-    };
-    columna("DESPIECE", false, [&](long TW) { return y + TW / 2.0; });
-    columna("Superior", true, [&](long) { return y - 10 * k; });
-    columna("Inferior", true, [&](long TW) { return y + TW + 10 * k; });
+    Encabezado(lienzo, v, f, "DESPIECE", false, [&](long tw) { return y + tw / 2.0; });
+    Encabezado(lienzo, v, f, "Superior", true, [&](long) { return y - 10 * k; });
+    Encabezado(lienzo, v, f, "Inferior", true, [&](long tw) { return y + tw + 10 * k; });
 }
 
 } // namespace
@@ -163,7 +156,9 @@ void PlotearDiseno(Lienzo& lienzo, EstadoPloteos& v, const ProyectoActual& proye
     f.YAsI = v.BaseY + f.H0 + 63 * f.k + f.E4;
     f.YMuS = v.BaseY + f.H0 + 105 * f.k + 2 * f.E4 + f.extra;
 
-    Reacciones(lienzo, v, viga, r);
+    Letra(lienzo, v);
+    f.TH = CI(lienzo.TextHeight("0"));
+    Reacciones(lienzo, v, f, viga, r);
     const std::vector<TramoDiseno> tabla =
         TablaDiseno(proyecto, viga, r, v.XPlot, v.YPlot, v.EstacionesDiseno, resumen);
     const double e = 1 / v.Escala;
@@ -171,8 +166,7 @@ void PlotearDiseno(Lienzo& lienzo, EstadoPloteos& v, const ProyectoActual& proye
         double P = 9 * e;
         for (const EstacionDiseno& estacion : tramo.Estaciones) {
             const TextosEstacion textos = TextosDeEstacion(tramo, estacion);
-            const long TH = Medir(lienzo, v, textos.Vu).TH;
-            const double x = CI((P + v.XPlot(tramo.t)) * v.Escala + v.OrigenX - TH / 2.0);
+            const double x = CI((P + v.XPlot(tramo.t)) * v.Escala + v.OrigenX - f.TH / 2.0);
             Celdas(lienzo, v, f, textos, concreto, x);
             if (tramo.t == 1 && estacion.i == 0) Encabezados(lienzo, v, f, concreto);
             P += (tramo.dX - 18 * e) / static_cast<double>(tramo.n);
