@@ -15,9 +15,9 @@ void PlotearElevacion(Lienzo& lienzo, EstadoPloteos& estado, const ProyectoActua
                       const VigaActual& viga);
 
 // The beam's name under the drawing, at a height that depends on the result view.
-void PlotearTitulo(Lienzo& lienzo, const EstadoPloteos& estado, const VigaActual& viga);
+void PlotearTitulo(Lienzo& lienzo, EstadoPloteos& estado, const VigaActual& viga);
 
 // Numbered bubbles on the joints.
-void PlotearNumerosJuntas(Lienzo& lienzo, const EstadoPloteos& estado, const VigaActual& viga);
+void PlotearNumerosJuntas(Lienzo& lienzo, EstadoPloteos& estado, const VigaActual& viga);
 
 } // namespace trevalo

@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 #include <unicode/ucol.h>
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cmath>
@@ -334,15 +335,19 @@ struct Recordset::Datos {
         modo = Modo::Ninguno;
     }
 
-    Fila ReleerFila(std::int64_t id) {
+    std::vector<Fila> LeerPorId(std::int64_t id) {
         return Motor([&] {
             SQLite::Statement s(con->db,
                                 "SELECT rowid, * FROM " + Identificador(tabla) + " WHERE rowid=?");
             s.bind(1, static_cast<int64_t>(id));
-            auto r = LeerFilas(s, false);
-            if (r.empty()) throw ErrorTrevalo(ErrSinRegistro, "No hay ningún registro activo.");
-            return r.front();
+            return LeerFilas(s, false);
         });
+    }
+
+    Fila ReleerFila(std::int64_t id) {
+        auto r = LeerPorId(id);
+        if (r.empty()) throw ErrorTrevalo(ErrSinRegistro, "No hay ningún registro activo.");
+        return r.front();
     }
 
     std::int64_t Insertar() {
@@ -537,6 +542,23 @@ void Recordset::Delete() {
 void Recordset::Requery() {
     d_->ExigirAbierto();
     d_->Cargar();
+}
+
+void Recordset::Refrescar() {
+    d_->ExigirActualizable();
+    const bool habiaActual = d_->HayActual();
+    const std::int64_t actual = habiaActual ? d_->filas[static_cast<std::size_t>(d_->pos)].id : 0;
+    std::vector<Fila> quedan;
+    long nuevaPos = -1;
+    for (const auto& f : d_->filas) {
+        auto leidas = d_->LeerPorId(f.id);
+        if (leidas.empty()) continue;
+        if (habiaActual && f.id == actual) nuevaPos = static_cast<long>(quedan.size());
+        quedan.push_back(std::move(leidas.front()));
+    }
+    const long viejaPos = d_->pos;
+    d_->filas = std::move(quedan);
+    d_->Mover(nuevaPos >= 0 ? nuevaPos : std::min(std::max(viejaPos, 0L), d_->Cuenta()));
 }
 
 void Recordset::Close() {

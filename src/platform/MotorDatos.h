@@ -155,6 +155,10 @@ class Recordset {
 
     // Runs the query again; positioned on the first row.
     void Requery();
+    // Reads every row again from the file keeping the recordset's order and position; rows
+    // no longer in the file drop out. Brings the rows back in line after a transaction was
+    // taken back, without the reordering of a Requery.
+    void Refrescar();
     void Close();
 
     const std::vector<std::string>& Columnas() const;

@@ -1,0 +1,71 @@
+#pragma once
+// The beam store: moves a beam between the tables of the project file and the model, reads
+// and writes the project settings, renames and deletes a beam.
+//
+// Names travel as bound parameters, so any character of a name is stored as typed. Every
+// write of more than one statement runs in one transaction: on failure the file is as it
+// was. Name comparisons ignore case (the engine's collation): "viga ñ" and "VIGA Ñ" are one
+// beam.
+//
+// Failures. LeerViga, SalvarViga and CopiarViga trap every error of the program's type and
+// show it through `avisar` (exclamation box): the text and title below, "Error: " and the
+// error's number. The others raise it.
+
+#include <functional>
+#include <string>
+
+#include "model/Viga.h"
+#include "store/EstadoProyecto.h"
+
+namespace trevalo {
+
+// Shows a message box with an exclamation mark.
+using MostrarAviso = std::function<void(const std::string& texto, const std::string& titulo)>;
+
+// The tables that hold a beam by the key NombreViga, in the order of rename and delete.
+extern const char* const TablasViga[9];
+
+// Opens RsGeneralViga on `sql` and, when it has rows, MoveLast then MoveFirst.
+void AbrirRsGeneralViga(EstadoProyecto& estado, const std::string& sql);
+inline const char* const ConsultaListaVigas = "SELECT * FROM GeneralViga ORDER BY NombreViga";
+
+// Reads the one row of GeneralProyecto. No row: error 3021. A Null text: error 94.
+void LeerGeneralProyecto(BaseDatos& bd, ProyectoActual& proyecto);
+// Replaces the row of GeneralProyecto with the settings, every column written.
+void SalvarGeneralProyecto(BaseDatos& bd, const ProyectoActual& proyecto);
+// The first step of every analysis (AnalizarViga's LectorProyecto), bound to this
+// project's GeneralProyecto.
+std::function<void(ProyectoActual&)> LectorGeneralProyecto(const BaseDatos& bd);
+
+// Loads the beam viga.NombreVigaActual. A name not in GeneralViga gives the default beam
+// without a message. A bad row (Null, a table shorter than the spans or joints, a count
+// beyond its slots) shows "Hay un Error en los Datos de la Viga: " + name + "...    " and
+// leaves the default beam of that name. Returns whether the beam was read.
+bool LeerViga(EstadoProyecto& estado, VigaActual& viga, const MostrarAviso& avisar);
+
+// Writes the beam under viga.NombreVigaActual: a new header row on RsGeneralViga when
+// VigaNueva, else the row where RsGeneralViga stands; then the eight child tables, old rows
+// deleted first. A joint keeps LDer, LIzq, HC only if it carries a vertical support (in R1
+// with Apoyo other than 3, or in R10 with SV10 not 0); others are written as 0. On success
+// BeamNuevo = true and VigaNueva = false. On failure: the engine's text + "...    ", and
+// the file and RsGeneralViga are as they were. Returns whether the beam was written.
+bool SalvarViga(EstadoProyecto& estado, VigaActual& viga, const MostrarAviso& avisar);
+
+// Writes the beam under estado.NombreCopiaViga, replacing a beam of that name, with a new
+// header row on RsGeneralViga. Kept as users know it: every joint's LDer, LIzq, HC are
+// written, and column W3_k of the loads receives the point load P(t, k). Neither VigaNueva
+// nor BeamNuevo changes. Failure as in SalvarViga.
+bool CopiarViga(EstadoProyecto& estado, const VigaActual& viga, const MostrarAviso& avisar);
+
+// Whether GeneralViga holds a beam of that name (case ignored).
+bool ExisteViga(BaseDatos& bd, const std::string& nombre);
+
+// Renames the beam of the current row of RsGeneralViga to estado.NombreRenombrar in the
+// nine tables, GeneralViga last. The caller requeries the list.
+void RenombrarViga(EstadoProyecto& estado);
+
+// Deletes the rows of `nombre` from the eight child tables, then the current row of
+// RsGeneralViga.
+void EliminarViga(EstadoProyecto& estado, const std::string& nombre);
+
+} // namespace trevalo

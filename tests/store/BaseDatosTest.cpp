@@ -1,0 +1,407 @@
+// The beam store over a project made from the installation's template: round trips,
+// the copy's kept differences, names of any text, one transaction per write, bad rows.
+
+#include "ProyectoPrueba.h"
+
+#include "VerificaError.h"
+
+namespace trevalo::prueba {
+namespace {
+
+class Almacen : public ProyectoPrueba {};
+
+TEST_F(Almacen, CadaColumnaSobreviveSalvarYLeer) {
+    std::mt19937 azar(20261121);
+    for (int i = 0; i < 40; ++i) {
+        std::set<long> conApoyo;
+        auto v = VigaAleatoria(azar, "Viga " + std::to_string(i), i % 4 == 0, conApoyo);
+        SCOPED_TRACE(v.NombreVigaActual);
+        Guardar(v);
+        ExpectVigasIguales(Cargar(v.NombreVigaActual), TrasGuardar(v, conApoyo));
+    }
+    EXPECT_EQ(estado_.RsGeneralViga->RecordCount(), 40);
+}
+
+TEST_F(Almacen, UnaVigaLlenaNoDejaColumnaNula) {
+    std::mt19937 azar(7);
+    std::set<long> conApoyo;
+    auto v = VigaAleatoria(azar, "Llena", true, conApoyo);
+    Guardar(v);
+    for (const auto& [tabla, filas] : Volcar(*estado_.BDProyecto, "Llena")) {
+        ASSERT_FALSE(filas.empty()) << tabla;
+        for (const auto& fila : filas)
+            for (std::size_t c = 0; c < fila.size(); ++c)
+                EXPECT_FALSE(fila[c].EsNulo()) << tabla << " column " << c;
+    }
+    auto cargas = Volcar(*estado_.BDProyecto, "Llena")["CargasTramos"];
+    EXPECT_EQ(cargas.front().size(), 112u);
+}
+
+TEST_F(Almacen, SalvarDosVecesDaTablasIdenticas) {
+    std::mt19937 azar(11);
+    std::set<long> conApoyo;
+    auto otra = VigaAleatoria(azar, "Otra", false, conApoyo);
+    Guardar(otra);
+    auto v = VigaAleatoria(azar, "Doble", false, conApoyo);
+    Guardar(v);
+    const auto primera = Volcar(*estado_.BDProyecto);
+    Posicionar("Doble");
+    ASSERT_TRUE(SalvarViga(estado_, v, avisar_));
+    EXPECT_EQ(Volcar(*estado_.BDProyecto), primera);
+    EXPECT_TRUE(estado_.BeamNuevo);
+    EXPECT_FALSE(v.VigaNueva);
+    EXPECT_EQ(estado_.RsGeneralViga->RecordCount(), 2);
+}
+
+TEST_F(Almacen, SalvarSobreLaFilaActualCambiaLaCabecera) {
+    std::mt19937 azar(12);
+    std::set<long> conApoyo;
+    auto v = VigaAleatoria(azar, "Cabecera", false, conApoyo);
+    Guardar(v);
+    v.NT = static_cast<std::int16_t>(v.NT + 1);
+    RedimensionarViga(v);
+    v.LT(v.NT) = 2.5;
+    v.VT(v.NT) = 1;
+    v.OpcionConcreto = static_cast<std::uint8_t>(1 - v.OpcionConcreto); // B1, T1 stay numbers
+    Posicionar("Cabecera");
+    ASSERT_TRUE(SalvarViga(estado_, v, avisar_));
+    EXPECT_EQ(estado_.RsGeneralViga->Campo("NT").Entero(), v.NT);
+    ExpectVigasIguales(Cargar("Cabecera"), TrasGuardar(v, conApoyo));
+}
+
+TEST_F(Almacen, CopiarVigaSoloDifiereEnLoQueSeConserva) {
+    std::mt19937 azar(5);
+    std::set<long> conApoyo;
+    auto v = VigaAleatoria(azar, "Original", true, conApoyo);
+    v.LDer(1) = 0.25; // joint 1 without support: the copy keeps what the save drops
+    conApoyo.erase(1);
+    v.NJRest = 0;
+    v.R1.Redim(0);
+    v.Apoyo.Redim(0);
+    v.NJRes = 0;
+    v.R10.Redim(0);
+    for (auto* a : {&v.SH10, &v.SV10, &v.SM10}) a->Redim(0);
+    for (long j = 2; j <= v.NT + 1; ++j) conApoyo.erase(j);
+    Guardar(v);
+    v.VigaNueva = true; // the copy ignores and keeps it
+    estado_.BeamNuevo = false;
+    estado_.NombreCopiaViga = "Copia";
+    ASSERT_TRUE(CopiarViga(estado_, v, avisar_));
+    EXPECT_TRUE(v.VigaNueva);
+    EXPECT_FALSE(estado_.BeamNuevo);
+    EXPECT_EQ(estado_.RsGeneralViga->RecordCount(), 2);
+
+    BaseDatos& bd = *estado_.BDProyecto;
+    auto esperado = Volcar(bd, "Original");
+    for (auto& [tabla, filas] : esperado)
+        for (auto& fila : filas) fila[0] = Valor("Copia");
+    // Every joint keeps its dimensions in the copy.
+    for (long j = 1; j <= v.NT + 1; ++j) {
+        auto& fila = esperado["Juntas"][static_cast<std::size_t>(j - 1)];
+        fila[Columna(bd, "Juntas", "LDer")] = Valor(v.LDer(j));
+        fila[Columna(bd, "Juntas", "LIzq")] = Valor(v.LIzq(j));
+        fila[Columna(bd, "Juntas", "HC")] = Valor(v.HC(j));
+    }
+    // The partial uniform loads carry the point loads of the same slot.
+    for (long t = 1; t <= v.NT; ++t)
+        for (long k = 1; k <= v.CantW3(t); ++k)
+            esperado["CargasTramos"][static_cast<std::size_t>(t - 1)]
+                    [Columna(bd, "CargasTramos", "W3_" + std::to_string(k))] = Valor(v.P(t, k));
+    EXPECT_EQ(Volcar(bd, "Copia"), esperado);
+    EXPECT_NE(v.P(1, 1), v.W3_(1, 1)); // the difference is visible in this beam
+}
+
+TEST_F(Almacen, CopiarSobreUnNombreExistenteLoReemplaza) {
+    std::mt19937 azar(9);
+    std::set<long> conApoyo;
+    auto a = VigaAleatoria(azar, "A", false, conApoyo);
+    auto b = VigaAleatoria(azar, "B", false, conApoyo);
+    Guardar(a);
+    Guardar(b);
+    estado_.NombreCopiaViga = "b"; // same beam, other case
+    ASSERT_TRUE(CopiarViga(estado_, a, avisar_));
+    const auto todo = Volcar(*estado_.BDProyecto);
+    EXPECT_EQ(todo.at("GeneralViga").size(), 2u);
+    EXPECT_EQ(todo.at("Tramos").size(), 2u * static_cast<std::size_t>(a.NT));
+    EXPECT_EQ(Cargar("B").NT, a.NT);
+}
+
+TEST_F(Almacen, NombresConCualquierTextoNoDananOtrasVigas) {
+    std::mt19937 azar(3);
+    std::set<long> conApoyo;
+    auto otra = VigaAleatoria(azar, "Otra", false, conApoyo);
+    Guardar(otra);
+    BaseDatos& bd = *estado_.BDProyecto;
+    const auto intacta = Volcar(bd, "Otra");
+    const std::string nombres[] = {"x\"; DROP TABLE Tramos; --", "O'Brien \"la grande\" ñandú",
+                                   "Viga 'Ñ' \\ % _ ; */"};
+    for (const auto& nombre : nombres) {
+        SCOPED_TRACE(nombre);
+        std::set<long> apoyos;
+        auto v = VigaAleatoria(azar, nombre, false, apoyos);
+        Guardar(v);
+        ExpectVigasIguales(Cargar(nombre), TrasGuardar(v, apoyos));
+        EXPECT_TRUE(ExisteViga(bd, nombre));
+
+        estado_.NombreCopiaViga = nombre + " (copia)";
+        ASSERT_TRUE(CopiarViga(estado_, v, avisar_));
+        EXPECT_EQ(Volcar(bd, nombre + " (copia)").at("Tramos").size(),
+                  static_cast<std::size_t>(v.NT));
+
+        Posicionar(nombre);
+        estado_.NombreRenombrar = nombre + "\"2";
+        RenombrarViga(estado_);
+        EXPECT_FALSE(ExisteViga(bd, nombre));
+        auto renombrada = Cargar(nombre + "\"2");
+        renombrada.NombreVigaActual = nombre;
+        ExpectVigasIguales(renombrada, TrasGuardar(v, apoyos));
+
+        estado_.RsGeneralViga->Requery();
+        Posicionar(nombre + "\"2");
+        EliminarViga(estado_, nombre + "\"2");
+        for (const auto& [tabla, filas] : Volcar(bd, nombre + "\"2"))
+            EXPECT_TRUE(filas.empty()) << tabla;
+        EXPECT_EQ(Volcar(bd, "Otra"), intacta);
+        estado_.RsGeneralViga->Requery();
+    }
+    EXPECT_TRUE(avisos_.empty());
+    EXPECT_EQ(estado_.RsGeneralViga->RecordCount(), 1 + 3); // Otra and the three copies
+}
+
+TEST_F(Almacen, MayusculasYMinusculasSonUnSoloNombre) {
+    std::mt19937 azar(4);
+    std::set<long> conApoyo;
+    auto v = VigaAleatoria(azar, "viga ñ", false, conApoyo);
+    Guardar(v);
+    BaseDatos& bd = *estado_.BDProyecto;
+    EXPECT_TRUE(ExisteViga(bd, "VIGA Ñ"));
+    EXPECT_TRUE(ExisteViga(bd, "Viga Ñ"));
+    EXPECT_FALSE(ExisteViga(bd, "viga n"));
+    EXPECT_FALSE(ExisteViga(bd, "viga ñ "));
+    auto leida = Cargar("VIGA Ñ");
+    EXPECT_EQ(leida.LT, v.LT);
+    EXPECT_EQ(leida.NombreEje, v.NombreEje);
+
+    estado_.NombreCopiaViga = "VIGA Ñ";
+    ASSERT_TRUE(CopiarViga(estado_, v, avisar_));
+    const auto todo = Volcar(bd);
+    ASSERT_EQ(todo.at("GeneralViga").size(), 1u);
+    EXPECT_EQ(todo.at("GeneralViga")[0][0], Valor("VIGA Ñ"));
+    EXPECT_EQ(todo.at("Tramos").size(), static_cast<std::size_t>(v.NT));
+}
+
+TEST_F(Almacen, UnFalloAMitadDeSalvarDejaLaVigaComoEstaba) {
+    std::mt19937 azar(8);
+    std::set<long> conApoyo;
+    auto v = VigaAleatoria(azar, "Intacta", false, conApoyo);
+    v.NJRest = 1;
+    v.R1.Redim(1);
+    v.Apoyo.Redim(1);
+    v.R1(1) = 1;
+    v.Apoyo(1) = ApoyoFijo;
+    Guardar(v);
+    BaseDatos& bd = *estado_.BDProyecto;
+    const auto antes = Volcar(bd);
+    // The fourth table of the save refuses every new row.
+    bd.EjecutarGuion("CREATE TRIGGER Falla BEFORE INSERT ON JuntasRestringidas "
+                     "BEGIN SELECT RAISE(ABORT, 'fallo inyectado'); END;");
+
+    std::set<long> otros;
+    auto cambiada = VigaAleatoria(azar, "Intacta", true, otros);
+    cambiada.NJRest = 1;
+    cambiada.R1.Redim(1);
+    cambiada.Apoyo.Redim(1);
+    cambiada.R1(1) = 2;
+    cambiada.Apoyo(1) = Empotramiento;
+    Posicionar("Intacta");
+    estado_.BeamNuevo = false;
+    EXPECT_FALSE(SalvarViga(estado_, cambiada, avisar_));
+    ASSERT_EQ(avisos_.size(), 1u);
+    EXPECT_EQ(avisos_[0].texto, "fallo inyectado...    ");
+    EXPECT_EQ(avisos_[0].titulo, "Error: 1811");
+    EXPECT_EQ(Volcar(bd), antes);
+    EXPECT_FALSE(estado_.BeamNuevo);
+    EXPECT_EQ(estado_.RsGeneralViga->Campo("NT").Entero(), v.NT); // the list shows the file
+    EXPECT_EQ(estado_.RsGeneralViga->Campo("NombreViga").Texto(), "Intacta");
+
+    // A new beam that fails leaves no row behind, in the file or in the list.
+    cambiada.NombreVigaActual = "Nueva";
+    cambiada.VigaNueva = true;
+    EXPECT_FALSE(SalvarViga(estado_, cambiada, avisar_));
+    EXPECT_TRUE(cambiada.VigaNueva);
+    EXPECT_EQ(Volcar(bd), antes);
+    EXPECT_EQ(estado_.RsGeneralViga->RecordCount(), 1);
+    EXPECT_EQ(estado_.RsGeneralViga->Campo("NombreViga").Texto(), "Intacta");
+
+    estado_.NombreCopiaViga = "Intacta";
+    EXPECT_FALSE(CopiarViga(estado_, cambiada, avisar_));
+    EXPECT_EQ(Volcar(bd), antes);
+    EXPECT_EQ(avisos_.size(), 3u);
+}
+
+TEST_F(Almacen, UnNombreAusenteDaLaVigaPorDefectoSinMensaje) {
+    VigaActual esperada;
+    esperada.NombreVigaActual = "Nadie";
+    NuevaVigaDefecto(esperada);
+    ExpectVigasIguales(Cargar("Nadie"), esperada);
+    EXPECT_TRUE(avisos_.empty());
+}
+
+TEST_F(Almacen, UnaCabeceraSinFilasCargaValoresPorDefecto) {
+    BaseDatos& bd = *estado_.BDProyecto;
+    bd.Ejecutar("INSERT INTO GeneralViga VALUES ('Sola', 3, 0, 0, 0, 1.4)");
+    const auto v = Cargar("Sola");
+    EXPECT_EQ(v.NT, 3);
+    EXPECT_EQ(v.LT, Arreglo<double>(3));
+    EXPECT_EQ(v.FMayorTramo, Arreglo<double>(3)); // the span loop never ran
+    EXPECT_EQ(v.NTipos, 1);
+    EXPECT_EQ(v.B1(1), 0.3);
+    EXPECT_EQ(v.T1(1), 0.5);
+    for (long j = 1; j <= 4; ++j) {
+        EXPECT_EQ(v.LDer(j), 0.15);
+        EXPECT_EQ(v.HC(j), 0.5);
+        EXPECT_EQ(v.NombreEje(j), "");
+    }
+    EXPECT_EQ(v.NJRest, 0);
+    EXPECT_EQ(v.CantW2, Arreglo<std::int16_t>(3));
+}
+
+struct CasoTipo {
+    int opcionConcreto;
+    const char* b1; // SQL literal
+    double esperadoB1;
+};
+
+TEST_F(Almacen, UnTipoSinDimensionTomaLaDelConcreto) {
+    const CasoTipo casos[] = {{0, "NULL", 0.3},  {0, "0", 0.3},    {0, "-2", 0.3},
+                              {0, "0.45", 0.45}, {1, "NULL", 0.0}, {1, "12.5", 12.5}};
+    BaseDatos& bd = *estado_.BDProyecto;
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.b1);
+        bd.Ejecutar("DELETE FROM GeneralViga");
+        bd.Ejecutar("DELETE FROM TiposVigas");
+        bd.Ejecutar("INSERT INTO GeneralViga VALUES ('T', 1, ?, 0, 0, 1.5)", {c.opcionConcreto});
+        bd.Ejecutar(std::string("INSERT INTO TiposVigas VALUES ('T', 1, ") + c.b1 + ", NULL, 'x')");
+        const auto v = Cargar("T");
+        EXPECT_EQ(v.B1(1), c.esperadoB1);
+        EXPECT_EQ(v.T1(1), c.opcionConcreto == 0 ? 0.5 : 0.0);
+        EXPECT_TRUE(avisos_.empty());
+    }
+}
+
+struct CasoDanado {
+    const char* descripcion;
+    const char* sql; // damage done to a saved beam named 'D'
+    long numero;
+};
+
+TEST_F(Almacen, DatosDanadosDanElMensajeYLaVigaPorDefecto) {
+    const CasoDanado casos[] = {
+        {"span row missing", "DELETE FROM Tramos WHERE Tramo=2", 3021},
+        {"joint row missing", "DELETE FROM Juntas WHERE Numero=3", 3021},
+        {"null axis name", "UPDATE Juntas SET NombreEje=NULL", 94},
+        {"null designation", "UPDATE TiposVigas SET Designacion=NULL", 94},
+        {"null span length", "UPDATE Tramos SET LT=NULL", 94},
+        {"text in a number", "UPDATE Tramos SET LT='largo'", 13},
+        {"count beyond slots", "UPDATE CargasTramos SET CantW6=6", 9},
+        {"count of a missing slot", "UPDATE CargasTramos SET CantW2=CantW2+1", 94},
+        {"type beyond 16 bits", "UPDATE GeneralViga SET NT=40000", 6},
+    };
+    std::mt19937 azar(6);
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.descripcion);
+        estado_.BDProyecto->Ejecutar("DELETE FROM GeneralViga");
+        std::set<long> conApoyo;
+        auto v = VigaAleatoria(azar, "D", false, conApoyo);
+        v.NT = 3;
+        ReiniciarArreglosViga(v);
+        v.NTipos = 1;
+        v.Designacion(1) = "x";
+        for (long t = 1; t <= 3; ++t) {
+            v.LT(t) = 3;
+            v.CantW2(t) = 2;
+            v.CantW6(t) = 5;
+        }
+        estado_.RsGeneralViga->Requery();
+        avisos_.clear();
+        Guardar(v);
+        estado_.BDProyecto->Ejecutar(c.sql);
+        avisos_.clear();
+        VigaActual leida;
+        leida.NombreVigaActual = "D";
+        EXPECT_FALSE(LeerViga(estado_, leida, avisar_));
+        ASSERT_EQ(avisos_.size(), 1u);
+        EXPECT_EQ(avisos_[0].texto, "Hay un Error en los Datos de la Viga: D...    ");
+        EXPECT_EQ(avisos_[0].titulo, "Error: " + std::to_string(c.numero));
+        VigaActual defecto;
+        defecto.NombreVigaActual = "D";
+        NuevaVigaDefecto(defecto);
+        defecto.FMayoracionTC = leida.FMayoracionTC; // left as they were by the default beam
+        defecto.LongTotal = leida.LongTotal;
+        ExpectVigasIguales(leida, defecto);
+    }
+}
+
+TEST_F(Almacen, LosDatosGeneralesVanYVuelven) {
+    BaseDatos& bd = *estado_.BDProyecto;
+    ProyectoActual p;
+    EXPECT_TREVALO_ERROR(LeerGeneralProyecto(bd, p), 3021, "No hay ningún registro activo.");
+    p.Proyecto = "Edificio \"Los Álamos\"";
+    p.Propietario = "Inversiones O'Higgins";
+    p.ProyFecha = "21/11/2026";
+    p.Calculista = "Ing. Núñez";
+    p.Comentario = "Losa de entrepiso";
+    p.Cliente = "Cliente";
+    p.PPV = false;
+    p.DEFCOR = true;
+    p.FC = 280;
+    p.FY = 4200.5;
+    p.D8 = 0.06;
+    p.PesoConcreto = 2400;
+    p.CFormaConcreto = 1.2;
+    p.ModuloAcero = 2039000;
+    p.PesoAcero = 7850;
+    p.CFormaAcero = 2.4;
+    p.OpcionEstribos = true;
+    SalvarGeneralProyecto(bd, p);
+    SalvarGeneralProyecto(bd, p); // replaced, not added
+    EXPECT_EQ(Volcar(bd).size(), 9u);
+    EXPECT_EQ(bd.AbrirRecordset("GeneralProyecto").RecordCount(), 1);
+    ProyectoActual leido;
+    LectorGeneralProyecto(bd)(leido);
+    EXPECT_EQ(leido.Proyecto, p.Proyecto);
+    EXPECT_EQ(leido.Propietario, p.Propietario);
+    EXPECT_EQ(leido.ProyFecha, p.ProyFecha);
+    EXPECT_EQ(leido.Calculista, p.Calculista);
+    EXPECT_EQ(leido.Comentario, p.Comentario);
+    EXPECT_EQ(leido.Cliente, p.Cliente);
+    EXPECT_EQ(leido.PPV, p.PPV);
+    EXPECT_EQ(leido.DEFCOR, p.DEFCOR);
+    EXPECT_EQ(leido.FC, p.FC);
+    EXPECT_EQ(leido.FY, p.FY);
+    EXPECT_EQ(leido.D8, p.D8);
+    EXPECT_EQ(leido.PesoConcreto, p.PesoConcreto);
+    EXPECT_EQ(leido.CFormaConcreto, p.CFormaConcreto);
+    EXPECT_EQ(leido.ModuloAcero, p.ModuloAcero);
+    EXPECT_EQ(leido.PesoAcero, p.PesoAcero);
+    EXPECT_EQ(leido.CFormaAcero, p.CFormaAcero);
+    EXPECT_EQ(leido.OpcionEstribos, p.OpcionEstribos);
+}
+
+TEST_F(Almacen, LaListaDeVigasVaEnOrdenDeNombre) {
+    for (const char* n : {"Viga 2", "azotea", "Ñandú", "nivel 3", "Árbol"}) {
+        VigaActual v;
+        v.NombreVigaActual = n;
+        NuevaVigaDefecto(v);
+        Guardar(v);
+    }
+    AbrirRsGeneralViga(estado_, ConsultaListaVigas);
+    auto& rs = *estado_.RsGeneralViga;
+    EXPECT_EQ(rs.AbsolutePosition(), 0);
+    std::vector<std::string> orden;
+    for (; !rs.AlFinal(); rs.MoveNext()) orden.push_back(rs.Campo("NombreViga").Texto());
+    EXPECT_EQ(orden, (std::vector<std::string>{"Árbol", "azotea", "nivel 3", "Ñandú", "Viga 2"}));
+}
+
+} // namespace
+} // namespace trevalo::prueba
