@@ -4,28 +4,11 @@
 
 #include "model/Errores.h"
 #include "model/Redondeo.h"
+#include "profiles/Aritmetica.h"
 
 namespace trevalo {
 
 namespace {
-
-// Double arithmetic that faults as the users know it instead of giving Inf or NaN.
-double Div(double a, double b) {
-    if (b == 0) throw a == 0 ? ErrorTrevalo::Desbordamiento() : ErrorTrevalo::DivisionPorCero();
-    const double r = a / b;
-    if (!std::isfinite(r)) throw ErrorTrevalo::Desbordamiento();
-    return r;
-}
-
-double Raiz(double x) {
-    if (x < 0) throw ErrorTrevalo::LlamadaNoValida();
-    return std::sqrt(x);
-}
-
-double Finito(double x) {
-    if (!std::isfinite(x)) throw ErrorTrevalo::Desbordamiento();
-    return x;
-}
 
 double Cubo(double x) {
     return x * x * x;

@@ -1,0 +1,115 @@
+#pragma once
+// One span of every load kind, with the load also described as straight pieces and point
+// loads: an independent picture of the load for the oracles of the tests.
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "model/Viga.h"
+
+namespace trevalo::prueba {
+
+// A straight piece of load: q0 at x0 rising or falling linearly to q1 at x1 (kgf/m).
+struct Pieza {
+    double x0, x1, q0, q1;
+};
+struct Puntual {
+    double P, x;
+};
+
+// Length of the horizontal test span, m.
+inline const double LCarga = 7.5;
+
+struct CasoCarga {
+    std::string nombre;
+    void (*cargar)(VigaActual&);
+    std::vector<Pieza> piezas;
+    std::vector<Puntual> puntuales;
+};
+
+inline void PrintTo(const CasoCarga& c, std::ostream* os) {
+    *os << c.nombre;
+}
+
+inline std::vector<CasoCarga> CasosCarga() {
+    return {
+        {"Uniforme", [](VigaActual& v) { v.W1(1) = 1800; }, {{0, LCarga, 1800, 1800}}, {}},
+        {"Puntuales",
+         [](VigaActual& v) {
+             v.CantW2(1) = 3;
+             v.P(1, 1) = 4000;
+             v.LP(1, 1) = 1.2;
+             v.P(1, 2) = -1500;
+             v.LP(1, 2) = 3.75;
+             v.P(1, 3) = 2500;
+             v.LP(1, 3) = 6.9;
+         },
+         {},
+         {{4000, 1.2}, {-1500, 3.75}, {2500, 6.9}}},
+        {"Parciales",
+         [](VigaActual& v) {
+             v.CantW3(1) = 2;
+             v.W3_(1, 1) = 900;
+             v.La3_(1, 1) = 0.5;
+             v.Lb3_(1, 1) = 3;
+             v.W3_(1, 2) = 1300;
+             v.La3_(1, 2) = 2;
+             v.Lb3_(1, 2) = 7.5;
+         },
+         {{0.5, 3, 900, 900}, {2, 7.5, 1300, 1300}},
+         {}},
+        {"Triangular",
+         [](VigaActual& v) { v.W4(1) = 2400; },
+         {{0, LCarga / 2, 0, 2400}, {LCarga / 2, LCarga, 2400, 0}},
+         {}},
+        {"Trapecio1",
+         [](VigaActual& v) {
+             v.W5(1) = 2000;
+             v.la5(1) = 1.5;
+         },
+         {{0, 1.5, 0, 2000}, {1.5, LCarga - 1.5, 2000, 2000}, {LCarga - 1.5, LCarga, 2000, 0}},
+         {}},
+        {"TriangularDerecha",
+         [](VigaActual& v) {
+             v.CantW6(1) = 2;
+             v.W6_(1, 1) = 1700;
+             v.La6_(1, 1) = 1;
+             v.Lb6_(1, 1) = 4;
+             v.W6_(1, 2) = 600;
+             v.La6_(1, 2) = 0;
+             v.Lb6_(1, 2) = LCarga;
+         },
+         {{1, 4, 0, 1700}, {0, LCarga, 0, 600}},
+         {}},
+        {"TriangularIzquierda",
+         [](VigaActual& v) {
+             v.CantW7(1) = 1;
+             v.W7_(1, 1) = 2100;
+             v.La7_(1, 1) = 2.5;
+             v.Lb7_(1, 1) = 6;
+         },
+         {{2.5, 6, 2100, 0}},
+         {}},
+        {"Trapecio2",
+         [](VigaActual& v) {
+             v.CantW8(1) = 3;
+             v.WIzq8_(1, 1) = 500;
+             v.WDer8_(1, 1) = 1900;
+             v.La8_(1, 1) = 0.5;
+             v.Lb8_(1, 1) = 5;
+             v.WIzq8_(1, 2) = 2200;
+             v.WDer8_(1, 2) = 800;
+             v.La8_(1, 2) = 3;
+             v.Lb8_(1, 2) = 7;
+             v.WIzq8_(1, 3) = 700;
+             v.WDer8_(1, 3) = 700;
+             v.La8_(1, 3) = 1;
+             v.Lb8_(1, 3) = 2;
+         },
+         {{0.5, 5, 500, 1900}, {3, 7, 2200, 800}, {1, 2, 700, 700}},
+         {}},
+    };
+}
+
+} // namespace trevalo::prueba
