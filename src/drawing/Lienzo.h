@@ -11,9 +11,13 @@
 // Implementations: the Qt canvases of platform/ (raster image or window, PDF, SVG) and the
 // recording canvas LienzoGrabador with fixed text metrics for tests.
 
+#include <cmath>
 #include <cstdint>
+#include <numbers>
 #include <string>
 #include <vector>
+
+#include "model/Redondeo.h"
 
 namespace trevalo {
 
@@ -113,7 +117,11 @@ class Lienzo {
     virtual void Ellipse(long izquierda, long arriba, long derecha, long abajo) = 0;
     // Arc about (x, y) from `inicio` through `barrido` degrees, joined to the current
     // position by a straight line; the current position moves to the arc's end.
-    void AngleArc(long x, long y, long radio, double inicio, double barrido);
+    void AngleArc(long x, long y, long radio, double inicio, double barrido) {
+        TrazarArco(posicion_, x, y, radio, inicio, barrido);
+        const double fin = (inicio + barrido) * std::numbers::pi / 180.0;
+        posicion_ = {CI(x + radio * std::cos(fin)), CI(y - radio * std::sin(fin))};
+    }
 
     // Text with its top-left corner at (x, y) in the current font and ForeColor, no box,
     // turned by `angulo` degrees about that corner.

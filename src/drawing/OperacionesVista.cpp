@@ -82,6 +82,18 @@ bool ArrastrarVista(EstadoPloteos& estado, double& ultimoX, double& ultimoY, dou
     return true;
 }
 
+void ElegirPestana(EstadoPloteos& estado, int pestana) {
+    estado.VerDiagramas = pestana == 2;
+    estado.VerDiseno = pestana == 3;
+    estado.VerReacciones = pestana == 4;
+    estado.EnPantalla = true;
+    if (pestana == 2 || pestana == 3) {
+        estado.EstacionesDiagrama = 10;
+        estado.EstacionesDiseno = 2;
+    }
+    if (pestana == 3) estado.FactorLetra = 1.0;
+}
+
 void AumentarEstaciones(EstadoPloteos& estado, int pestana) {
     if (pestana == 2) ++estado.EstacionesDiagrama;
     if (pestana == 3) ++estado.EstacionesDiseno;

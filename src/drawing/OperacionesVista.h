@@ -40,6 +40,12 @@ void DesplazarVista(EstadoPloteos& estado, Direccion direccion);
 // the drag and becomes (x, y). Returns whether the point moved (and a redraw is due).
 bool ArrastrarVista(EstadoPloteos& estado, double& ultimoX, double& ultimoY, double x, double y);
 
+// The project window's tabs: 1 elevation alone, 2 force diagrams, 3 design sheet, 4
+// reactions. Sets the one result view and EnPantalla, and resets what the tab resets: tab 2
+// the stations, tab 3 the stations and the text factor; tab 4 keeps the text factor that
+// the design sheet left.
+void ElegirPestana(EstadoPloteos& estado, int pestana);
+
 // Station and text tools. `pestana` is the project window's tab: 2 diagrams, 3 design
 // sheet; on other tabs the station tools do nothing.
 void AumentarEstaciones(EstadoPloteos& estado, int pestana);

@@ -4,7 +4,8 @@
 //
 // Runtime faults use the numbers the users know from the classic runtime:
 //   5 invalid procedure call (root of a negative), 6 overflow, 9 subscript out of range,
-//   11 division by zero, 13 type mismatch, 94 invalid use of Null, 32755 cancel of a dialog.
+//   11 division by zero, 13 type mismatch, 53 file not found, 58 file already exists,
+//   94 invalid use of Null, 32755 cancel of a dialog.
 // Engine errors keep the engine's own number and text.
 
 #include <stdexcept>
@@ -39,6 +40,8 @@ inline constexpr long ErrSubindice = 9;
 inline constexpr long ErrDivisionPorCero = 11;
 inline constexpr long ErrTiposNoCoinciden = 13;
 inline constexpr long ErrUsoNull = 94;
+inline constexpr long ErrArchivoNoEncontrado = 53;
+inline constexpr long ErrArchivoYaExiste = 58;
 inline constexpr long ErrCancelado = 32755;
 
 } // namespace trevalo

@@ -46,7 +46,7 @@ std::string Mayusculas(const std::string& texto) {
     return resultado;
 }
 
-int Preguntar(EstadoCiclo& estado, PlataformaProyecto& plataforma, const Pregunta& pregunta) {
+int Preguntar(EstadoProyecto& estado, PlataformaProyecto& plataforma, const Pregunta& pregunta) {
     estado.Mensaje = pregunta.Texto;
     estado.Respuesta = plataforma.Preguntar(pregunta);
     return estado.Respuesta;
@@ -67,7 +67,7 @@ Pregunta PreguntaReemplazar(const std::string& titulo) {
 }
 
 // The project chosen: its title becomes the current project, not yet opened.
-void ElegirProyecto(const ArchivoElegido& archivo, EstadoCiclo& estado,
+void ElegirProyecto(const ArchivoElegido& archivo, EstadoProyecto& estado,
                     PlataformaProyecto& plataforma) {
     plataforma.PunteroEspera(true);
     estado.NombreProyecto = archivo.FileTitle;
@@ -78,7 +78,7 @@ void ElegirProyecto(const ArchivoElegido& archivo, EstadoCiclo& estado,
 
 // When no project is current, asks for one with the given title; false on cancel.
 bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpetas,
-                        EstadoCiclo& estado, PlataformaProyecto& plataforma) {
+                        EstadoProyecto& estado, PlataformaProyecto& plataforma) {
     if (!Recortado(estado.NombreProyecto).empty()) return true;
     const ArchivoElegido archivo =
         plataforma.PedirArchivo(titulo, ModoDialogo::Abrir, carpetas.RutaProyectos);
@@ -119,15 +119,19 @@ void PlataformaProyectoDisco::BorrarArchivo(const std::string& ruta) {
     if (ec) throw ErrorArchivo(ec);
 }
 
+BaseDatos PlataformaProyectoDisco::AbrirBaseDatos(const std::string& ruta) {
+    return BaseDatos::Abrir(ruta);
+}
+
 std::string TituloMenu(const std::string& nombreProyecto) {
     return "Trevalo 6.0  Proyecto: [" + nombreProyecto + "]";
 }
 
-std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoCiclo& estado) {
+std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoProyecto& estado) {
     return carpetas.RutaProyectos + "/" + estado.NombreProyecto;
 }
 
-void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                         PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -153,14 +157,16 @@ void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
                                  RutaProyectoActual(carpetas, estado));
     });
     plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
-    Ignorando([&] { plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado)); });
+    Ignorando([&] {
+        estado.BDProyecto = plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado));
+    });
     estado.ProyectoNuevo = true;
     plataforma.MostrarDatosGenerales(true);
     estado.ProyectoNuevo = false;
     plataforma.HabilitarSalvarComo(true);
 }
 
-void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                    PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -169,18 +175,20 @@ void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
     ElegirProyecto(archivo, estado, plataforma);
 }
 
-void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                        PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     if (!HayProyectoOElegir("Modificar los Datos Generales del Proyecto", carpetas, estado,
                             plataforma))
         return;
-    Ignorando([&] { plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado)); });
+    Ignorando([&] {
+        estado.BDProyecto = plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado));
+    });
     estado.ProyectoNuevo = false;
     plataforma.MostrarDatosGenerales(false);
 }
 
-void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                    PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     if (!HayProyectoOElegir("Analizar las Vigas del Proyecto", carpetas, estado, plataforma))
@@ -190,7 +198,7 @@ void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
     plataforma.MostrarVigasProyecto();
 }
 
-void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                         PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -213,7 +221,7 @@ void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
     plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
 }
 
-void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                       PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
     const ArchivoElegido archivo = plataforma.PedirArchivo(
@@ -248,7 +256,7 @@ void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
 
 bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
                            const std::function<std::string()>& leerSeleccionada,
-                           EstadoCiclo& estado, PlataformaProyecto& plataforma) {
+                           EstadoProyecto& estado, PlataformaProyecto& plataforma) {
     const std::string nombre = Recortado(texto);
     if (nombre.empty()) return false;
     if (existe(nombre)) {
@@ -270,7 +278,7 @@ bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
 }
 
 bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
-                          const BuscarViga& existe, EstadoCiclo& estado,
+                          const BuscarViga& existe, EstadoProyecto& estado,
                           PlataformaProyecto& plataforma) {
     const std::string nombre = Recortado(texto);
     if (nombre.empty()) return false;
@@ -290,7 +298,7 @@ bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
     return true;
 }
 
-bool ConfirmarEliminarViga(const std::string& nombre, EstadoCiclo& estado,
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,
                            PlataformaProyecto& plataforma) {
     const std::string titulo = "Eliminando Vigas del Proyecto";
     const Pregunta primera =

@@ -21,7 +21,9 @@
 #include <functional>
 #include <string>
 
+#include "platform/MotorDatos.h"
 #include "store/CarpetasPrograma.h"
+#include "store/EstadoProyecto.h"
 
 namespace trevalo {
 
@@ -70,9 +72,9 @@ class PlataformaProyecto {
     virtual bool ExisteArchivo(const std::string& ruta) = 0;
     virtual void CopiarArchivo(const std::string& origen, const std::string& destino) = 0;
     virtual void BorrarArchivo(const std::string& ruta) = 0;
-    // Opens the project database for shared reading and writing; the new handle replaces
-    // the one held (BDProyecto), which is never closed by the program.
-    virtual void AbrirBaseDatos(const std::string& ruta) = 0;
+    // Opens the project database for shared reading and writing. The lifecycle puts the
+    // handle in BDProyecto, replacing the one held, which is never closed by the program.
+    virtual BaseDatos AbrirBaseDatos(const std::string& ruta) = 0;
     // Shows the general data dialog modally; `proyectoNuevo` while it is shown.
     virtual void MostrarDatosGenerales(bool proyectoNuevo) = 0;
     // Shows the project window modally; it opens the database itself.
@@ -82,46 +84,35 @@ class PlataformaProyecto {
     virtual void PunteroEspera(bool espera) = 0;
 };
 
-// The file operations on the disk, for the windows to build on. Errors: 53 "No se encontró
-// el archivo" for a missing source, 70 "Permiso denegado" when the system refuses, 75
+// The file and database operations on the disk, for the windows to build on. Errors: 53 "No se
+// encontró el archivo" for a missing source, 70 "Permiso denegado" when the system refuses, 75
 // "Error de acceso a la ruta o el archivo" otherwise. A copy replaces its destination.
 class PlataformaProyectoDisco : public PlataformaProyecto {
   public:
     bool ExisteArchivo(const std::string& ruta) override;
     void CopiarArchivo(const std::string& origen, const std::string& destino) override;
     void BorrarArchivo(const std::string& ruta) override;
-};
-
-// Program-wide project state shared by the windows.
-struct EstadoCiclo {
-    std::string NombreProyecto;
-    bool ProyectoNuevo = false;
-    std::string NombreVigaActual;
-    std::string NombreCopiaViga;
-    std::string NombreRenombrar;
-    bool DialogoAceptado = false;
-    std::string Mensaje; // the last question's text
-    int Respuesta = 0;   // the last button pressed
+    BaseDatos AbrirBaseDatos(const std::string& ruta) override;
 };
 
 // "Trevalo 6.0  Proyecto: [" + nombre + "]" (two blanks before "Proyecto").
 std::string TituloMenu(const std::string& nombreProyecto);
 
 // The path of the current project: RutaProyectos + "/" + NombreProyecto.
-std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoCiclo& estado);
+std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoProyecto& estado);
 
 // The main menu's commands.
-void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                         PlataformaProyecto& plataforma);
-void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                    PlataformaProyecto& plataforma);
-void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                        PlataformaProyecto& plataforma);
-void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                    PlataformaProyecto& plataforma);
-void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                         PlataformaProyecto& plataforma);
-void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoCiclo& estado,
+void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                       PlataformaProyecto& plataforma);
 
 // The questions around a beam. `existe` is the engine's search for a name among the beams
@@ -134,17 +125,17 @@ using BuscarViga = std::function<bool(const std::string& nombre)>;
 // name and DialogoAceptado becomes true; the caller then copies the beam.
 bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
                            const std::function<std::string()>& leerSeleccionada,
-                           EstadoCiclo& estado, PlataformaProyecto& plataforma);
+                           EstadoProyecto& estado, PlataformaProyecto& plataforma);
 
 // " Aceptar " of "Renombrar Vigas" for the beam `actual`. On yes, NombreRenombrar takes the
 // trimmed name and DialogoAceptado becomes true; the caller then renames the beam. A name
 // that differs from a taken one only in case is taken.
 bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
-                          const BuscarViga& existe, EstadoCiclo& estado,
+                          const BuscarViga& existe, EstadoProyecto& estado,
                           PlataformaProyecto& plataforma);
 
 // The two questions before the beam `nombre` is deleted; true when both were answered yes.
-bool ConfirmarEliminarViga(const std::string& nombre, EstadoCiclo& estado,
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,
                            PlataformaProyecto& plataforma);
 
 } // namespace trevalo

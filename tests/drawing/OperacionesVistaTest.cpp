@@ -117,6 +117,33 @@ TEST(Herramientas, EstacionesYLetraConSusLimites) {
     EXPECT_EQ(e.FactorLetra, 1.0);
 }
 
+TEST(Pestanas, VistaYValoresQueReinicia) {
+    struct Caso {
+        int pestana;
+        bool diagramas, diseno, reacciones;
+        std::int16_t estDiagrama, estDiseno;
+        double letra;
+    };
+    // Before: 14 and 5 stations, text factor 1.7.
+    for (const auto& c :
+         {Caso{1, false, false, false, 14, 5, 1.7}, Caso{2, true, false, false, 10, 2, 1.7},
+          Caso{3, false, true, false, 10, 2, 1.0}, Caso{4, false, false, true, 14, 5, 1.7}}) {
+        EstadoPloteos e;
+        e.EnPantalla = false;
+        e.EstacionesDiagrama = 14;
+        e.EstacionesDiseno = 5;
+        e.FactorLetra = 1.7;
+        ElegirPestana(e, c.pestana);
+        EXPECT_EQ(e.VerDiagramas, c.diagramas) << c.pestana;
+        EXPECT_EQ(e.VerDiseno, c.diseno) << c.pestana;
+        EXPECT_EQ(e.VerReacciones, c.reacciones) << c.pestana;
+        EXPECT_TRUE(e.EnPantalla);
+        EXPECT_EQ(e.EstacionesDiagrama, c.estDiagrama) << c.pestana;
+        EXPECT_EQ(e.EstacionesDiseno, c.estDiseno) << c.pestana;
+        EXPECT_EQ(e.FactorLetra, c.letra) << c.pestana;
+    }
+}
+
 TEST(Banda, EsquinaMenorYTamanoAbsoluto) {
     const auto b = BandaDeArrastre(50, 40, 20, 70);
     EXPECT_EQ(b.Left, 20);

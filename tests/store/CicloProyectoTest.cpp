@@ -43,7 +43,10 @@ class PlataformaGuionada : public PlataformaProyectoDisco {
         respuestas.pop_front();
         return r;
     }
-    void AbrirBaseDatos(const std::string& ruta) override { basesAbiertas.push_back(ruta); }
+    BaseDatos AbrirBaseDatos(const std::string& ruta) override {
+        basesAbiertas.push_back(ruta);
+        return PlataformaProyectoDisco::AbrirBaseDatos(ruta);
+    }
     void MostrarDatosGenerales(bool nuevo) override { datosGenerales.push_back(nuevo); }
     void MostrarVigasProyecto() override { ++ventanasProyecto; }
     void ColocarTituloMenu(const std::string& t) override { titulo = t; }
@@ -56,10 +59,14 @@ class Ciclo : public ::testing::Test {
     void SetUp() override {
         carpetas.RutaPrograma = tmp / "programa";
         carpetas.RutaProyectos = tmp / "proyectos";
-        EscribirArchivo(tmp / "programa/Imagen/ImagenViga.kvl", "proyecto vacio");
+        fs::create_directories(tmp / "programa/Imagen");
+        BaseDatos::Crear(Plantilla()).EjecutarGuion("CREATE TABLE GeneralViga (NombreViga TEXT)");
+        vacio = LeerArchivo(Plantilla());
         fs::create_directories(carpetas.RutaProyectos);
         fs::create_directories(tmp / "otra");
     }
+
+    std::string Plantilla() const { return tmp / "programa/Imagen/ImagenViga.kvl"; }
 
     ArchivoElegido En(const std::string& carpeta, const std::string& nombre) const {
         return {false, tmp / (carpeta + "/" + nombre), nombre};
@@ -67,14 +74,16 @@ class Ciclo : public ::testing::Test {
 
     CarpetaPrueba tmp;
     CarpetasPrograma carpetas;
-    EstadoCiclo estado;
+    EstadoProyecto estado;
     PlataformaGuionada p;
+    std::string vacio; // the bytes of the empty project
 };
 
 const std::string TituloCrear = "Crear Nuevo Proyecto";
 
 TEST_F(Ciclo, CrearSobreArchivoExistentePreguntaDosVecesYLoReemplaza) {
     EscribirArchivo(tmp / "proyectos/Edificio.trv", "vigas del usuario");
+    estado.BDProyecto = BaseDatos::Abrir(Plantilla()); // the handle held until now
     p.archivos = {En("proyectos", "Edificio.trv")};
     p.respuestas = {RespuestaSi, RespuestaSi};
 
@@ -87,10 +96,12 @@ TEST_F(Ciclo, CrearSobreArchivoExistentePreguntaDosVecesYLoReemplaza) {
     EXPECT_EQ(p.preguntas[1],
               (Pregunta{"Proyecto: Edificio.trv    \n\n¿Esta Seguro de Reemplazarlo?    ",
                         TituloCrear, BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
-    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), "proyecto vacio");
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), vacio);
     EXPECT_EQ(estado.NombreProyecto, "Edificio.trv");
     EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Edificio.trv]");
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Edificio.trv"});
+    ASSERT_TRUE(estado.BDProyecto);
+    EXPECT_EQ(estado.BDProyecto->Ruta(), tmp / "proyectos/Edificio.trv");
     EXPECT_EQ(p.datosGenerales, std::vector<bool>{true});
     EXPECT_FALSE(estado.ProyectoNuevo);
     EXPECT_TRUE(p.salvarComo);
@@ -131,13 +142,13 @@ TEST_F(Ciclo, CrearEnOtraCarpetaCopiaEnProyectos) {
 
     // The exists test and the delete went to the folder chosen; the copy to RutaProyectos.
     EXPECT_FALSE(fs::exists(tmp / "otra/Puente.trv"));
-    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Puente.trv"), "proyecto vacio");
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Puente.trv"), vacio);
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Puente.trv"});
 }
 
 TEST_F(Ciclo, CancelarNoCambiaNada) {
     estado.NombreProyecto = "Actual.trv";
-    using Operacion = void (*)(const CarpetasPrograma&, EstadoCiclo&, PlataformaProyecto&);
+    using Operacion = void (*)(const CarpetasPrograma&, EstadoProyecto&, PlataformaProyecto&);
     for (Operacion op :
          {&CrearNuevoProyecto, &AbrirProyecto, &SalvarComoProyecto, &EliminarProyecto}) {
         op(carpetas, estado, p);
@@ -167,6 +178,7 @@ TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
                                                    "Proyecto [abrir] " +
                                                    tmp / "proyectos"});
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Casa.trv"});
+    EXPECT_FALSE(estado.BDProyecto); // no such file: the failing open is ignored
     EXPECT_EQ(p.datosGenerales, std::vector<bool>{false});
 
     AnalizarVigas(carpetas, estado, p);
@@ -182,7 +194,7 @@ TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
 }
 
 TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
-    EscribirArchivo(tmp / "proyectos/Viejo.trv", "vigas");
+    fs::copy_file(Plantilla(), tmp / "proyectos/Viejo.trv");
     EscribirArchivo(tmp / "otra/Nuevo.trv", "se pierde");
     estado.NombreProyecto = "Viejo.trv";
     ModificarProyecto(carpetas, estado, p); // opens the old file, no dialog
@@ -195,12 +207,14 @@ TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
     EXPECT_EQ(p.preguntas[0].Titulo, TituloCrear);
     EXPECT_EQ(p.preguntas[0].Texto,
               "Proyecto: Nuevo.trv ya Existe...    \n¿Desea Reemplazarlo?    ");
-    EXPECT_EQ(LeerArchivo(tmp / "otra/Nuevo.trv"), "vigas");
-    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Viejo.trv"), "vigas");
+    EXPECT_EQ(LeerArchivo(tmp / "otra/Nuevo.trv"), vacio);
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Viejo.trv"), vacio);
     EXPECT_EQ(estado.NombreProyecto, "Nuevo.trv");
     EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Nuevo.trv]");
     // The handle stays on the old file, and the project is now looked for in RutaProyectos.
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Viejo.trv"});
+    ASSERT_TRUE(estado.BDProyecto);
+    EXPECT_EQ(estado.BDProyecto->Ruta(), tmp / "proyectos/Viejo.trv");
     EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "proyectos/Nuevo.trv");
 }
 

@@ -27,7 +27,8 @@ const std::vector<EntradaComando>& TablaComandos() {
         {"diseno", "diseno PROYECTO.trv --viga NOMBRE", &ComandoDiseno},
         {"perfiles", "perfiles TABLA.pfl", &ComandoPerfiles},
         {"seccion", "seccion --d D --tw TW --bf BF --tf TF", &ComandoSeccion},
-        {"importar-jet", "importar-jet ANTIGUO NUEVO", &ComandoImportarJet},
+        {"importar-jet", "importar-jet ANTIGUO NUEVO [--familia proyecto|perfiles]",
+         &ComandoImportarJet},
         {"informe",
          "informe PROYECTO.trv [--viga NOMBRE] [--diagramas] [--reacciones] "
          "-o ARCHIVO.pdf|.htm|.xlsx|.rtf",

@@ -1,21 +1,125 @@
+// The commands on project files: list the beams, export one as JSON, import one from JSON.
+// Exit codes: 0 done, 1 a file or a beam that cannot be used (the project is left as it
+// was), 2 wrong words on the command line.
+
+#include <map>
+#include <set>
+
 #include "app/tools/Comandos.h"
+#include "app/tools/ProyectoCalc.h"
+#include "app/tools/VigaJson.h"
+#include "store/BaseDatos.h"
 
 namespace trevalo::calc {
 
-// Placeholder until the command is built.
-int ComandoVigas(const Argumentos&, std::ostream&, std::ostream& errores) {
-    errores << "Orden aún no disponible.\n";
+namespace {
+
+struct Palabras {
+    std::vector<std::string> posicionales;
+    std::map<std::string, std::string> opciones; // "--viga" -> value
+};
+
+// Splits the words into positional ones and the given options with their values. Anything
+// else, or a count of positional words other than `cuantas`, is a usage error.
+bool LeerPalabras(const Argumentos& args, std::size_t cuantas,
+                  const std::set<std::string>& conocidas, Palabras& p, std::ostream& errores) {
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i].rfind("--", 0) != 0) {
+            p.posicionales.push_back(args[i]);
+        } else if (!conocidas.count(args[i])) {
+            errores << "Opción desconocida: " << args[i] << "\n";
+            return false;
+        } else if (i + 1 == args.size()) {
+            errores << "Falta el valor de la opción " << args[i] << "\n";
+            return false;
+        } else {
+            p.opciones[args[i]] = args[i + 1];
+            ++i;
+        }
+    }
+    if (p.posicionales.size() == cuantas) return true;
+    errores << "Número de argumentos incorrecto.\n";
+    return false;
+}
+
+int Uso(const std::string& orden, std::ostream& errores) {
+    for (const auto& e : TablaComandos())
+        if (orden == e.nombre) errores << "Uso: trevalo-calc " << e.uso << "\n";
+    return 2;
+}
+
+int Fallo(const ErrorTrevalo& e, std::ostream& errores) {
+    errores << e.Descripcion() << "\n";
     return 1;
 }
 
-int ComandoExportar(const Argumentos&, std::ostream&, std::ostream& errores) {
-    errores << "Orden aún no disponible.\n";
-    return 1;
+} // namespace
+
+int ComandoVigas(const Argumentos& args, std::ostream& salida, std::ostream& errores) {
+    Palabras p;
+    if (!LeerPalabras(args, 1, {}, p, errores)) return Uso("vigas", errores);
+    try {
+        auto estado = AbrirProyectoCalc(p.posicionales[0]);
+        auto& rs = *estado.RsGeneralViga;
+        for (; !rs.AlFinal(); rs.MoveNext()) salida << rs.Campo("NombreViga").Texto() << "\n";
+        return 0;
+    } catch (const ErrorTrevalo& e) {
+        return Fallo(e, errores);
+    }
 }
 
-int ComandoImportar(const Argumentos&, std::ostream&, std::ostream& errores) {
-    errores << "Orden aún no disponible.\n";
-    return 1;
+int ComandoExportar(const Argumentos& args, std::ostream& salida, std::ostream& errores) {
+    Palabras p;
+    if (!LeerPalabras(args, 1, {"--viga"}, p, errores) || !p.opciones.count("--viga"))
+        return Uso("exportar", errores);
+    try {
+        auto estado = AbrirProyectoCalc(p.posicionales[0]);
+        ProyectoActual proyecto;
+        VigaActual viga;
+        CargarVigaCalc(estado, p.opciones["--viga"], proyecto, viga);
+        salida << EscribirVigaJson(proyecto, viga).dump(2) << "\n";
+        return 0;
+    } catch (const ErrorTrevalo& e) {
+        return Fallo(e, errores);
+    }
+}
+
+// Writes the beam of the JSON file through the store, replacing a beam of the same name.
+// A project without general data takes the settings of the file.
+int ComandoImportar(const Argumentos& args, std::ostream& salida, std::ostream& errores) {
+    Palabras p;
+    if (!LeerPalabras(args, 2, {"--nombre"}, p, errores)) return Uso("importar", errores);
+    try {
+        auto estado = AbrirProyectoCalc(p.posicionales[0]);
+        ProyectoActual proyecto;
+        VigaActual viga;
+        LeerVigaJsonArchivo(p.posicionales[1], proyecto, viga);
+        if (p.opciones.count("--nombre")) viga.NombreVigaActual = p.opciones["--nombre"];
+        if (viga.NombreVigaActual.empty())
+            throw ErrorTrevalo(ErrFaltaColumna, "La viga no tiene nombre: use --nombre.");
+
+        BaseDatos& bd = *estado.BDProyecto;
+        viga.VigaNueva = !ExisteViga(bd, viga.NombreVigaActual);
+        if (!viga.VigaNueva) {
+            viga.NombreVigaActual = NombreGuardado(estado, viga.NombreVigaActual);
+            auto& rs = *estado.RsGeneralViga;
+            while (rs.Campo("NombreViga").Texto() != viga.NombreVigaActual) rs.MoveNext();
+        }
+        Transaccion t(bd);
+        if (bd.AbrirRecordset("GeneralProyecto").RecordCount() == 0)
+            SalvarGeneralProyecto(bd, proyecto);
+        std::string aviso;
+        if (!SalvarViga(estado, viga,
+                        [&](const std::string& texto, const std::string&) { aviso = texto; })) {
+            errores << aviso << "\n";
+            return 1;
+        }
+        t.Confirmar();
+        salida << "Viga guardada: " << viga.NombreVigaActual << "\n";
+        return 0;
+    } catch (const ErrorTrevalo& e) {
+        return Fallo(e, errores);
+    }
 }
 
 } // namespace trevalo::calc

@@ -33,7 +33,6 @@
 
 namespace trevalo::calc {
 
-inline constexpr long ErrArchivoNoEncontrado = 53;
 inline constexpr long ErrFaltaFila = 3021;
 inline constexpr long ErrFaltaColumna = 3265;
 inline constexpr long ErrJsonNoValido = 3343;
