@@ -8,6 +8,7 @@
 // so a band of 6 holds every non-zero term, whatever the number of spans: time and memory
 // grow linearly with the spans.
 
+#include <cstddef>
 #include <vector>
 
 namespace trevalo {

@@ -59,7 +59,7 @@ void PlotearViga(Lienzo& lienzo, EstadoPloteos& estado, const ProyectoActual& pr
     } catch (const ErrorTrevalo& e) {
         lienzo.LockWindowUpdate(false);
         lienzo.Refresh();
-        aviso(e.Descripcion() + "    ", "Error Número: " + std::to_string(e.Numero()));
+        if (aviso) aviso(e.Descripcion() + "    ", "Error Número: " + std::to_string(e.Numero()));
     }
 }
 

@@ -21,7 +21,8 @@ using AvisoFalla = std::function<void(const std::string& texto, const std::strin
 // viga.LongTotal and the geometry and transform of `estado`. A beam with no span or no
 // length leaves the grid alone, and the canvas frozen. Any fault of the program's error type
 // unfreezes and refreshes the canvas and goes to `aviso` with the text "<description>    "
-// and the title "Error Número: <number>"; the state stays as it is.
+// and the title "Error Número: <number>" (an empty `aviso` shows nothing); the state stays
+// as it is.
 void PlotearViga(Lienzo& lienzo, EstadoPloteos& estado, const ProyectoActual& proyecto,
                  VigaActual& viga, const ResultadosViga& resultados, const AvisoFalla& aviso);
 

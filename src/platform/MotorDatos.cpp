@@ -9,7 +9,6 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <regex>
 
 #include "model/Errores.h"
 
@@ -134,6 +133,28 @@ bool IgualesSinCaso(const std::string& a, const std::string& b) {
         if (std::tolower(x) != std::tolower(y)) return false;
     }
     return true;
+}
+
+// Splits "SELECT * FROM Tabla [WHERE ...|ORDER ...]" into the table and the rest; false for
+// any other shape of query.
+bool SeleccionDeTabla(const std::string& f, std::string& tabla, std::string& resto) {
+    std::size_t pos = 0;
+    auto palabra = [&] {
+        const auto a = std::min(f.find_first_not_of(" \t\r\n", pos), f.size());
+        pos = std::min(f.find_first_of(" \t\r\n", a), f.size());
+        return f.substr(a, pos - a);
+    };
+    if (!IgualesSinCaso(palabra(), "SELECT") || palabra() != "*" ||
+        !IgualesSinCaso(palabra(), "FROM"))
+        return false;
+    tabla = palabra();
+    const bool identificador =
+        !tabla.empty() && std::all_of(tabla.begin(), tabla.end(),
+                                      [](unsigned char c) { return std::isalnum(c) || c == '_'; });
+    resto = f.substr(pos);
+    const std::string siguiente = palabra();
+    return identificador && (siguiente.empty() || IgualesSinCaso(siguiente, "WHERE") ||
+                             IgualesSinCaso(siguiente, "ORDER"));
 }
 
 std::string Identificador(const std::string& nombre) {
@@ -400,19 +421,12 @@ Recordset BaseDatos::AbrirRecordset(const std::string& fuente, const Parametros&
     d->con = conexion_;
     d->parametros = parametros;
     const std::string f = Recortar(fuente);
-    static const std::regex seleccion(
-        R"(^SELECT\s+\*\s+FROM\s+([A-Za-z_][A-Za-z0-9_]*)((\s+(WHERE|ORDER)\b[\s\S]*)?)$)",
-        std::regex::icase);
-    std::smatch m;
-    if (f.find_first_of(" \t\r\n") == std::string::npos) {
+    std::string resto;
+    if (f.find_first_of(" \t\r\n") == std::string::npos)
         d->tabla = f;
-        d->consulta = "SELECT rowid, * FROM " + Identificador(f);
-    } else if (std::regex_match(f, m, seleccion)) {
-        d->tabla = m[1];
-        d->consulta = "SELECT rowid, * FROM " + Identificador(d->tabla) + m[2].str();
-    } else {
-        d->consulta = f;
-    }
+    else if (!SeleccionDeTabla(f, d->tabla, resto))
+        d->tabla.clear(); // read-only
+    d->consulta = d->tabla.empty() ? f : "SELECT rowid, * FROM " + Identificador(d->tabla) + resto;
     d->Cargar();
     return Recordset(std::move(d));
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <stdexcept>
 #include <system_error>
 #include <vector>
 
@@ -41,10 +42,13 @@ std::string SinBarraFinal(std::string ruta) {
 }
 
 // The home folder when "Korvel Software" is a folder there or can be made; else documents.
+// An unknown home folder (empty) is never taken for the root of the file system.
 std::string Raiz(const EntornoInicio& entorno) {
     const std::string personal = SinBarraFinal(entorno.CarpetaPersonal);
-    CrearCarpetaSiFalta(personal + CarpetaKorvel);
-    if (ExisteCarpeta(personal + CarpetaKorvel)) return personal;
+    if (!personal.empty()) {
+        CrearCarpetaSiFalta(personal + CarpetaKorvel);
+        if (ExisteCarpeta(personal + CarpetaKorvel)) return personal;
+    }
     return SinBarraFinal(entorno.CarpetaDocumentos);
 }
 
@@ -67,6 +71,14 @@ char SeparadorAscii(wchar_t c, char usual) {
 }
 
 } // namespace
+
+std::locale LocalDeLaMaquina() {
+    try {
+        return std::locale("");
+    } catch (const std::runtime_error&) {
+        return std::locale::classic();
+    }
+}
 
 void SeparadoresNumericos(const std::locale& local, char& decimal, char& miles) {
     const auto& puntuacion = std::use_facet<std::numpunct<wchar_t>>(local);

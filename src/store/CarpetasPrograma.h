@@ -16,13 +16,18 @@
 
 namespace trevalo {
 
-// What the caller knows about the machine before start-up.
+// What the caller knows about the machine before start-up: the windows take the folder of
+// the executable, the home and the documents folders from the system, and the locale from
+// LocalDeLaMaquina().
 struct EntornoInicio {
     std::string RutaAplicacion;    // folder of the executable; a trailing "/" is dropped
     std::string CarpetaPersonal;   // the user's home folder, first choice of raiz
     std::string CarpetaDocumentos; // the documents folder, the fallback
     std::locale Local;             // number format of the machine
 };
+
+// The locale the user's environment names, or the classic one when it names none known.
+std::locale LocalDeLaMaquina();
 
 // Program-wide paths and start-up values, set once by DatosUsuario.
 struct CarpetasPrograma {

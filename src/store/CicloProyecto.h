@@ -64,7 +64,8 @@ inline constexpr const char* FiltroProyectos = "Trevalo (*.trv)|*.trv";
 class PlataformaProyecto {
   public:
     virtual ~PlataformaProyecto() = default;
-    // A file dialog with FiltroProyectos, starting in `carpeta`.
+    // A file dialog with FiltroProyectos, starting in `carpeta`; in save mode a name typed
+    // without extension takes ".trv" from the filter, and FileTitle is the name so completed.
     virtual ArchivoElegido PedirArchivo(const std::string& titulo, ModoDialogo modo,
                                         const std::string& carpeta) = 0;
     // A message box; returns the button pressed (RespuestaSi, RespuestaNo, RespuestaAceptar).

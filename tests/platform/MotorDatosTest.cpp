@@ -156,6 +156,32 @@ TEST_F(MotorDatos, EditYDeleteEscribenEnElArchivo) {
     EXPECT_EQ(rs.Campo("N").Entero(), 3);
 }
 
+TEST_F(MotorDatos, RefrescarVuelveAlArchivoSinReordenar) {
+    Poner({"b", "c"});
+    auto rs = bd_->AbrirRecordset("SELECT * FROM Nombres ORDER BY Nombre");
+    rs.AddNew();
+    rs.Campo("Nombre", Valor("a")); // appended last, after "c"
+    rs.Update();
+    {
+        Transaccion t(*bd_);
+        rs.AbsolutePosition(1);
+        rs.Edit();
+        rs.Campo("N", Valor(99));
+        rs.Update();
+        rs.AddNew();
+        rs.Campo("Nombre", Valor("d"));
+        rs.Update();
+        EXPECT_EQ(rs.RecordCount(), 4);
+    } // taken back
+    rs.Refrescar();
+    EXPECT_EQ(rs.RecordCount(), 3);
+    EXPECT_EQ(rs.AbsolutePosition(), 1);
+    EXPECT_EQ(rs.Campo("Nombre").Texto(), "c");
+    EXPECT_EQ(rs.Campo("N").Entero(), 2);
+    rs.MoveNext();
+    EXPECT_EQ(rs.Campo("Nombre").Texto(), "a"); // still last: no requery happened
+}
+
 TEST_F(MotorDatos, UnaConsultaCompuestaEsDeSoloLectura) {
     Poner({"a"});
     auto rs = bd_->AbrirRecordset("SELECT Nombre, N * 2 AS Doble FROM Nombres");

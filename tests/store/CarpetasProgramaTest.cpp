@@ -140,6 +140,13 @@ TEST_F(Inicio, SinCarpetaPersonalUsaDocumentos) {
     EXPECT_TRUE(fs::is_regular_file(base + "/Trabajo/Temporal.mdb"));
 }
 
+TEST_F(Inicio, CarpetaPersonalDesconocidaUsaDocumentos) {
+    entorno.CarpetaPersonal.clear();
+    DatosUsuario(entorno, carpetas);
+    EXPECT_EQ(carpetas.RutaBase, tmp / "docs" + Datos);
+    EXPECT_TRUE(fs::is_directory(tmp / "docs" + Datos + "/Proyectos"));
+}
+
 TEST_F(Inicio, SinArchivosDeInstalacionNoFalla) {
     fs::remove_all(tmp / "Imagen");
     DatosUsuario(entorno, carpetas);
