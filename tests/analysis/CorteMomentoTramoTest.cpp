@@ -94,21 +94,6 @@ TEST(CorteMomentoTramo, ContinuidadEnTramoInclinado) {
     }
 }
 
-// The own weight enters through Wp and obeys Gravedad like W1.
-TEST(CorteMomentoTramo, PesoPropioComoUniforme) {
-    VigaActual v = VigaRecta({6}, 0.25, 0.5);
-    ProyectoActual p = ProyectoPrueba();
-    p.PPV = true;
-    PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}});
-    ResultadosViga r;
-    AnalizarViga({}, p, v, r);
-    const std::int32_t Wp = PesoPropioTramo(p, v, 1);
-    double M = 0, V = 0;
-    CorteMomentoTramo(v, r, 1, Wp, 6, 3, 1, 0, M, V);
-    EXPECT_NEAR(M, 312 * 36 / 8.0, 1e-9 * 312 * 36);
-    EXPECT_NEAR(V, 0, 1e-9 * 312 * 6);
-}
-
 // At x = 0 the end forces come back exactly, whatever the loads; a point load at 0 is
 // already counted there.
 TEST(CorteMomentoTramo, InicioDelTramo) {

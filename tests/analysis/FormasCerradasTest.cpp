@@ -214,5 +214,36 @@ TEST(FormasCerradas, MomentoBajoLaCarga) {
     EXPECT_NEAR(V, -Pc / 2, 1e-9 * Pc);
 }
 
+// An inclined span (horizontal 8 m, rise 6 m, true length 10 m) pinned at the foot and on a
+// roller in X at the head, under W1 per metre of bar: vertical load (Gravedad 0) gives equal
+// vertical reactions wL/2 and a mid-span moment of w c L^2 / 8; a load perpendicular to the
+// bar (Gravedad 1) gives wL^2 / 2H at the head by moments about the foot.
+TEST(FormasCerradas, TramoInclinado) {
+    const double wi = 1000, H = 8, Li = 10, c = 0.8;
+    for (std::uint8_t gravedad : {0, 1}) {
+        VigaActual v = VigaRecta({H});
+        ProyectoActual p = ProyectoPrueba();
+        PonerDesplazadas(v, {{2, 0, -6}});
+        PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}});
+        v.W1(1) = static_cast<std::int32_t>(wi);
+        v.Gravedad(1) = gravedad;
+        ResultadosViga r;
+        AnalizarViga({}, p, v, r);
+        ASSERT_DOUBLE_EQ(r.LBarra(1), Li);
+        const double cabeza = gravedad == 0 ? wi * Li / 2 : wi * Li * Li / (2 * H);
+        const double escala = 1e-9 * wi * Li;
+        EXPECT_NEAR(r.ReacV(2), cabeza, escala) << "Gravedad " << int(gravedad);
+        EXPECT_NEAR(r.ReacV(1) + r.ReacV(2), gravedad == 0 ? wi * Li : wi * Li * c, escala);
+        EXPECT_NEAR(r.ReacH(2), 0, escala);
+        EXPECT_NEAR(r.MomI(1), 0, escala);
+        EXPECT_NEAR(r.MomJ(1), 0, escala);
+        double M = 0, V = 0;
+        CorteMomentoTramo(v, r, 1, 0, Li, Li / 2, r.CosX(1), r.CosY(1), M, V);
+        const double q = gravedad == 0 ? wi * c : wi;
+        EXPECT_NEAR(M, q * Li * Li / 8, 1e-9 * q * Li * Li);
+        EXPECT_NEAR(V, 0, escala);
+    }
+}
+
 } // namespace
 } // namespace trevalo

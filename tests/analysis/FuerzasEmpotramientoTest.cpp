@@ -173,14 +173,6 @@ TEST(FETriangular, MitadesEnBarraInclinada) {
     EXPECT_GT(std::fabs(i.MI - i.MJ), 1.0);
 }
 
-TEST(FETrapecio2, SinCargaNoSumaNada) {
-    FuerzasExtremos f;
-    FETrapecio2(0, 0, 1, 4, 0, 1, L, f);
-    EXPECT_EQ(f.MI, 0.0);
-    EXPECT_EQ(f.VI, 0.0);
-    EXPECT_EQ(f.VJ, 0.0);
-}
-
 TEST(FuerzasEmpotramiento, FallasDeGeometria) {
     VigaActual v = VigaRecta({L});
     ProyectoActual p = ProyectoPrueba();

@@ -127,7 +127,7 @@ class GeneradorVigas {
                 {static_cast<std::int16_t>(j), static_cast<std::int16_t>(Entero(1, 5))});
             if (Moneda(0.05)) lista.push_back(lista.back()); // listed twice
         }
-        Poner(v, lista);
+        PonerApoyos(v, lista);
     }
 
     // Joint 1 pinned or fixed, the last joint on a support, the joints between free or on
@@ -141,17 +141,7 @@ class GeneradorVigas {
                 lista.push_back({static_cast<std::int16_t>(j), interiores[Entero(0, 2)]});
         lista.push_back({static_cast<std::int16_t>(nj),
                          static_cast<std::int16_t>(Moneda(0.5) ? ApoyoFijo : RodilloEnX)});
-        Poner(v, lista);
-    }
-
-    static void Poner(VigaActual& v, const std::vector<ApoyoPrueba>& lista) {
-        v.NJRest = static_cast<std::int16_t>(lista.size());
-        v.R1.Redim(v.NJRest);
-        v.Apoyo.Redim(v.NJRest);
-        for (long k = 1; k <= v.NJRest; ++k) {
-            v.R1(k) = lista[static_cast<std::size_t>(k - 1)].junta;
-            v.Apoyo(k) = lista[static_cast<std::size_t>(k - 1)].apoyo;
-        }
+        PonerApoyos(v, lista);
     }
 
     bool Restringida(const VigaActual& v, long j) {
@@ -175,18 +165,7 @@ class GeneradorVigas {
             }
             lista.push_back(r);
         }
-        v.NJRes = static_cast<std::int16_t>(lista.size());
-        v.R10.Redim(v.NJRes);
-        v.SH10.Redim(v.NJRes);
-        v.SV10.Redim(v.NJRes);
-        v.SM10.Redim(v.NJRes);
-        for (long k = 1; k <= v.NJRes; ++k) {
-            const ResortePrueba& r = lista[static_cast<std::size_t>(k - 1)];
-            v.R10(k) = r.junta;
-            v.SH10(k) = r.SH;
-            v.SV10(k) = r.SV;
-            v.SM10(k) = r.SM;
-        }
+        PonerResortes(v, lista);
     }
 
     void Desplazamientos(VigaActual& v, long nj) {
@@ -194,15 +173,7 @@ class GeneradorVigas {
         for (long j = 1; j <= nj; ++j)
             if (Moneda(0.3))
                 lista.push_back({static_cast<std::int16_t>(j), Real(-0.3, 0.3), Real(-0.6, 0.6)});
-        v.NJDesp = static_cast<std::int16_t>(lista.size());
-        v.R3.Redim(v.NJDesp);
-        v.XX.Redim(v.NJDesp);
-        v.YY.Redim(v.NJDesp);
-        for (long k = 1; k <= v.NJDesp; ++k) {
-            v.R3(k) = lista[static_cast<std::size_t>(k - 1)].junta;
-            v.XX(k) = lista[static_cast<std::size_t>(k - 1)].XX;
-            v.YY(k) = lista[static_cast<std::size_t>(k - 1)].YY;
-        }
+        PonerDesplazadas(v, lista);
     }
 
     // A joint moment where a rotation is held by a support or a spring is left out of ReacM,

@@ -3,7 +3,8 @@
 // springs, displaced joints and joint actions listed as the beam editor would store them.
 
 #include <cmath>
-#include <initializer_list>
+#include <cstring>
+#include <utility>
 #include <vector>
 
 #include "model/Viga.h"
@@ -53,7 +54,7 @@ struct ApoyoPrueba {
     std::int16_t junta;
     std::int16_t apoyo;
 };
-inline void PonerApoyos(VigaActual& v, std::initializer_list<ApoyoPrueba> lista) {
+inline void PonerApoyos(VigaActual& v, const std::vector<ApoyoPrueba>& lista) {
     v.NJRest = static_cast<std::int16_t>(lista.size());
     v.R1.Redim(v.NJRest);
     v.Apoyo.Redim(v.NJRest);
@@ -69,7 +70,7 @@ struct ResortePrueba {
     std::int16_t junta;
     double SH, SV, SM;
 };
-inline void PonerResortes(VigaActual& v, std::initializer_list<ResortePrueba> lista) {
+inline void PonerResortes(VigaActual& v, const std::vector<ResortePrueba>& lista) {
     v.NJRes = static_cast<std::int16_t>(lista.size());
     v.R10.Redim(v.NJRes);
     v.SH10.Redim(v.NJRes);
@@ -89,7 +90,7 @@ struct AccionPrueba {
     std::int16_t junta;
     double QC1, QC2, QC3;
 };
-inline void PonerAcciones(VigaActual& v, std::initializer_list<AccionPrueba> lista) {
+inline void PonerAcciones(VigaActual& v, const std::vector<AccionPrueba>& lista) {
     v.NAcc = static_cast<std::int16_t>(lista.size());
     v.R2.Redim(v.NAcc);
     v.QC1.Redim(v.NAcc);
@@ -109,7 +110,7 @@ struct DesplazadaPrueba {
     std::int16_t junta;
     double XX, YY;
 };
-inline void PonerDesplazadas(VigaActual& v, std::initializer_list<DesplazadaPrueba> lista) {
+inline void PonerDesplazadas(VigaActual& v, const std::vector<DesplazadaPrueba>& lista) {
     v.NJDesp = static_cast<std::int16_t>(lista.size());
     v.R3.Redim(v.NJDesp);
     v.XX.Redim(v.NJDesp);
@@ -121,6 +122,33 @@ inline void PonerDesplazadas(VigaActual& v, std::initializer_list<DesplazadaPrue
         v.XX(k) = d.XX;
         v.YY(k) = d.YY;
     }
+}
+
+// Same values bit for bit (so 0.0 and -0.0 differ, and a NaN equals itself).
+inline bool MismosBits(const Arreglo<double>& a, const Arreglo<double>& b) {
+    if (a.Ubound() != b.Ubound()) return false;
+    for (long i = 1; i <= a.Ubound(); ++i)
+        if (std::memcmp(&a(i), &b(i), sizeof(double)) != 0) return false;
+    return true;
+}
+
+// Every result list of ResultadosViga, by name.
+inline const std::pair<const char*, Arreglo<double> ResultadosViga::*> kCamposResultado[] = {
+    {"XJunta", &ResultadosViga::XJunta}, {"YJunta", &ResultadosViga::YJunta},
+    {"LBarra", &ResultadosViga::LBarra}, {"CosX", &ResultadosViga::CosX},
+    {"CosY", &ResultadosViga::CosY},     {"DespX", &ResultadosViga::DespX},
+    {"DespY", &ResultadosViga::DespY},   {"GiroZ", &ResultadosViga::GiroZ},
+    {"AxiI", &ResultadosViga::AxiI},     {"AxiJ", &ResultadosViga::AxiJ},
+    {"CorI", &ResultadosViga::CorI},     {"CorJ", &ResultadosViga::CorJ},
+    {"MomI", &ResultadosViga::MomI},     {"MomJ", &ResultadosViga::MomJ},
+    {"ReacV", &ResultadosViga::ReacV},   {"ReacH", &ResultadosViga::ReacH},
+    {"ReacM", &ResultadosViga::ReacM}};
+
+inline bool MismosResultados(const ResultadosViga& a, const ResultadosViga& b) {
+    if (a.NJuntas != b.NJuntas) return false;
+    for (const auto& [nombre, campo] : kCamposResultado)
+        if (!MismosBits(a.*campo, b.*campo)) return false;
+    return true;
 }
 
 } // namespace trevalo::prueba
