@@ -17,7 +17,7 @@
 // AsSupCentro the bottom steel at that station.
 //
 // Errors: those of the statics and of the section design (9, 11, 6 ...); a vertical bar
-// (dX = 0, dY not 0) is a division fault, error 11.
+// (dX = 0, dY not 0) divides 0 by 0 at its first station, error 6 as the runtime has it.
 
 #include <cstdint>
 #include <string>

@@ -184,7 +184,7 @@ class LectorTabla {
         if (datos == nullptr) return Valor(Valor::Binario{});
         const auto* bytes = static_cast<const std::uint8_t*>(datos);
         Valor v(Valor::Binario(bytes, bytes + tamano));
-        free(datos);
+        g_free(datos);
         return v;
     }
 

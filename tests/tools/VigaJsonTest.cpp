@@ -208,6 +208,8 @@ INSTANTIATE_TEST_SUITE_P(
         CasoMalo{"carga enorme", "CargasTramos/1/W1=1e12", ErrDesbordamiento,
                  "La columna \"W1\" de la tabla \"CargasTramos\" (fila 2) no cabe en su tipo de "
                  "número entero."},
+        CasoMalo{"tramos negativos", "GENERALVIGA/-1/nt=-1", ErrSubindice,
+                 "La columna \"NT\" de la tabla \"GeneralViga\" no puede ser negativa."},
         CasoMalo{"faltan tramos", "GENERALVIGA/-1/nt=3", ErrFaltaFila,
                  "La tabla \"Tramos\" tiene 2 filas y la viga necesita 3."}),
     [](const auto& info) { return "caso" + std::to_string(info.index); });

@@ -69,6 +69,11 @@ class Fila {
         return static_cast<T>(n);
     }
 
+    // A value the column's type takes but the beam cannot (error 9, as an index would).
+    ErrorTrevalo FueraDeIntervalo(const std::string& columna, const std::string& que) const {
+        return Error(ErrSubindice, columna, que);
+    }
+
     bool SiNo(const std::string& columna) const {
         const Json& v = NoNulo(columna);
         if (v.is_boolean()) return v.get<bool>();
@@ -359,7 +364,7 @@ void LeerCabecera(const Fila& f, VigaActual& v) {
     v.OpcionCarga = f.Entero<std::uint8_t>("OpcionCarga");
     v.FMayoracionTC = f.Doble("FMayoracionTC");
     v.FMayoracion = f.Doble("FMayoracion");
-    if (v.NT < 0) throw ErrorTrevalo::SubindiceFueraDeIntervalo();
+    if (v.NT < 0) throw f.FueraDeIntervalo("NT", "no puede ser negativa");
 }
 
 // The numbers of a row, with the beam's name first as every child table has it.
