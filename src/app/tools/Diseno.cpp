@@ -70,7 +70,7 @@ bool LeerArgumentos(const Argumentos& args, std::string& archivo, std::string& v
             return false;
         }
     }
-    return !archivo.empty() && estaciones >= 1;
+    return !archivo.empty() && (EsArchivoJson(archivo) || !viga.empty()) && estaciones >= 1;
 }
 
 } // namespace
