@@ -90,6 +90,29 @@ TEST_F(Dibujar, OrdenesMalFormadas) {
     EXPECT_FALSE(std::filesystem::exists(o));
 }
 
+TEST_F(Dibujar, CadaVigaDelEjemploEnCadaVista) {
+    const std::string ejemplo =
+        (std::filesystem::path(TREVALO_RUTA_PROGRAMA) / "Imagen" / "Ejemplo Demostrativo.trv")
+            .string();
+    ASSERT_TRUE(std::filesystem::exists(ejemplo)) << ejemplo;
+    std::ostringstream lista;
+    ASSERT_EQ(calc::EjecutarCalc({"vigas", ejemplo}, lista, errores_), 0);
+    std::istringstream nombres(lista.str());
+    int vigas = 0;
+    for (std::string nombre; std::getline(nombres, nombre); ++vigas)
+        for (const std::string vista : {"1", "2", "3", "4"})
+            for (const bool reporte : {false, true}) {
+                calc::Argumentos args{"dibujar", ejemplo, "--viga", nombre,
+                                      "--vista", vista,   "-o",     Ruta("ejemplo.png")};
+                if (reporte) args.push_back("--reporte");
+                EXPECT_EQ(Ejecutar(args), 0) << nombre << " " << vista << ": " << errores_.str();
+                EXPECT_EQ(errores_.str(), "");
+                EXPECT_EQ(QImage(QString::fromStdString(Ruta("ejemplo.png"))).width(),
+                          reporte ? 710 : 1000);
+            }
+    EXPECT_GE(vigas, 6);
+}
+
 TEST_F(Dibujar, ArchivoQueNoExiste) {
     EXPECT_EQ(Ejecutar({"dibujar", Ruta("nada.json"), "--vista", "1", "-o", Ruta("x.png")}), 1);
     EXPECT_EQ(errores_.str().rfind("Error 53: ", 0), 0u) << errores_.str();
