@@ -1,6 +1,5 @@
 #include "platform/LienzoQt.h"
 
-#include <QFontMetricsF>
 #include <QPainterPath>
 
 namespace trevalo {
@@ -32,13 +31,22 @@ LienzoQt::LienzoQt(QPainter& painter, double ancho, double alto, bool raster, do
     painter_.setRenderHint(QPainter::TextAntialiasing, true);
 }
 
-QFont LienzoQt::FuenteActual() const {
-    QFont fuente(FamiliaSustituta(FontName));
+const QFont& LienzoQt::FuenteActual() const {
+    const ClaveFuente clave{FontName, FontSize, FontBold, FontUnderline};
+    if (clave_ == clave) return fuente_;
+    fuente_ = QFont(FamiliaSustituta(FontName));
     const int dpi = painter_.device() ? painter_.device()->logicalDpiY() : 96;
-    fuente.setPointSizeF(std::max(0.5, FontSize * 96.0 / (dpi > 0 ? dpi : 96)));
-    fuente.setBold(FontBold);
-    fuente.setUnderline(FontUnderline);
-    return fuente;
+    fuente_.setPointSizeF(std::max(0.5, FontSize * 96.0 / (dpi > 0 ? dpi : 96)));
+    fuente_.setBold(FontBold);
+    fuente_.setUnderline(FontUnderline);
+    medidas_.emplace(fuente_, painter_.device());
+    clave_ = clave;
+    return fuente_;
+}
+
+const QFontMetricsF& LienzoQt::Medidas() const {
+    FuenteActual();
+    return *medidas_;
 }
 
 void LienzoQt::Cls() {
@@ -91,15 +99,14 @@ void LienzoQt::Ellipse(long izquierda, long arriba, long derecha, long abajo) {
 }
 
 void LienzoQt::TextOutA(long x, long y, const std::string& texto, double angulo) {
-    const QFont fuente = FuenteActual();
+    const QFont& fuente = FuenteActual();
     painter_.save();
     painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter_.setFont(fuente);
     painter_.setPen(ColorQt(ForeColor));
     painter_.translate(x, y);
     painter_.rotate(-angulo); // counter-clockwise on the screen
-    painter_.drawText(QPointF(0, QFontMetricsF(fuente, painter_.device()).ascent()),
-                      QString::fromStdString(texto));
+    painter_.drawText(QPointF(0, Medidas().ascent()), QString::fromStdString(texto));
     painter_.restore();
 }
 
@@ -116,12 +123,11 @@ void LienzoQt::DrawTextA(const std::string& texto, const Rect& r, int formato) {
 }
 
 double LienzoQt::TextWidth(const std::string& texto) {
-    return QFontMetricsF(FuenteActual(), painter_.device())
-        .horizontalAdvance(QString::fromStdString(texto));
+    return Medidas().horizontalAdvance(QString::fromStdString(texto));
 }
 
 double LienzoQt::TextHeight(const std::string&) {
-    return QFontMetricsF(FuenteActual(), painter_.device()).height();
+    return Medidas().height();
 }
 
 } // namespace trevalo

@@ -9,7 +9,10 @@
 // gives the same result on the white background and close to it over other fills.
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
+#include <optional>
+#include <string>
 
 #include "drawing/Lienzo.h"
 
@@ -36,7 +39,7 @@ class LienzoQt : public Lienzo {
     double TextHeight(const std::string& texto) override;
 
     // The font of the canvas's font properties, for this painter's device.
-    QFont FuenteActual() const;
+    const QFont& FuenteActual() const;
 
   protected:
     void TrazarLinea(PuntoApi desde, PuntoApi hasta) override;
@@ -46,6 +49,19 @@ class LienzoQt : public Lienzo {
   private:
     // Pen, brush and composition of the canvas's current state.
     void PrepararTrazo(bool relleno);
+    const QFontMetricsF& Medidas() const;
+
+    // The last font made and its metrics, made again only when a font property changes:
+    // a redraw measures and writes hundreds of texts in a few fonts.
+    struct ClaveFuente {
+        std::string nombre;
+        double tamano = 0;
+        bool negrita = false, subrayada = false;
+        bool operator==(const ClaveFuente&) const = default;
+    };
+    mutable std::optional<ClaveFuente> clave_;
+    mutable QFont fuente_;
+    mutable std::optional<QFontMetricsF> medidas_;
 
     QPainter& painter_;
     double ancho_;

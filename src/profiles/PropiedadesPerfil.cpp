@@ -1,10 +1,12 @@
 #include "profiles/PropiedadesPerfil.h"
 
 #include <cmath>
+#include <cstdlib>
 
 #include "model/Errores.h"
 #include "model/Redondeo.h"
 #include "profiles/Aritmetica.h"
+#include "profiles/Recorte.h"
 
 namespace trevalo {
 
@@ -12,6 +14,14 @@ namespace {
 
 double Cubo(double x) {
     return x * x * x;
+}
+
+// A label's text as a number: thousands separators dropped, the decimal one read as a point.
+double NumeroDeEtiqueta(const std::string& texto, char separadorDecimal, char separadorMiles) {
+    std::string limpio;
+    for (char c : texto)
+        if (c != separadorMiles) limpio += c == separadorDecimal ? '.' : c;
+    return std::strtod(limpio.c_str(), nullptr);
 }
 
 } // namespace
@@ -65,6 +75,23 @@ void PropiedadesPerfil(double d, double tw, double bfs, double tfs, double bfi, 
     // Kept: the web over the full depth, the flanges as what is left of the area.
     poner(11, (d * d * tw / 4 + (100 * A - d * tw) * (d - tfs) / 2) / 1000, "#,##0.0");
     poner(12, (tw * tw * h / 4 + (100 * A - h * tw) * (bfs / 4)) / 1000, "#,##0.0");
+}
+
+bool CapturarSeccion(const std::string& nombre, double d, double tw, double bf, double tf,
+                     const EtiquetasPerfil& etiquetas, CapturaSeccion& captura,
+                     char separadorDecimal, char separadorMiles) {
+    const std::string recortado = Recortar(nombre);
+    if (recortado.empty() || !DimensionesCompletas(d, tw, bf, tf)) return false;
+    auto etiqueta = [&](long i) {
+        return NumeroDeEtiqueta(etiquetas.LSLabel(i), separadorDecimal, separadorMiles);
+    };
+    captura = {recortado, {etiqueta(1), d, bf, tf, tw}};
+    for (long i = 2; i <= 12; ++i) captura.Numeros.push_back(etiqueta(i));
+    return true;
+}
+
+std::string MensajeCapturaSeccion(const std::string& nombre) {
+    return "Designación: " + Recortar(nombre) + "\nCapturar la Sección y sus Propiedades...    ";
 }
 
 } // namespace trevalo

@@ -13,6 +13,7 @@
 // upper flange; with equal flanges, as the generator passes them, that makes no difference.
 
 #include <string>
+#include <vector>
 
 #include "model/Arreglo.h"
 
@@ -32,6 +33,22 @@ void PropiedadesPerfil(double d, double tw, double bfs, double tfs, double bfi, 
 
 // True when the generator's gate lets the four dimensions through.
 bool DimensionesCompletas(double d, double tw, double bf, double tf);
+
+// The generator's capture of a section as a new row of the open double-tee table: the
+// trimmed name, then the numbers of grid columns 2 to 17 in order: A (label 1), d, bf, tf,
+// tw, and labels 2 to 12. The numbers are read back from the labels' texts, so they are the
+// rounded, displayed values; a label never computed reads 0. Returns false, capturing
+// nothing, when the trimmed name is empty (the form beeps) or a dimension is 0.
+struct CapturaSeccion {
+    std::string Designacion;
+    std::vector<double> Numeros;
+};
+bool CapturarSeccion(const std::string& nombre, double d, double tw, double bf, double tf,
+                     const EtiquetasPerfil& etiquetas, CapturaSeccion& captura,
+                     char separadorDecimal = '.', char separadorMiles = ',');
+
+// The question asked before a capture, under "Capturar Secciones".
+std::string MensajeCapturaSeccion(const std::string& nombre);
 
 // Any arithmetic fault of the sketch or of the properties ends in this message box, with the
 // exclamation mark.

@@ -27,6 +27,14 @@ struct TablaPerfiles {
     std::vector<FilaPerfil> Filas;
 };
 
+// The one table open for editing or loading, and the generator's capture flag.
+struct EstadoTablaPerfiles {
+    std::string ArchivoTabla;   // full path
+    std::string TituloTabla;    // file name with its extension, shown in the window title
+    bool TablaNueva = false;    // just made from the template: the editor skips the read
+    bool CambioCaptura = false; // the generator captured a section
+};
+
 // The value of a named field of a row of the given family; asserts the field is the family's.
 double ValorCampo(FamiliaPerfil familia, const FilaPerfil& fila, const std::string& campo);
 

@@ -96,7 +96,7 @@ bool TodoFinito(const ResultadosViga& r) {
 //   V-101: (2800+450)*5 + (2800+450)*6 + 4500 + (2400+375)*4.5 + 1200*2     = 55137.5
 //   V-201: (350+42)*15 + 300*3/2 + (200+400)/2*7.5                           =  8580
 //   V-102: (1500+312)*5.8 + 900*4/2 + 800                                    = 13109.6
-//   V-001: 700*12 + 38000 + 52000 + 52000 + 38000                            = 188400
+//   V-001: 1200*10 + 30000 + 60000 + 30000                                   = 132000
 //   V-401: (1800+1250)*8 + 32000 + 28000 + (1200+800)*6 + 2400*(6-1.5)       = 107200
 struct CasoEquilibrio {
     const char* nombre;
@@ -117,7 +117,8 @@ INSTANTIATE_TEST_SUITE_P(Vigas, Equilibrio,
                          ::testing::Values(CasoEquilibrio{"V-101 Entrepiso Eje B", 55137.5},
                                            CasoEquilibrio{"V-201 Techo Galpón IPE 300", 8580},
                                            CasoEquilibrio{"V-102 Balcón en Volado", 13109.6},
-                                           CasoEquilibrio{"V-001 Fundación sobre Pilotes", 188400},
+                                           CasoEquilibrio{"V-001 Fundación sobre Suelo Elástico",
+                                                          132000},
                                            CasoEquilibrio{"V-401 Viga de Transferencia", 107200}));
 
 TEST_F(EjemploDemostrativo, TodasLasVigasResuelvenConResultadosFinitos) {
@@ -145,15 +146,20 @@ TEST_F(EjemploDemostrativo, VoladoComoEnLaMano) {
 }
 
 TEST_F(EjemploDemostrativo, FundacionSimetricaSobreResortes) {
-    // Loads and the two column moments (clockwise at 1, anticlockwise at 4) mirror each
-    // other about the middle, so the pile reactions do too; nothing pushes along the axis.
-    const ResultadosViga& r = Viga("V-001 Fundación sobre Pilotes").resultados;
-    EXPECT_NEAR(r.ReacV(1), r.ReacV(4), 1e-6 * r.ReacV(1));
-    EXPECT_NEAR(r.ReacV(2), r.ReacV(3), 1e-6 * r.ReacV(2));
-    EXPECT_GT(r.ReacV(2), r.ReacV(1)); // inner columns are heavier
-    for (long j = 1; j <= r.NJuntas; ++j) EXPECT_EQ(r.ReacH(j), 0) << j;
-    // A pile settles by its reaction over its stiffness.
-    EXPECT_NEAR(r.DespY(2), r.ReacV(2) / 8.0e6, 1e-9);
+    // Loads and the two column moments (clockwise at 1, anticlockwise at 5) mirror each
+    // other about the middle, so the soil reactions do too; nothing pushes along the axis.
+    // Each spring's reaction is its stiffness times its settlement.
+    const ResultadosViga& r = Viga("V-001 Fundación sobre Suelo Elástico").resultados;
+    EXPECT_NEAR(r.ReacV(1), r.ReacV(5), 1e-6 * r.ReacV(1));
+    EXPECT_NEAR(r.ReacV(2), r.ReacV(4), 1e-6 * r.ReacV(2));
+    const double rigidez[] = {3.0e6, 6.0e6, 6.0e6, 6.0e6, 3.0e6};
+    for (long j = 1; j <= 5; ++j) {
+        EXPECT_NEAR(r.ReacV(j), rigidez[j - 1] * r.DespY(j), 1e-6 * r.ReacV(j)) << j;
+        EXPECT_EQ(r.ReacH(j), 0) << j;
+    }
+    // The soil pushes up between the columns: hogging there, sagging under the middle one.
+    EXPECT_LT(r.MomJ(1), 0);
+    EXPECT_GT(r.MomJ(2), 0);
 }
 
 TEST_F(EjemploDemostrativo, RampaConJuntaDesplazada) {
@@ -217,7 +223,7 @@ TEST(EjemploConLaHerramienta, CadaVigaVaYVuelve) {
     };
     std::string lista;
     calc({"vigas", proyecto}, lista);
-    EXPECT_EQ(lista, "V-001 Fundación sobre Pilotes\nV-101 Entrepiso Eje B\nV-102 Balcón en "
+    EXPECT_EQ(lista, "V-001 Fundación sobre Suelo Elástico\nV-101 Entrepiso Eje B\nV-102 Balcón en "
                      "Volado\nV-201 Techo Galpón IPE 300\nV-301 Rampa Estacionamiento\nV-401 "
                      "Viga de Transferencia\n");
     std::istringstream nombres(lista);

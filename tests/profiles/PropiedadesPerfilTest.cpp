@@ -85,3 +85,36 @@ TEST(PropiedadesPerfil, CerosQueLlegaranAlCalculoSonError) {
 
 } // namespace
 } // namespace trevalo
+
+namespace trevalo {
+namespace {
+
+// The capture reads the numbers back from the labels' texts: rounded and without the
+// thousands separators, in the grid's column order A, d, bf, tf, tw, Ix ... Zy.
+TEST(CapturaDelGenerador, NumerosLeidosDeLasEtiquetas) {
+    EtiquetasPerfil e;
+    PropiedadesPerfil(300, 8, 150, 12, 150, 12, e, ',', '.');
+    CapturaSeccion c;
+    ASSERT_TRUE(CapturarSeccion("  W 300x8  ", 300, 8, 150, 12, e, c, ',', '.'));
+    EXPECT_EQ(c.Designacion, "W 300x8");
+    const std::vector<double> esperado = {58.08, 300,   150,  12,   8,      8870.9, 591.4, 12.36,
+                                          674.9, 89.99, 3.41, 3.95, 21.579, 139968, 670.8, 139.4};
+    EXPECT_EQ(c.Numeros, esperado);
+    EXPECT_EQ(MensajeCapturaSeccion("  W 300x8  "),
+              "Designación: W 300x8\nCapturar la Sección y sus Propiedades...    ");
+}
+
+TEST(CapturaDelGenerador, SinNombreOConCeroNoCaptura) {
+    EtiquetasPerfil e;
+    CapturaSeccion c{"previa", {1}};
+    EXPECT_FALSE(CapturarSeccion("   ", 300, 8, 150, 12, e, c));
+    EXPECT_FALSE(CapturarSeccion("W", 300, 8, 150, 0, e, c));
+    EXPECT_EQ(c.Designacion, "previa");
+    // Without a calculation the labels read as zeros.
+    ASSERT_TRUE(CapturarSeccion("W", 300, 8, 150, 12, e, c));
+    EXPECT_EQ(c.Numeros[0], 0);
+    EXPECT_EQ(c.Numeros[15], 0);
+}
+
+} // namespace
+} // namespace trevalo

@@ -137,6 +137,7 @@ TEST(ComandoDiseno, ErroresDeUso) {
         {{"diseno", "a.json", "--estaciones"}, 2},
         {{"diseno", "a.json", "--estaciones", "0"}, 2},
         {{"diseno", "a.json", "--estaciones", "dos"}, 2},
+        {{"diseno", "a.json", "--estaciones", "2.5"}, 2},
         {{"diseno", "a.json", "b.json"}, 2},
         {{"diseno", "/no/existe/viga.json"}, 1},
     };
@@ -146,6 +147,33 @@ TEST(ComandoDiseno, ErroresDeUso) {
         EXPECT_TRUE(r.salida.empty());
         EXPECT_FALSE(r.errores.empty());
     }
+}
+
+TEST(ComandoDiseno, VigasDelProyectoDeEjemplo) {
+    const std::string proyecto =
+        std::string(TREVALO_RUTA_PROGRAMA) + "/Imagen/Ejemplo Demostrativo.trv";
+    ASSERT_TRUE(std::filesystem::exists(proyecto)) << proyecto;
+    const Salida vigas = Ejecutar({"vigas", proyecto});
+    ASSERT_EQ(vigas.codigo, 0) << vigas.errores;
+    std::istringstream lista(vigas.salida);
+    long cuantas = 0;
+    for (std::string nombre; std::getline(lista, nombre); ++cuantas) {
+        const Salida r = Ejecutar({"diseno", proyecto, "--viga", nombre});
+        ASSERT_EQ(r.codigo, 0) << nombre << ": " << r.errores;
+        const auto j = nlohmann::json::parse(r.salida);
+        EXPECT_EQ(j["viga"], nombre);
+        // Every span starts and ends on its joints: the distance from the nearer joint is 0.
+        for (const auto& tramo : j["tramos"]) {
+            EXPECT_EQ(tramo["estaciones"].front()["textos"]["PROGRES"], "0.00") << nombre;
+            EXPECT_EQ(tramo["estaciones"].back()["textos"]["PROGRES"], "0.00") << nombre;
+        }
+    }
+    EXPECT_GT(cuantas, 0);
+    const Salida falta = Ejecutar({"diseno", proyecto, "--viga", "No Existe"});
+    EXPECT_EQ(falta.codigo, 1);
+    EXPECT_NE(falta.errores.find("La viga no existe en el proyecto: No Existe"), std::string::npos)
+        << falta.errores;
+    EXPECT_EQ(Ejecutar({"diseno", proyecto}).codigo, 2); // a project needs --viga
 }
 
 } // namespace

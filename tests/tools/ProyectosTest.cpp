@@ -163,6 +163,22 @@ TEST_F(ProyectosCalc, UnProyectoNuevoTomaLosDatosGeneralesDelArchivo) {
     EXPECT_EQ(b["GeneralProyecto"]["Proyecto"], "Edificio Ñandú");
 }
 
+TEST_F(ProyectosCalc, ResolverUnaVigaDelProyectoComoSuJson) {
+    const auto json = dir_ / "viga.json";
+    std::ofstream(json) << Calc({"exportar", proyecto_, "--viga", "V-2 Pórtico"}).salida;
+    const auto desdeJson = Calc({"resolver", json.string(), "--estaciones", "4"});
+    ASSERT_EQ(desdeJson.codigo, 0) << desdeJson.errores;
+    const auto desdeProyecto =
+        Calc({"resolver", proyecto_, "--viga", "v-2 pórtico", "--estaciones", "4"});
+    ASSERT_EQ(desdeProyecto.codigo, 0) << desdeProyecto.errores;
+    EXPECT_EQ(desdeProyecto.salida, desdeJson.salida);
+    EXPECT_NE(desdeProyecto.salida.find("\"ReacV\""), std::string::npos);
+
+    const auto malo = Calc({"resolver", proyecto_, "--viga", "Nadie"});
+    EXPECT_EQ(malo.codigo, 1);
+    EXPECT_EQ(malo.errores, "Error 3265: La viga no existe en el proyecto: Nadie\n");
+}
+
 struct CasoFallo {
     const char* descripcion;
     std::vector<std::string> args; // "@P" stands for the project, "@D" for the folder

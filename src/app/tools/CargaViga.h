@@ -14,6 +14,9 @@ struct VigaCargada {
     ResultadosViga resultados;
 };
 
+// True for a path that names a beam document (".json").
+bool EsArchivoJson(const std::string& ruta);
+
 // Loads the beam (a ".json" path is a beam document, any other path a project with the beam
 // `nombreViga`) and solves it. Raises the program's error of the reader or of the analysis.
 VigaCargada CargarYResolver(const std::string& archivo, const std::string& nombreViga);

@@ -1,10 +1,12 @@
 #include "app/tools/Resolver.h"
 
+#include <optional>
 #include <ostream>
 #include <string>
 
 #include "analysis/AnalisisVigasP.h"
 #include "app/tools/Comandos.h"
+#include "app/tools/ProyectoCalc.h"
 #include "app/tools/VigaJson.h"
 #include "design/TablaDiseno.h"
 #include "drawing/GeometriaPlot.h"
@@ -96,9 +98,11 @@ bool LeerEstaciones(const std::string& texto, long& estaciones) {
     return estaciones >= 1 && estaciones <= 1000;
 }
 
-// resolver VIGA.json [--estaciones N]
+// resolver VIGA.json [--estaciones N], or resolver PROYECTO.trv --viga NOMBRE [--estaciones N]
+// for a beam of a project, loaded through the beam store.
 int ComandoResolver(const Argumentos& args, std::ostream& salida, std::ostream& errores) {
     std::string archivo;
+    std::optional<std::string> nombreViga;
     long estaciones = EstacionesPorDefecto;
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (args[i] == "--estaciones") {
@@ -107,6 +111,8 @@ int ComandoResolver(const Argumentos& args, std::ostream& salida, std::ostream& 
                 return 2;
             }
             ++i;
+        } else if (args[i] == "--viga" && i + 1 < args.size()) {
+            nombreViga = args[++i];
         } else if (archivo.empty() && args[i].rfind("--", 0) != 0) {
             archivo = args[i];
         } else {
@@ -115,13 +121,19 @@ int ComandoResolver(const Argumentos& args, std::ostream& salida, std::ostream& 
         }
     }
     if (archivo.empty()) {
-        errores << "Uso: trevalo-calc resolver VIGA.json [--estaciones N]\n";
+        errores << "Uso: trevalo-calc resolver VIGA.json|PROYECTO.trv [--viga NOMBRE] "
+                   "[--estaciones N]\n";
         return 2;
     }
     ProyectoActual proyecto;
     VigaActual viga;
     try {
-        LeerVigaJsonArchivo(archivo, proyecto, viga);
+        if (nombreViga) {
+            auto estado = AbrirProyectoCalc(archivo);
+            CargarVigaCalc(estado, *nombreViga, proyecto, viga);
+        } else {
+            LeerVigaJsonArchivo(archivo, proyecto, viga);
+        }
     } catch (const ErrorTrevalo& e) {
         errores << "Error " << e.Numero() << ": " << e.Descripcion() << "\n";
         return 1;

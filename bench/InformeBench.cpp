@@ -1,0 +1,92 @@
+// The full report of a generated project of 100 continuous beams (one to four spans each),
+// with diagrams and reactions (300 pictures), to PDF: every beam loaded, solved and painted
+// at print resolution into the report database, then the report read back and written.
+// Counters give each stage's seconds and the progress reports seen.
+
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+
+#include <chrono>
+#include <ctime>
+#include <filesystem>
+
+#include "ProyectoPrueba.h"
+#include "output/BaseInforme.h"
+#include "output/EscritoresInforme.h"
+#include "output/PasosPrograma.h"
+
+namespace trevalo {
+namespace {
+
+namespace fs = std::filesystem;
+
+void InformeCompletoPdf(benchmark::State& state) {
+    static int argc = 1;
+    static char nombre[] = "banco_informe";
+    static char* argv[] = {nombre, nullptr};
+    static QGuiApplication app(argc, argv);
+
+    const fs::path carpeta = fs::temp_directory_path() / "trevalo_banco_informe";
+    fs::remove_all(carpeta);
+    fs::create_directories(carpeta);
+    const auto proyecto = carpeta / "Cien.trv";
+    std::vector<VigaActual> vigas;
+    std::vector<std::string> nombres;
+    for (int i = 0; i < 100; ++i) {
+        vigas.push_back(VigaPrueba("V-" + std::to_string(101 + i), i));
+        nombres.push_back(vigas.back().NombreVigaActual);
+    }
+    CrearProyecto(proyecto, vigas);
+    const auto temporal = (carpeta / "Temporal.mdb").string();
+    const auto pdf = (carpeta / "Informe.pdf").string();
+
+    using Reloj = std::chrono::steady_clock;
+    double llenado = 0, escritura = 0, cpuLlenado = 0, cpuEscritura = 0;
+    auto cpu = [] { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; };
+    long avisos = 0, progresos = 0;
+    for (auto _ : state) {
+        fs::copy_file(TREVALO_RUTA_PROGRAMA "/Imagen/Temporal.kvl", temporal,
+                      fs::copy_options::overwrite_existing);
+        EstadoProyecto estado;
+        estado.BDProyecto = BaseDatos::Abrir(proyecto.string());
+        ProyectoActual ajustes;
+        LeerGeneralProyecto(*estado.BDProyecto, ajustes);
+        VigaActual viga;
+        ResultadosViga resultados;
+        EstadoPloteos vista;
+        ModeloInforme modelo{estado, ajustes, viga, resultados, vista};
+        auto aviso = [&](const std::string&, const std::string&) { ++avisos; };
+        auto pasos = PasosPrograma(modelo, aviso, aviso);
+        pasos.Progreso = [&](const std::string&, double) { ++progresos; };
+
+        const double c0 = cpu();
+        const auto t0 = Reloj::now();
+        LlenarImpreDatos(temporal, FilaGeneralesDe(ajustes, "banco", "6.0"), nombres, {0, 1, 1},
+                         pasos);
+        const auto t1 = Reloj::now();
+        const double c1 = cpu();
+        const auto contenido = LeerBaseInforme(temporal);
+        EscribirInformePdf(contenido, pdf);
+        const auto t2 = Reloj::now();
+        cpuLlenado += c1 - c0;
+        cpuEscritura += cpu() - c1;
+        llenado += std::chrono::duration<double>(t1 - t0).count();
+        escritura += std::chrono::duration<double>(t2 - t1).count();
+        if (contenido.Graficos.size() != 300) state.SkipWithError("not 300 pictures");
+    }
+    const auto n = static_cast<double>(state.iterations());
+    state.counters["llenado_s"] = llenado / n;
+    state.counters["pdf_s"] = escritura / n;
+    state.counters["llenado_cpu_s"] = cpuLlenado / n;
+    state.counters["pdf_cpu_s"] = cpuEscritura / n;
+    state.counters["progreso"] = static_cast<double>(progresos) / n;
+    state.counters["avisos"] = static_cast<double>(avisos) / n;
+    state.counters["pdf_MB"] = static_cast<double>(fs::file_size(pdf)) / 1e6;
+    fs::remove_all(carpeta);
+}
+
+BENCHMARK(InformeCompletoPdf)->Unit(benchmark::kSecond)->Iterations(1)->UseRealTime();
+
+} // namespace
+} // namespace trevalo

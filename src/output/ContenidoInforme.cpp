@@ -1,0 +1,29 @@
+#include "output/ContenidoInforme.h"
+
+#include "model/Redondeo.h"
+
+namespace trevalo {
+
+std::vector<LineaCabecera> LineasCabecera(const ContenidoInforme& c) {
+    const auto& g = c.Generales;
+    auto texto = [](const char* etiqueta, const std::string& valor) {
+        return LineaCabecera{etiqueta, valor, std::nullopt, {}, {}};
+    };
+    auto numero = [&](const char* etiqueta, double valor, const char* mascara, const char* unidad) {
+        return LineaCabecera{
+            etiqueta, Formato(valor, mascara, c.SeparadorDecimal, c.SeparadorMiles) + " " + unidad,
+            valor, mascara, unidad};
+    };
+    return {
+        texto("Proyecto", g.Proyecto),
+        texto("Propietario", g.Propietario),
+        texto("Calculista", g.Calculista),
+        numero("Resistencia del concreto f'c", g.FC, "#,##0.00", "kgf/cm²"),
+        numero("Fluencia del acero fy", g.FY, "#,##0.00", "kgf/cm²"),
+        numero("Distancia al centroide del acero D8", g.D8, "0.000", "m"),
+        texto("Usuario", g.Usuario),
+        texto("Versión", g.Version),
+    };
+}
+
+} // namespace trevalo

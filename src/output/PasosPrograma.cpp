@@ -1,0 +1,62 @@
+#include "output/PasosPrograma.h"
+
+#include "analysis/AnalisisVigasP.h"
+#include "output/GraficoPng.h"
+#include "platform/LienzosArchivo.h"
+
+namespace trevalo {
+
+FilaGenerales FilaGeneralesDe(const ProyectoActual& p, const std::string& usuario,
+                              const std::string& version) {
+    FilaGenerales fila;
+    fila.Usuario = usuario;
+    fila.Version = version;
+    fila.Proyecto = p.Proyecto;
+    fila.Propietario = p.Propietario;
+    fila.Calculista = p.Calculista;
+    fila.FC = p.FC;
+    fila.FY = p.FY;
+    fila.D8 = p.D8;
+    return fila;
+}
+
+void VistaDeInforme(EstadoPloteos& vista, VistaInforme paso) {
+    vista.VerDiagramas = paso == VistaInforme::Diagramas;
+    vista.VerDiseno = paso == VistaInforme::Diseno;
+    vista.VerReacciones = paso == VistaInforme::Reacciones;
+    vista.FactorLetra = 1.0;
+    vista.EstacionesDiagrama = 10;
+    vista.EstacionesDiseno = 2;
+    vista.FactorZoom = 1.0;
+    vista.PanX = 0.0;
+    vista.PanY = 0.0;
+    vista.EnPantalla = false;
+    vista.VerJuntas = false;
+}
+
+PasosInforme PasosPrograma(ModeloInforme& m, const MostrarAviso& avisarViga,
+                           const AvisoFalla& avisarFalla) {
+    PasosInforme pasos;
+    pasos.CargarViga = [&m, avisarViga](const std::string& nombre) {
+        m.viga.NombreVigaActual = nombre;
+        LeerViga(m.estado, m.viga, avisarViga);
+    };
+    pasos.Analizar = [&m, avisarFalla] {
+        try {
+            AnalizarViga(LectorGeneralProyecto(*m.estado.BDProyecto), m.proyecto, m.viga,
+                         m.resultados);
+        } catch (const ErrorTrevalo& e) {
+            avisarFalla(e.Descripcion() + "    ", "Error Número: " + std::to_string(e.Numero()));
+        }
+    };
+    pasos.Pintar = [&m, avisarFalla](VistaInforme paso) {
+        VistaDeInforme(m.vista, paso);
+        LienzoImagen lienzo(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
+        lienzo.Cls();
+        PlotearViga(lienzo, m.vista, m.proyecto, m.viga, m.resultados, avisarFalla);
+        return CodificarPng(lienzo.Imagen());
+    };
+    return pasos;
+}
+
+} // namespace trevalo

@@ -1,0 +1,268 @@
+// The four writers and the page layout on a report of known content: every picture
+// reaches each file whole, the PDF has a page for the head and one per picture, the texts
+// survive their encodings, and a file that cannot be written is error 75.
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+#include "VerificaError.h"
+#include "output/EscritoresInforme.h"
+#include "output/GraficoPng.h"
+#include "output/PaginaInforme.h"
+#include "output/SalidasInforme.h"
+
+namespace trevalo {
+namespace {
+
+// A picture of the report's size, white with a solid block of the given colour in the
+// middle third, so that its place on a page can be found again.
+std::vector<std::uint8_t> Grafico(QRgb color) {
+    QImage imagen(AnchoGrafico, AltoGrafico, QImage::Format_RGB32);
+    imagen.fill(Qt::white);
+    QPainter p(&imagen);
+    p.fillRect(AnchoGrafico / 3, AltoGrafico / 3, AnchoGrafico / 3, AltoGrafico / 3, QColor(color));
+    p.end();
+    return CodificarPng(imagen);
+}
+
+ContenidoInforme Contenido(int graficos) {
+    ContenidoInforme c;
+    c.Generales.Usuario = "Ing. Núñez";
+    c.Generales.Version = "6.0";
+    c.Generales.Proyecto = "Edificio Ñandú {torre} \\ <norte> & sur";
+    c.Generales.Propietario = "Constructora Peña";
+    c.Generales.Calculista = "María José";
+    c.Generales.FC = 250;
+    c.Generales.FY = 4200;
+    c.Generales.D8 = 0.05;
+    const QRgb colores[] = {qRgb(255, 0, 0), qRgb(0, 160, 0), qRgb(0, 0, 255)};
+    for (int k = 1; k <= graficos; ++k)
+        c.Graficos.push_back({static_cast<std::int16_t>(k), Grafico(colores[(k - 1) % 3])});
+    return c;
+}
+
+std::string Leer(const std::filesystem::path& ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    std::stringstream s;
+    s << f.rdbuf();
+    return s.str();
+}
+
+std::size_t Contar(const std::string& texto, const std::regex& patron) {
+    return static_cast<std::size_t>(std::distance(
+        std::sregex_iterator(texto.begin(), texto.end(), patron), std::sregex_iterator()));
+}
+
+// The pieces of `texto` between each `inicio` and the next `fin` (std::regex recurses too
+// deep on pieces of megabytes).
+std::vector<std::string> Trozos(const std::string& texto, const std::string& inicio,
+                                const std::string& fin) {
+    std::vector<std::string> r;
+    for (auto i = texto.find(inicio); i != std::string::npos; i = texto.find(inicio, i)) {
+        i += inicio.size();
+        const auto j = texto.find(fin, i);
+        if (j == std::string::npos) break;
+        r.push_back(texto.substr(i, j - i));
+        i = j;
+    }
+    return r;
+}
+
+std::vector<std::uint8_t> DeHex(const std::string& hex) {
+    std::vector<std::uint8_t> r;
+    std::string digitos;
+    for (char c : hex)
+        if (std::isxdigit(static_cast<unsigned char>(c))) digitos += c;
+    for (std::size_t i = 0; i + 1 < digitos.size(); i += 2)
+        r.push_back(static_cast<std::uint8_t>(std::stoi(digitos.substr(i, 2), nullptr, 16)));
+    return r;
+}
+
+class EscritoresTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        carpeta = std::filesystem::temp_directory_path() /
+                  ("trevalo_escritores_" +
+                   std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+        std::filesystem::remove_all(carpeta);
+        std::filesystem::create_directories(carpeta);
+    }
+    void TearDown() override { std::filesystem::remove_all(carpeta); }
+    std::filesystem::path carpeta;
+};
+
+TEST_F(EscritoresTest, HeadLinesShowMaterialsWithTheMachinesSeparators) {
+    auto c = Contenido(0);
+    c.Generales.FY = 4200.005;
+    c.SeparadorDecimal = ',';
+    c.SeparadorMiles = '.';
+    const auto lineas = LineasCabecera(c);
+    ASSERT_EQ(lineas.size(), 8u);
+    EXPECT_EQ(lineas[0].Valor, c.Generales.Proyecto);
+    EXPECT_EQ(lineas[2].Valor, "María José");
+    EXPECT_EQ(lineas[3].Valor, "250,00 kgf/cm²");
+    EXPECT_EQ(lineas[4].Valor, "4.200,01 kgf/cm²"); // half away from zero
+    EXPECT_EQ(lineas[5].Valor, "0,050 m");
+    EXPECT_DOUBLE_EQ(*lineas[4].Numero, 4200.005);
+    EXPECT_EQ(lineas[6].Valor, "Ing. Núñez");
+    EXPECT_EQ(lineas[7].Valor, "6.0");
+}
+
+TEST_F(EscritoresTest, KindOfOutputFollowsTheExtension) {
+    EXPECT_EQ(ArchivoPorExtension("a/b.PDF"), ArchivoInforme::Pdf);
+    EXPECT_EQ(ArchivoPorExtension("b.htm"), ArchivoInforme::Html);
+    EXPECT_EQ(ArchivoPorExtension("b.Html"), ArchivoInforme::Html);
+    EXPECT_EQ(ArchivoPorExtension("b.xlsx"), ArchivoInforme::Hoja);
+    EXPECT_EQ(ArchivoPorExtension("b.rtf"), ArchivoInforme::Texto);
+    EXPECT_EQ(ArchivoPorExtension("b.xls"), std::nullopt);
+    EXPECT_EQ(ArchivoPorExtension("pdf"), std::nullopt);
+}
+
+// A file chosen through a kind's Save dialog is written by that kind's writer.
+TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
+    int conArchivo = 0;
+    for (const auto& s : SalidasInforme) {
+        const std::string filtro = s.Filtro;
+        EXPECT_EQ(s.Archivo.has_value(), !filtro.empty()) << int(s.TipoSalida);
+        EXPECT_EQ(s.Archivo.has_value(), !std::string(s.TituloDialogo).empty());
+        if (!s.Archivo) continue;
+        ++conArchivo;
+        const auto patron = filtro.substr(0, filtro.find('|'));
+        EXPECT_EQ(filtro, patron + "|" + patron);
+        EXPECT_EQ(ArchivoPorExtension("informe" + patron.substr(1)), s.Archivo) << filtro;
+    }
+    EXPECT_EQ(conArchivo, 4);
+    EXPECT_EQ(PreguntaAbrirArchivo("Obra.pdf"), "¿Desea Abrir el Archivo Obra.pdf?    ");
+}
+
+TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
+    for (int n : {0, 1, 4}) {
+        const auto ruta = carpeta / ("r" + std::to_string(n) + ".pdf");
+        EscribirInformePdf(Contenido(n), ruta.string());
+        const std::string pdf = Leer(ruta);
+        EXPECT_EQ(pdf.rfind("%PDF-", 0), 0u);
+        EXPECT_EQ(Contar(pdf, std::regex("/Type\\s*/Page[^s]")), static_cast<std::size_t>(1 + n));
+        // One image a picture page, lossless: no JPEG stream.
+        EXPECT_EQ(Contar(pdf, std::regex("/Subtype\\s*/Image")), static_cast<std::size_t>(n));
+        EXPECT_EQ(pdf.find("/DCTDecode"), std::string::npos);
+    }
+}
+
+TEST_F(EscritoresTest, HtmlEmbedsEveryPictureWholeAndEscapesTexts) {
+    const auto c = Contenido(3);
+    const auto ruta = carpeta / "r.htm";
+    EscribirInformeHtml(c, ruta.string());
+    const std::string html = Leer(ruta);
+    const auto uris = Trozos(html, "src=\"data:image/png;base64,", "\"");
+    ASSERT_EQ(uris.size(), 3u);
+    for (std::size_t k = 0; k < uris.size(); ++k) {
+        const QByteArray png = QByteArray::fromBase64(QByteArray::fromStdString(uris[k]),
+                                                      QByteArray::AbortOnBase64DecodingErrors);
+        EXPECT_EQ(std::vector<std::uint8_t>(png.begin(), png.end()), c.Graficos[k].Grafico);
+    }
+    EXPECT_NE(html.find("Edificio Ñandú {torre} \\ &lt;norte&gt; &amp; sur"), std::string::npos);
+    EXPECT_NE(html.find("<h1>ANALISIS Y DISEÑO DE VIGAS CONTINUAS</h1>"), std::string::npos);
+    EXPECT_NE(html.find("<meta charset=\"utf-8\">"), std::string::npos);
+}
+
+TEST_F(EscritoresTest, RtfEmbedsEveryPictureAsPngAndEncodesTexts) {
+    const auto c = Contenido(2);
+    const auto ruta = carpeta / "r.rtf";
+    EscribirInformeTexto(c, ruta.string());
+    const std::string rtf = Leer(ruta);
+    EXPECT_EQ(rtf.rfind("{\\rtf1", 0), 0u);
+    const auto picts = Trozos(rtf, "\\pngblip", "}");
+    ASSERT_EQ(picts.size(), 2u);
+    for (std::size_t k = 0; k < picts.size(); ++k) {
+        const auto datos = picts[k].substr(picts[k].find('\n'));
+        EXPECT_EQ(datos.find_first_not_of("0123456789abcdef\n"), std::string::npos);
+        EXPECT_EQ(DeHex(datos), c.Graficos[k].Grafico);
+    }
+    EXPECT_EQ(Contar(rtf, std::regex("\\\\page\\n")), 2u);
+    // Ñ is U+00D1 = 209, ú U+00FA = 250; braces and backslash escaped.
+    EXPECT_NE(rtf.find("Edificio \\u209?and\\u250? \\{torre\\} \\\\ <norte> & sur"),
+              std::string::npos);
+    // The braces of the whole document balance.
+    int nivel = 0;
+    for (std::size_t i = 0; i < rtf.size(); ++i) {
+        if (rtf[i] == '\\')
+            ++i;
+        else if (rtf[i] == '{')
+            ++nivel;
+        else if (rtf[i] == '}')
+            --nivel;
+        ASSERT_GE(nivel, 0);
+    }
+    EXPECT_EQ(nivel, 0);
+}
+
+TEST_F(EscritoresTest, SpreadsheetHoldsOneImagePerPicture) {
+    const auto ruta = carpeta / "r.xlsx";
+    EscribirInformeHoja(Contenido(3), ruta.string());
+    const std::string xlsx = Leer(ruta);
+    EXPECT_EQ(xlsx.rfind("PK", 0), 0u);
+    // Each member's name stands in its local header and in the central directory.
+    for (int k = 1; k <= 3; ++k)
+        EXPECT_EQ(Contar(xlsx, std::regex("xl/media/image" + std::to_string(k) + "\\.png")), 2u);
+    EXPECT_EQ(Contar(xlsx, std::regex("xl/media/image4\\.png")), 0u);
+}
+
+TEST_F(EscritoresTest, AnUnwritableFileIsError75ForEveryKind) {
+    const auto ruta = (carpeta / "no existe" / "r").string();
+    for (auto tipo :
+         {ArchivoInforme::Pdf, ArchivoInforme::Html, ArchivoInforme::Hoja, ArchivoInforme::Texto})
+        EXPECT_TREVALO_ERROR(EscribirInforme(Contenido(1), ruta, tipo), 75,
+                             "Error de acceso a la ruta o el archivo");
+}
+
+// The page painter: the picture of page k + 1 is graphic k, large, centred across the
+// page; the head page has its title band and no picture.
+TEST_F(EscritoresTest, PagesPlaceEachPictureLargeAndCentred) {
+    const auto c = Contenido(3);
+    ASSERT_EQ(CantidadPaginasInforme(c), 4);
+    const int ancho = 595, alto = 842; // one pixel a point
+    const QRgb colores[] = {qRgb(255, 0, 0), qRgb(0, 160, 0), qRgb(0, 0, 255)};
+    for (int pagina = 1; pagina <= 4; ++pagina) {
+        QImage imagen(ancho, alto, QImage::Format_RGB32);
+        imagen.fill(Qt::gray);
+        QPainter p(&imagen);
+        PintarPaginaInforme(p, QRectF(0, 0, ancho, alto), c, pagina);
+        p.end();
+        EXPECT_EQ(imagen.pixel(5, 5), qRgb(255, 255, 255)) << pagina; // the page is white
+        if (pagina == 1) {
+            EXPECT_LT(qGray(imagen.pixel(ancho / 2, 56)), 100); // the dark top rule
+            continue;
+        }
+        const QRgb color = colores[(pagina - 2) % 3];
+        // The picture spans the text width (481.9 of 595 points): its middle third is the
+        // block, found at the page's centre line and a little off it.
+        const double escala = (595.28 - 2 * 56.7) / AnchoGraficoPantalla;
+        const int y = static_cast<int>(56.7 + 30 + AltoGraficoPantalla * escala / 2);
+        EXPECT_EQ(imagen.pixel(ancho / 2, y), color) << pagina;
+        EXPECT_EQ(imagen.pixel(ancho / 2 - 70, y), color) << pagina;
+        EXPECT_EQ(imagen.pixel(ancho / 2 - 100, y), qRgb(255, 255, 255)) << pagina;
+    }
+}
+
+TEST_F(EscritoresTest, PngKeepsEveryPixelAndCarriesThePrintResolution) {
+    QImage imagen(AnchoGrafico, AltoGrafico, QImage::Format_RGB32);
+    for (int y = 0; y < imagen.height(); ++y)
+        for (int x = 0; x < imagen.width(); ++x)
+            imagen.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
+    const QImage vuelta = DecodificarPng(CodificarPng(imagen));
+    ASSERT_EQ(vuelta.size(), imagen.size());
+    EXPECT_EQ(vuelta.convertToFormat(QImage::Format_RGB32), imagen);
+    EXPECT_NEAR(vuelta.dotsPerMeterX() * 0.0254, 96 * FactorImpresion, 0.5);
+    EXPECT_TRUE(DecodificarPng({}).isNull());
+    EXPECT_TRUE(DecodificarPng({1, 2, 3}).isNull());
+}
+
+} // namespace
+} // namespace trevalo

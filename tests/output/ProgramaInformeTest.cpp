@@ -1,0 +1,134 @@
+// The fill over the real program: beams loaded from a project file, solved and painted at
+// print resolution. Every picture decodes, has the report's size and shows a drawing; the
+// three views of a beam differ; a beam that cannot be solved is told and the walk goes on.
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+
+#include <set>
+
+#include "BaseTemporal.h"
+#include "ProyectoPrueba.h"
+#include "output/BaseInforme.h"
+#include "output/GraficoPng.h"
+#include "output/PasosPrograma.h"
+
+namespace trevalo {
+namespace {
+
+// Share of pixels that are not white.
+double Tinta(const QImage& imagen) {
+    long pintados = 0;
+    for (int y = 0; y < imagen.height(); y += 3)
+        for (int x = 0; x < imagen.width(); x += 3)
+            if (imagen.pixel(x, y) != qRgb(255, 255, 255)) ++pintados;
+    return static_cast<double>(pintados) / ((imagen.width() / 3.0) * (imagen.height() / 3.0));
+}
+
+class ProgramaInformeTest : public BaseTemporalTest {
+  protected:
+    void SetUp() override {
+        BaseTemporalTest::SetUp();
+        proyecto = carpeta / "Prueba.trv";
+    }
+
+    // Runs the fill on the project with the given options; returns the messages shown.
+    std::vector<std::string> Llenar(const std::vector<std::string>& vigas,
+                                    const OpcionesImpresion& opciones) {
+        std::vector<std::string> avisos;
+        estado.BDProyecto = BaseDatos::Abrir(proyecto.string());
+        LeerGeneralProyecto(*estado.BDProyecto, ajustes);
+        auto aviso = [&](const std::string& texto, const std::string& titulo) {
+            avisos.push_back(titulo + "|" + texto);
+        };
+        auto pasos = PasosPrograma(modelo, aviso, aviso);
+        LlenarImpreDatos(ruta, FilaGeneralesDe(ajustes, "usuario", "6.0"), vigas, opciones, pasos);
+        return avisos;
+    }
+
+    std::filesystem::path proyecto;
+    EstadoProyecto estado;
+    ProyectoActual ajustes;
+    VigaActual viga;
+    ResultadosViga resultados;
+    EstadoPloteos vista;
+    ModeloInforme modelo{estado, ajustes, viga, resultados, vista};
+};
+
+TEST_F(ProgramaInformeTest, EveryPictureDecodesAtTheReportsSizeAndTheViewsDiffer) {
+    CrearProyecto(proyecto, {VigaPrueba("V-101", 1), VigaPrueba("V-102", 2)});
+    const auto avisos = Llenar({"V-101", "V-102"}, {0, 1, 1});
+    EXPECT_TRUE(avisos.empty()) << avisos.front();
+    const auto c = LeerBaseInforme(ruta);
+    EXPECT_EQ(c.Generales.Proyecto, "Edificio de prueba");
+    EXPECT_EQ(c.Generales.Calculista, "Calculista de prueba");
+    EXPECT_DOUBLE_EQ(c.Generales.FC, 210);
+    ASSERT_EQ(c.Graficos.size(), 6u);
+    std::set<std::vector<std::uint8_t>> distintos;
+    for (const auto& g : c.Graficos) {
+        const QImage imagen = DecodificarPng(g.Grafico);
+        ASSERT_FALSE(imagen.isNull()) << g.Numero;
+        // The hidden canvas of 710 by 810 pixels, at print resolution.
+        EXPECT_EQ(imagen.width(), 710 * FactorImpresion);
+        EXPECT_EQ(imagen.height(), 810 * FactorImpresion);
+        EXPECT_GT(Tinta(imagen), 0.005) << "picture " << g.Numero << " is blank";
+        distintos.insert(g.Grafico);
+    }
+    EXPECT_EQ(distintos.size(), 6u);
+    // The model holds the last beam reported, solved; the view is that of the last picture.
+    EXPECT_EQ(viga.NombreVigaActual, "V-102");
+    EXPECT_EQ(viga.NT, 3);
+    EXPECT_EQ(resultados.NJuntas, 4);
+    EXPECT_TRUE(vista.VerReacciones);
+    EXPECT_FALSE(vista.EnPantalla);
+}
+
+TEST_F(ProgramaInformeTest, TheViewOfEachStepIsResetForTheReport) {
+    EstadoPloteos v;
+    v.FactorZoom = 2.5;
+    v.PanX = 30;
+    v.PanY = -4;
+    v.FactorLetra = 0.4;
+    v.EstacionesDiagrama = 3;
+    v.EstacionesDiseno = 7;
+    v.VerJuntas = true;
+    v.ModoEditor = true;
+    struct Caso {
+        VistaInforme paso;
+        bool diagramas, diseno, reacciones;
+    };
+    for (const auto& caso : {Caso{VistaInforme::Diseno, false, true, false},
+                             Caso{VistaInforme::Diagramas, true, false, false},
+                             Caso{VistaInforme::Reacciones, false, false, true}}) {
+        VistaDeInforme(v, caso.paso);
+        EXPECT_EQ(v.VerDiagramas, caso.diagramas);
+        EXPECT_EQ(v.VerDiseno, caso.diseno);
+        EXPECT_EQ(v.VerReacciones, caso.reacciones);
+        EXPECT_EQ(v.FactorZoom, 1.0);
+        EXPECT_EQ(v.PanX, 0.0);
+        EXPECT_EQ(v.PanY, 0.0);
+        EXPECT_EQ(v.FactorLetra, 1.0);
+        EXPECT_EQ(v.EstacionesDiagrama, 10);
+        EXPECT_EQ(v.EstacionesDiseno, 2);
+        EXPECT_FALSE(v.EnPantalla);
+        EXPECT_FALSE(v.VerJuntas);
+        EXPECT_TRUE(v.ModoEditor); // the caller's, untouched
+    }
+}
+
+TEST_F(ProgramaInformeTest, ABeamThatCannotBeSolvedIsToldAndTheWalkGoesOn) {
+    auto mala = VigaPrueba("V-2 mala", 0);
+    mala.LT(1) = 0; // a span of no length
+    CrearProyecto(proyecto, {VigaPrueba("V-1", 1), mala, VigaPrueba("V-3", 2)});
+    const auto avisos = Llenar({"V-1", "V-2 mala", "V-3"}, {0, 1, 0});
+    ASSERT_FALSE(avisos.empty());
+    EXPECT_EQ(avisos.front().rfind("Error Número: ", 0), 0u) << avisos.front();
+    const auto c = LeerBaseInforme(ruta);
+    ASSERT_EQ(c.Graficos.size(), 6u);
+    for (const auto& g : c.Graficos) EXPECT_FALSE(DecodificarPng(g.Grafico).isNull());
+    EXPECT_GT(Tinta(DecodificarPng(c.Graficos[4].Grafico)), 0.005); // V-3 is drawn
+}
+
+} // namespace
+} // namespace trevalo
