@@ -117,7 +117,7 @@ void EtiquetasEstacion(Lienzo& lienzo, const EstadoPloteos& v, const VigaActual&
 
 void PlotearTramo(Lienzo& lienzo, const EstadoPloteos& v, const ProyectoActual& proyecto,
                   const VigaActual& viga, const ResultadosViga& r, const EscalaDiagramas& esc,
-                  TramoDiagrama& t) {
+                  const TramoDiagrama& t) {
     const GeometriaJuntas& g = v;
     const long n = CantidadEstaciones(t.ancho, v.EstacionesDiagrama);
     const double s = t.ancho / static_cast<double>(n);

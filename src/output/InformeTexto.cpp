@@ -85,7 +85,10 @@ void EscribirInformeTexto(const ContenidoInforme& c, const std::string& ruta) {
     for (const auto& linea : LineasCabecera(c)) r += FilaTabla(linea);
     r += "\\pard\\par\n";
     for (const auto& grafico : c.Graficos) {
-        r += "\\page\n\\pard\\fs16\\cf2 " + Rtf(g.TiTulo + " - " + g.Proyecto) + "\\par\n";
+        // The running head: title left, project right, a rule under them.
+        r += "\\page\n\\pard\\tqr\\tx" + std::to_string(AnchoTexto) +
+             "\\fs16\\cf2\\sa240\\brdrb\\brdrs\\brdrw5\\brdrcf3 " + Rtf(g.TiTulo) + "\\tab " +
+             Rtf(g.Proyecto) + "\\par\n";
         if (!grafico.Grafico.empty()) r += Imagen(grafico);
         r +=
             "\\pard\\qc\\fs18\\cf1 " + Rtf("Gráfico " + std::to_string(grafico.Numero)) + "\\par\n";

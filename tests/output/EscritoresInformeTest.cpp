@@ -16,6 +16,7 @@
 #include "output/EscritoresInforme.h"
 #include "output/GraficoPng.h"
 #include "output/PaginaInforme.h"
+#include "output/SalidasInforme.h"
 
 namespace trevalo {
 namespace {
@@ -122,6 +123,23 @@ TEST_F(EscritoresTest, KindOfOutputFollowsTheExtension) {
     EXPECT_EQ(ArchivoPorExtension("b.rtf"), ArchivoInforme::Texto);
     EXPECT_EQ(ArchivoPorExtension("b.xls"), std::nullopt);
     EXPECT_EQ(ArchivoPorExtension("pdf"), std::nullopt);
+}
+
+// A file chosen through a kind's Save dialog is written by that kind's writer.
+TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
+    int conArchivo = 0;
+    for (const auto& s : SalidasInforme) {
+        const std::string filtro = s.Filtro;
+        EXPECT_EQ(s.Archivo.has_value(), !filtro.empty()) << int(s.TipoSalida);
+        EXPECT_EQ(s.Archivo.has_value(), !std::string(s.TituloDialogo).empty());
+        if (!s.Archivo) continue;
+        ++conArchivo;
+        const auto patron = filtro.substr(0, filtro.find('|'));
+        EXPECT_EQ(filtro, patron + "|" + patron);
+        EXPECT_EQ(ArchivoPorExtension("informe" + patron.substr(1)), s.Archivo) << filtro;
+    }
+    EXPECT_EQ(conArchivo, 4);
+    EXPECT_EQ(PreguntaAbrirArchivo("Obra.pdf"), "¿Desea Abrir el Archivo Obra.pdf?    ");
 }
 
 TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {

@@ -137,6 +137,7 @@ TEST(ComandoDiseno, ErroresDeUso) {
         {{"diseno", "a.json", "--estaciones"}, 2},
         {{"diseno", "a.json", "--estaciones", "0"}, 2},
         {{"diseno", "a.json", "--estaciones", "dos"}, 2},
+        {{"diseno", "a.json", "--estaciones", "2.5"}, 2},
         {{"diseno", "a.json", "b.json"}, 2},
         {{"diseno", "/no/existe/viga.json"}, 1},
     };

@@ -7,12 +7,13 @@
 // them (h and x in m, M, Mu in kgf-m sagging positive, V, Vu in kgf, steel in cm2), then the
 // six summary values per span as the sheet leaves them ("resumenHoja") and as the export
 // stores them ("resumenCAD", rounded, centre faces crossed). N stations per metre of
-// horizontal span, default 2, at least 1.
+// horizontal span, a whole number from 1 to 1000, default 2.
 
 #include <nlohmann/json.hpp>
 
 #include "app/tools/CargaViga.h"
 #include "app/tools/Comandos.h"
+#include "app/tools/Resolver.h"
 #include "design/TablaDiseno.h"
 #include "drawing/GeometriaPlot.h"
 
@@ -53,31 +54,27 @@ nlohmann::ordered_json Estacion(const TramoDiseno& tramo, const EstacionDiseno& 
 
 // Reads the words of the command; false on a malformed line.
 bool LeerArgumentos(const Argumentos& args, std::string& archivo, std::string& viga,
-                    double& estaciones) {
+                    long& estaciones) {
     for (std::size_t i = 0; i < args.size(); ++i) {
         const bool conValor = i + 1 < args.size();
         if (args[i] == "--viga" && conValor) {
             viga = args[++i];
         } else if (args[i] == "--estaciones" && conValor) {
-            try {
-                estaciones = std::stod(args[++i]);
-            } catch (const std::exception&) {
-                return false;
-            }
+            if (!LeerEstaciones(args[++i], estaciones)) return false;
         } else if (archivo.empty() && args[i].rfind("--", 0) != 0) {
             archivo = args[i];
         } else {
             return false;
         }
     }
-    return !archivo.empty() && (EsArchivoJson(archivo) || !viga.empty()) && estaciones >= 1;
+    return !archivo.empty() && (EsArchivoJson(archivo) || !viga.empty());
 }
 
 } // namespace
 
 int ComandoDiseno(const Argumentos& args, std::ostream& salida, std::ostream& errores) {
     std::string archivo, nombre;
-    double estaciones = 2;
+    long estaciones = 2;
     if (!LeerArgumentos(args, archivo, nombre, estaciones)) {
         errores << "Uso: trevalo-calc diseno PROYECTO.trv --viga NOMBRE [--estaciones N]\n"
                    "     trevalo-calc diseno VIGA.json [--estaciones N]\n";
