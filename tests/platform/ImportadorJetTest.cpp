@@ -216,5 +216,13 @@ TEST_F(ImportadorJet, FamiliaIncompleta) {
     EXPECT_EQ(Archivos(), 0);
 }
 
+// Day serials counted by hand from 30 December 1899.
+TEST(FechaJet, TextoPorFamilia) {
+    EXPECT_EQ(TextoFechaJet(29932, FamiliaJet::Cualquiera), "1981-12-12 00:00:00");
+    EXPECT_EQ(TextoFechaJet(27293.75, FamiliaJet::TablaPerfiles), "1974-09-21 18:00:00");
+    EXPECT_EQ(TextoFechaJet(0, FamiliaJet::Cualquiera), "1899-12-30 00:00:00");
+    EXPECT_EQ(TextoFechaJet(27293.75, FamiliaJet::Proyecto), "21/09/1974");
+}
+
 } // namespace
 } // namespace trevalo
