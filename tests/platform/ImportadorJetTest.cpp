@@ -10,6 +10,8 @@
 #include <map>
 #include <string>
 
+#include <unistd.h>
+
 #include "VerificaError.h"
 #include "platform/ImportadorJet.h"
 #include "platform/MotorDatos.h"
@@ -31,10 +33,9 @@ std::string Bytes(const std::string& ruta) {
 class ImportadorJet : public ::testing::Test {
   protected:
     void SetUp() override {
-        carpeta =
-            fs::temp_directory_path() /
-            ("importador_jet_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-             "_" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        carpeta = fs::temp_directory_path() /
+                  ("importador_jet_" + std::to_string(::getpid()) + "_" +
+                   ::testing::UnitTest::GetInstance()->current_test_info()->name());
         fs::remove_all(carpeta);
         fs::create_directories(carpeta);
     }
