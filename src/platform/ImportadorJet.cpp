@@ -82,21 +82,28 @@ std::string TipoColumna(const MdbHandle* mdb, const MdbColumn* col) {
     }
 }
 
-// Date of the engine (days since 30 December 1899, the fraction the time of day) as text.
-std::string TextoFecha(double dias) {
+} // namespace
+
+std::string TextoFechaJet(double dias, FamiliaJet familia) {
     std::tm t{};
     mdb_date_to_tm(dias, &t);
     char texto[80];
-    std::snprintf(texto, sizeof texto, "%04d-%02d-%02d %02d:%02d:%02d", t.tm_year + 1900,
-                  t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec);
+    if (familia == FamiliaJet::Proyecto)
+        std::snprintf(texto, sizeof texto, "%02d/%02d/%04d", t.tm_mday, t.tm_mon + 1,
+                      t.tm_year + 1900);
+    else
+        std::snprintf(texto, sizeof texto, "%04d-%02d-%02d %02d:%02d:%02d", t.tm_year + 1900,
+                      t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec);
     return texto;
 }
+
+namespace {
 
 // One open table with its columns bound, read row by row.
 class LectorTabla {
   public:
-    LectorTabla(MdbHandle* mdb, MdbCatalogEntry* entrada)
-        : mdb_(mdb), tabla_(mdb_read_table(entrada)) {
+    LectorTabla(MdbHandle* mdb, MdbCatalogEntry* entrada, FamiliaJet familia)
+        : mdb_(mdb), familia_(familia), tabla_(mdb_read_table(entrada)) {
         if (!tabla_) throw NoLegible(entrada->object_name);
         mdb_read_columns(tabla_.get());
         mdb_rewind_table(tabla_.get());
@@ -165,7 +172,7 @@ class LectorTabla {
         case MDB_DOUBLE:
             return Valor(mdb_get_double(fila, inicio));
         case MDB_DATETIME:
-            return Valor(TextoFecha(mdb_get_double(fila, inicio)));
+            return Valor(TextoFechaJet(mdb_get_double(fila, inicio), familia_));
         case MDB_MONEY:
         case MDB_NUMERIC:
             return Valor(std::stod(texto));
@@ -189,6 +196,7 @@ class LectorTabla {
     }
 
     MdbHandle* mdb_;
+    FamiliaJet familia_;
     TablaMdb tabla_;
     std::vector<std::vector<char>> texto_;
     std::vector<int> largo_;
@@ -238,8 +246,8 @@ void ComprobarFamilia(const std::vector<MdbCatalogEntry*>& tablas, FamiliaJet fa
                                           ": " + faltan + ".");
 }
 
-long CopiarTabla(MdbHandle* mdb, MdbCatalogEntry* entrada, BaseDatos& bd) {
-    LectorTabla lector(mdb, entrada);
+long CopiarTabla(MdbHandle* mdb, MdbCatalogEntry* entrada, FamiliaJet familia, BaseDatos& bd) {
+    LectorTabla lector(mdb, entrada, familia);
     std::string columnas, marcas, nombres;
     for (unsigned i = 0; i < lector.Columnas(); ++i) {
         const MdbColumn* c = lector.Columna(i);
@@ -263,13 +271,13 @@ long CopiarTabla(MdbHandle* mdb, MdbCatalogEntry* entrada, BaseDatos& bd) {
 
 // Writes every table into the scratch file, in one transaction.
 ResultadoImportacion Copiar(MdbHandle* mdb, const std::vector<MdbCatalogEntry*>& tablas,
-                            const std::string& temporal) {
+                            FamiliaJet familia, const std::string& temporal) {
     ResultadoImportacion r;
     r.Version = mdb->f->jet_version == MDB_VER_JET3 ? "Jet 3" : "Jet 4";
     BaseDatos bd = BaseDatos::Crear(temporal);
     Transaccion tr(bd);
     for (MdbCatalogEntry* e : tablas)
-        r.Tablas.emplace_back(e->object_name, CopiarTabla(mdb, e, bd));
+        r.Tablas.emplace_back(e->object_name, CopiarTabla(mdb, e, familia, bd));
     tr.Confirmar();
     return r;
 }
@@ -308,7 +316,7 @@ ResultadoImportacion ImportarJet(const std::string& origen, const std::string& d
     const std::string temporal = destino + ".importando";
     BorrarTemporal(temporal);
     try {
-        ResultadoImportacion r = Copiar(mdb.get(), tablas, temporal);
+        ResultadoImportacion r = Copiar(mdb.get(), tablas, familia, temporal);
         fs::rename(temporal, destino);
         return r;
     } catch (...) {

@@ -7,7 +7,8 @@
 // ESPANOL); byte TINYINT, integer SMALLINT, long INTEGER; single REAL, double DOUBLE,
 // currency CURRENCY and decimal DECIMAL(p,s) as reals; boolean BOOLEAN as 0 or 1; date
 // DATETIME as the text "yyyy-mm-dd hh:mm:ss"; binary VARBINARY(n) and OLE LONGBINARY as
-// bytes; replication ids GUID as text. Null stays Null.
+// bytes; replication ids GUID as text. Null stays Null. In a project the date is the text
+// "dd/MM/yyyy", the form in which the program keeps a project's date.
 //
 // The source is opened read-only and never changed. The target is written into a scratch
 // file beside it in one transaction and renamed into place at the end: on any failure no
@@ -41,6 +42,10 @@ struct ResultadoImportacion {
 
 inline constexpr long ErrNoEsJet = 3343;
 inline constexpr long ErrFaltaTabla = 3078;
+
+// A date of the engine (days since 30 December 1899, the fraction the time of day) as the
+// import writes it for the family.
+std::string TextoFechaJet(double dias, FamiliaJet familia);
 
 ResultadoImportacion ImportarJet(const std::string& origen, const std::string& destino,
                                  FamiliaJet familia = FamiliaJet::Cualquiera);

@@ -136,6 +136,8 @@ class Recordset {
     long AbsolutePosition() const;
     void AbsolutePosition(long posicion);
 
+    // Moves. With no rows, or past either end, they raise 3021; a move drops an AddNew or
+    // Edit that was not updated.
     void MoveFirst();
     void MoveLast();
     void MoveNext();

@@ -91,7 +91,7 @@ void CrearTablaPerfiles(const std::string& rutaPrograma, FamiliaPerfil familia,
     const fs::path plantilla = fs::path(rutaPrograma) / "Imagen" / Familia(familia).Plantilla;
     std::error_code ec;
     fs::copy_file(plantilla, ruta, fs::copy_options::overwrite_existing, ec);
-    if (ec) throw ErrorTrevalo(53, "No se encontró el archivo");
+    if (ec) throw ErrorTrevalo(ErrArchivoNoEncontrado, "No se encontró el archivo");
 }
 
 std::string RutaTablaNueva(const std::string& rutaPerfiles, FamiliaPerfil familia,

@@ -140,16 +140,21 @@ TEST(Cuadricula, CuarentaYCuatroLineasEnCadaSentido) {
     EXPECT_EQ(lienzo.PlumaActual(), Pluma{}); // the canvas's pen is put back
 }
 
-TEST(Redibujo, SinTramosQuedaLaCuadriculaYElLienzoCongelado) {
-    auto viga = VigaDeTramos({});
-    LienzoGrabador lienzo(800, 600);
-    Redibujo r;
-    r.estado.Escala = 123; // untouched
-    r.Plotear(lienzo, viga);
-    EXPECT_EQ(lienzo.DelTipo(TipoOperacion::Linea).size(), 88u);
-    EXPECT_EQ(lienzo.Operaciones().size(), 89u); // Cls and the grid, nothing else
-    EXPECT_TRUE(lienzo.Congelado());
-    EXPECT_EQ(r.estado.Escala, 123);
+TEST(Redibujo, SinTramosOSinLongitudQuedaLaCuadriculaYElLienzoCongelado) {
+    for (const std::vector<double>& tramos : {std::vector<double>{}, std::vector<double>{0, 0}}) {
+        auto viga = VigaDeTramos(tramos);
+        LienzoGrabador lienzo(800, 600);
+        Redibujo r;
+        r.estado.Escala = 123; // untouched
+        r.estado.FactorZoom = 0.0;
+        r.Plotear(lienzo, viga);
+        EXPECT_EQ(lienzo.DelTipo(TipoOperacion::Linea).size(), 88u);
+        EXPECT_EQ(lienzo.Operaciones().size(), 89u); // Cls and the grid, nothing else
+        EXPECT_TRUE(lienzo.Congelado());
+        EXPECT_EQ(r.estado.Escala, 123);
+        EXPECT_EQ(r.estado.FactorZoom, 0.0);
+        EXPECT_EQ(r.titulo, "");
+    }
 }
 
 TEST(Redibujo, CuadriculaSoloEnPantallaYSiSeVe) {

@@ -10,6 +10,8 @@
 #include <map>
 #include <string>
 
+#include <unistd.h>
+
 #include "VerificaError.h"
 #include "platform/ImportadorJet.h"
 #include "platform/MotorDatos.h"
@@ -31,10 +33,9 @@ std::string Bytes(const std::string& ruta) {
 class ImportadorJet : public ::testing::Test {
   protected:
     void SetUp() override {
-        carpeta =
-            fs::temp_directory_path() /
-            ("importador_jet_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-             "_" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        carpeta = fs::temp_directory_path() /
+                  ("importador_jet_" + std::to_string(::getpid()) + "_" +
+                   ::testing::UnitTest::GetInstance()->current_test_info()->name());
         fs::remove_all(carpeta);
         fs::create_directories(carpeta);
     }
@@ -213,6 +214,14 @@ TEST_F(ImportadorJet, FamiliaIncompleta) {
                              "\" le faltan tablas de una tabla de perfiles: GeneralPerfil, "
                              "DatosPerfil.");
     EXPECT_EQ(Archivos(), 0);
+}
+
+// Day serials counted by hand from 30 December 1899.
+TEST(FechaJet, TextoPorFamilia) {
+    EXPECT_EQ(TextoFechaJet(29932, FamiliaJet::Cualquiera), "1981-12-12 00:00:00");
+    EXPECT_EQ(TextoFechaJet(27293.75, FamiliaJet::TablaPerfiles), "1974-09-21 18:00:00");
+    EXPECT_EQ(TextoFechaJet(0, FamiliaJet::Cualquiera), "1899-12-30 00:00:00");
+    EXPECT_EQ(TextoFechaJet(27293.75, FamiliaJet::Proyecto), "21/09/1974");
 }
 
 } // namespace

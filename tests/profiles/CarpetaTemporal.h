@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <string>
 
+#include <unistd.h>
+
 namespace trevalo {
 
 class CarpetaTemporal {
@@ -13,7 +15,8 @@ class CarpetaTemporal {
     CarpetaTemporal() {
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
         ruta_ = std::filesystem::temp_directory_path() /
-                (std::string("trevalo_perfiles_") + info->test_suite_name() + "_" + info->name());
+                (std::string("trevalo_perfiles_") + std::to_string(::getpid()) + "_" +
+                 info->test_suite_name() + "_" + info->name());
         std::filesystem::remove_all(ruta_);
         std::filesystem::create_directories(ruta_);
     }

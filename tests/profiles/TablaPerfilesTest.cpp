@@ -59,18 +59,6 @@ TEST(NombresDeTablas, PatronPideUnCaracterTrasElPrefijo) {
         EXPECT_EQ(CoincidePatron(c.familia, c.nombre), c.coincide) << c.nombre;
 }
 
-TEST(NombresDeTablas, CamposPorFamilia) {
-    EXPECT_EQ(Familia(F::DobleTee).Campos.size(), 16u);
-    EXPECT_EQ(Familia(F::SeccionU).Campos.size(), 13u);
-    EXPECT_EQ(Familia(F::TuboCuadrado).Campos.size(), 7u);
-    EXPECT_EQ(Familia(F::TuboRectangular).Campos.size(), 9u);
-    EXPECT_EQ(Familia(F::DobleTee).Campos[12], "CosntanteTorsionJ");
-    EXPECT_EQ(Familia(F::TuboCuadrado).Campos[6], "MOduloPlastico");
-    EXPECT_EQ(Familia(F::TuboCuadrado).CampoInercia, "Inercia");
-    EXPECT_EQ(Familia(F::DobleTee).Filtro, "Tabla de Perfiles (*.plf)|DobleTee_?*.pfl");
-    EXPECT_EQ(Familia(F::DobleTee).Titulo, "Tabla de Seccines Doble Tee");
-}
-
 TEST(NombresDeTablas, MensajeDeTablaExistente) {
     EXPECT_EQ(MensajeTablaExiste("U_A.pfl"),
               "La Tabla: \"U_A.pfl\" Ya Existe en el Programa...      \nDesea Reemplazarla?      ");

@@ -20,7 +20,10 @@ class Dibujar : public ::testing::Test {
   protected:
     void SetUp() override {
         prueba::AsegurarAplicacionQt();
-        dir_ = std::filesystem::temp_directory_path() / "trevalo_dibujar";
+        // A folder per test: ctest runs the tests of this file side by side.
+        dir_ = std::filesystem::temp_directory_path() /
+               (std::string("trevalo_dibujar_") +
+                ::testing::UnitTest::GetInstance()->current_test_info()->name());
         std::filesystem::create_directories(dir_);
         VigaActual v;
         v.NombreVigaActual = "V-7";

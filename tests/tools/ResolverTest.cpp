@@ -8,6 +8,8 @@
 #include <sstream>
 #include <string>
 
+#include <unistd.h>
+
 #include "app/tools/Comandos.h"
 #include "app/tools/VigaJson.h"
 
@@ -47,7 +49,7 @@ class Resolver : public ::testing::Test {
   protected:
     void SetUp() override {
         carpeta = fs::temp_directory_path() /
-                  ("resolver_" +
+                  ("resolver_" + std::to_string(::getpid()) + "_" +
                    std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
         fs::create_directories(carpeta);
     }
@@ -196,9 +198,9 @@ TEST(ImportarJetOrden, UsoYErrores) {
     Salida r = Ejecutar({"importar-jet", "solo-uno.mdb"});
     EXPECT_EQ(r.codigo, 2);
     EXPECT_EQ(r.errores.rfind("Uso: trevalo-calc importar-jet", 0), 0u);
-    r = Ejecutar({"importar-jet", "/no/existe.mdb", "/tmp/no-se-escribe.trv", "--familia", "otra"});
+    r = Ejecutar({"importar-jet", "/no/existe.mdb", "/no/existe/nuevo.trv", "--familia", "otra"});
     EXPECT_EQ(r.codigo, 2);
-    r = Ejecutar({"importar-jet", "/no/existe.mdb", "/tmp/no-se-escribe.trv"});
+    r = Ejecutar({"importar-jet", "/no/existe.mdb", "/no/existe/nuevo.trv"});
     EXPECT_EQ(r.codigo, 1);
     EXPECT_EQ(r.errores, "Error 53: No se encontró el archivo \"/no/existe.mdb\".\n");
 }
