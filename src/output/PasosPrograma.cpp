@@ -24,12 +24,7 @@ void VistaDeInforme(EstadoPloteos& vista, VistaInforme paso) {
     vista.VerDiagramas = paso == VistaInforme::Diagramas;
     vista.VerDiseno = paso == VistaInforme::Diseno;
     vista.VerReacciones = paso == VistaInforme::Reacciones;
-    vista.FactorLetra = 1.0;
-    vista.EstacionesDiagrama = 10;
-    vista.EstacionesDiseno = 2;
-    vista.FactorZoom = 1.0;
-    vista.PanX = 0.0;
-    vista.PanY = 0.0;
+    ReiniciarVista(vista);
     vista.EnPantalla = false;
     vista.VerJuntas = false;
 }

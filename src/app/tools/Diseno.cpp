@@ -41,14 +41,9 @@ nlohmann::ordered_json Estacion(const TramoDiseno& tramo, const EstacionDiseno& 
     textos["MU(I)"] = tx.MuI;
     textos["VU"] = tx.Vu;
     textos["PROGRES"] = tx.Progresiva;
-    nlohmann::ordered_json j = {{"i", e.i}, {"h", e.h},   {"x", e.x},   {"M", e.M},
-                                {"V", e.V}, {"Mu", e.Mu}, {"Vu", e.Vu}, {"textos", textos}};
-    if (concreto) {
-        j["AsSup"] = e.AsSup;
-        j["AsInf"] = e.AsInf;
-        j["Excede"] = e.Excede;
-        j["Estribos"] = e.Estribos;
-    }
+    nlohmann::ordered_json j = {{"i", e.i}, {"h", e.h}};
+    j.update(DescribirEstacion(e, concreto));
+    j["textos"] = textos;
     return j;
 }
 

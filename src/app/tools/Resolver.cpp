@@ -34,7 +34,16 @@ Json Resultados(const ResultadosViga& r) {
         {"ReacH", Lista(r.ReacH)},   {"ReacM", Lista(r.ReacM)}};
 }
 
-Json Estacion(const EstacionDiseno& e, bool concreto) {
+Json Resumen(const ResumenAcero& r) {
+    return Json{
+        {"AsSupIzquierda", Lista(r.AsSupIzquierda)}, {"AsInfIzquierda", Lista(r.AsInfIzquierda)},
+        {"AsSupCentro", Lista(r.AsSupCentro)},       {"AsInfCentro", Lista(r.AsInfCentro)},
+        {"AsSupDerecha", Lista(r.AsSupDerecha)},     {"AsInfDerecha", Lista(r.AsInfDerecha)}};
+}
+
+} // namespace
+
+Json DescribirEstacion(const EstacionDiseno& e, bool concreto) {
     Json j{{"x", e.x}, {"M", e.M}, {"V", e.V}, {"Mu", e.Mu}, {"Vu", e.Vu}};
     if (concreto) {
         j["AsSup"] = e.AsSup;
@@ -44,15 +53,6 @@ Json Estacion(const EstacionDiseno& e, bool concreto) {
     }
     return j;
 }
-
-Json Resumen(const ResumenAcero& r) {
-    return Json{
-        {"AsSupIzquierda", Lista(r.AsSupIzquierda)}, {"AsInfIzquierda", Lista(r.AsInfIzquierda)},
-        {"AsSupCentro", Lista(r.AsSupCentro)},       {"AsInfCentro", Lista(r.AsInfCentro)},
-        {"AsSupDerecha", Lista(r.AsSupDerecha)},     {"AsInfDerecha", Lista(r.AsInfDerecha)}};
-}
-
-} // namespace
 
 Json ResolverYDescribir(ProyectoActual& proyecto, VigaActual& viga, long estacionesPorMetro) {
     const ProyectoActual leido = proyecto;
@@ -68,7 +68,8 @@ Json ResolverYDescribir(ProyectoActual& proyecto, VigaActual& viga, long estacio
     Json tramos = Json::array();
     for (const TramoDiseno& tr : tabla) {
         Json estaciones = Json::array();
-        for (const EstacionDiseno& e : tr.Estaciones) estaciones.push_back(Estacion(e, concreto));
+        for (const EstacionDiseno& e : tr.Estaciones)
+            estaciones.push_back(DescribirEstacion(e, concreto));
         tramos.push_back(
             Json{{"Tramo", tr.t}, {"L", tr.L}, {"dX", tr.dX}, {"Estaciones", estaciones}});
     }

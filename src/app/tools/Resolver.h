@@ -14,6 +14,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "design/TablaDiseno.h"
 #include "model/Viga.h"
 
 namespace trevalo::calc {
@@ -29,6 +30,10 @@ nlohmann::ordered_json ResolverYDescribir(ProyectoActual& proyecto, VigaActual& 
 // exit code: 0, or 1 on an error.
 int ImprimirResolucion(ProyectoActual& proyecto, VigaActual& viga, long estacionesPorMetro,
                        std::ostream& salida, std::ostream& errores);
+
+// One station: "x", "M", "V", "Mu", "Vu" and, for a concrete beam, "AsSup", "AsInf",
+// "Excede", "Estribos".
+nlohmann::ordered_json DescribirEstacion(const EstacionDiseno& e, bool concreto);
 
 // Reads the value of "--estaciones": a whole number from 1 to 1000; false otherwise.
 bool LeerEstaciones(const std::string& texto, long& estaciones);
