@@ -22,25 +22,6 @@ TEST(Zoom, DiezPasosAfueraLleganADecimoYSeQuedan) {
     EXPECT_NEAR(e.FactorZoom, 3.2, 1e-9);
 }
 
-TEST(Zoom, ExtensionReiniciaSoloLoDeLaVentana) {
-    for (bool ventanaProyecto : {true, false}) {
-        EstadoPloteos e;
-        e.FactorZoom = 2.3;
-        e.PanX = 5;
-        e.PanY = -7;
-        e.EstacionesDiagrama = 14;
-        e.EstacionesDiseno = 5;
-        e.FactorLetra = 1.7;
-        EjecuteZoomExtents(e, ventanaProyecto);
-        EXPECT_EQ(e.FactorZoom, 1.0);
-        EXPECT_EQ(e.PanX, 0.0);
-        EXPECT_EQ(e.PanY, 0.0);
-        EXPECT_EQ(e.EstacionesDiagrama, ventanaProyecto ? 10 : 14);
-        EXPECT_EQ(e.EstacionesDiseno, ventanaProyecto ? 2 : 5);
-        EXPECT_EQ(e.FactorLetra, ventanaProyecto ? 1.0 : 1.7);
-    }
-}
-
 TEST(Herramientas, TeclasBotonesYArrastreMuevenLaVista) {
     struct Caso {
         int tecla;
@@ -102,30 +83,43 @@ TEST(Herramientas, EstacionesYLetraConSusLimites) {
     EXPECT_EQ(e.FactorLetra, 1.0);
 }
 
-TEST(Pestanas, VistaYValoresQueReinicia) {
+TEST(Reinicios, ExtensionYPestanasReinicianSoloLoSuyo) {
     struct Caso {
-        int pestana;
+        void (*accion)(EstadoPloteos&);
         bool diagramas, diseno, reacciones;
+        double zoom;
         std::int16_t estDiagrama, estDiseno;
         double letra;
     };
-    // Before: 14 and 5 stations, text factor 1.7.
-    for (const auto& c :
-         {Caso{1, false, false, false, 14, 5, 1.7}, Caso{2, true, false, false, 10, 2, 1.7},
-          Caso{3, false, true, false, 10, 2, 1.0}, Caso{4, false, false, true, 14, 5, 1.7}}) {
+    // Before: zoom 2.3, pans, 14 and 5 stations, text factor 1.7. Only the project window's
+    // zoom to extents and the design tab put the text factor back.
+    const Caso casos[] = {
+        {[](EstadoPloteos& e) { EjecuteZoomExtents(e, true); }, false, false, false, 1, 10, 2, 1},
+        {[](EstadoPloteos& e) { EjecuteZoomExtents(e, false); }, false, false, false, 1, 14, 5,
+         1.7},
+        {[](EstadoPloteos& e) { ElegirPestana(e, 1); }, false, false, false, 2.3, 14, 5, 1.7},
+        {[](EstadoPloteos& e) { ElegirPestana(e, 2); }, true, false, false, 2.3, 10, 2, 1.7},
+        {[](EstadoPloteos& e) { ElegirPestana(e, 3); }, false, true, false, 2.3, 10, 2, 1},
+        {[](EstadoPloteos& e) { ElegirPestana(e, 4); }, false, false, true, 2.3, 14, 5, 1.7}};
+    int n = 0;
+    for (const auto& c : casos) {
         EstadoPloteos e;
         e.EnPantalla = false;
+        e.FactorZoom = 2.3;
+        e.PanX = 5;
         e.EstacionesDiagrama = 14;
         e.EstacionesDiseno = 5;
         e.FactorLetra = 1.7;
-        ElegirPestana(e, c.pestana);
-        EXPECT_EQ(e.VerDiagramas, c.diagramas) << c.pestana;
-        EXPECT_EQ(e.VerDiseno, c.diseno) << c.pestana;
-        EXPECT_EQ(e.VerReacciones, c.reacciones) << c.pestana;
-        EXPECT_TRUE(e.EnPantalla);
-        EXPECT_EQ(e.EstacionesDiagrama, c.estDiagrama) << c.pestana;
-        EXPECT_EQ(e.EstacionesDiseno, c.estDiseno) << c.pestana;
-        EXPECT_EQ(e.FactorLetra, c.letra) << c.pestana;
+        c.accion(e);
+        SCOPED_TRACE(++n);
+        EXPECT_EQ(e.VerDiagramas, c.diagramas);
+        EXPECT_EQ(e.VerDiseno, c.diseno);
+        EXPECT_EQ(e.VerReacciones, c.reacciones);
+        EXPECT_EQ(e.FactorZoom, c.zoom);
+        EXPECT_EQ(e.PanX, c.zoom == 1 ? 0 : 5);
+        EXPECT_EQ(e.EstacionesDiagrama, c.estDiagrama);
+        EXPECT_EQ(e.EstacionesDiseno, c.estDiseno);
+        EXPECT_EQ(e.FactorLetra, c.letra);
     }
 }
 

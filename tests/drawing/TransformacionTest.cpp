@@ -150,19 +150,18 @@ TEST(Redibujo, SinTramosOSinLongitudQuedaLaCuadriculaYElLienzoCongelado) {
 
 TEST(Redibujo, CuadriculaSoloEnPantallaYSiSeVe) {
     auto viga = VigaDeTramos({5});
-    for (bool enPantalla : {true, false})
-        for (bool ver : {true, false}) {
-            LienzoGrabador lienzo(800, 600);
-            Redibujo r;
-            r.estado.EnPantalla = enPantalla;
-            r.estado.VerCuadricula = ver;
-            r.Plotear(lienzo, viga);
-            bool hay = false;
-            for (const auto& l : lienzo.DelTipo(TipoOperacion::Linea))
-                hay = hay || l.PlumaUsada.Tinta == 0xEAE1D9;
-            EXPECT_EQ(hay, enPantalla && ver);
-            EXPECT_EQ(lienzo.Refrescos(), 1);
-        }
+    for (const auto& [enPantalla, ver] : {std::pair{true, true}, {true, false}, {false, true}}) {
+        LienzoGrabador lienzo(800, 600);
+        Redibujo r;
+        r.estado.EnPantalla = enPantalla;
+        r.estado.VerCuadricula = ver;
+        r.Plotear(lienzo, viga);
+        const auto lineas = lienzo.DelTipo(TipoOperacion::Linea);
+        EXPECT_EQ(std::count_if(lineas.begin(), lineas.end(),
+                                [](const auto& l) { return l.PlumaUsada.Tinta == 0xEAE1D9; }),
+                  enPantalla && ver ? 88 : 0);
+        EXPECT_EQ(lienzo.Refrescos(), 1);
+    }
 }
 
 TEST(Redibujo, UnaFallaVaAlAvisoConSuNumero) {
