@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "model/Viga.h"
+#include "analysis/VigasPrueba.h"
 
 namespace trevalo::prueba {
 
@@ -34,30 +34,25 @@ inline void PrintTo(const CasoCarga& c, std::ostream* os) {
     *os << c.nombre;
 }
 
+// Loads of one kind on span 1, one row per load: {W, La, Lb}, {P, LP} and so on.
+template <class... Columnas>
+void PonerCargas(std::int16_t& cantidad, const Filas& filas, Columnas&... columnas) {
+    Llenar(
+        cantidad, filas, [](auto& col, long k) -> auto& { return col(1, k); }, columnas...);
+}
+
 inline std::vector<CasoCarga> CasosCarga() {
     return {
         {"Uniforme", [](auto& v) { v.W1(1) = 1800; }, {{0, LCarga, 1800, 1800}}, {}},
         {"Puntuales",
          [](auto& v) {
-             v.CantW2(1) = 3;
-             v.P(1, 1) = 4000;
-             v.LP(1, 1) = 1.2;
-             v.P(1, 2) = -1500;
-             v.LP(1, 2) = 3.75;
-             v.P(1, 3) = 2500;
-             v.LP(1, 3) = 6.9;
+             PonerCargas(v.CantW2(1), {{4000, 1.2}, {-1500, 3.75}, {2500, 6.9}}, v.P, v.LP);
          },
          {},
          {{4000, 1.2}, {-1500, 3.75}, {2500, 6.9}}},
         {"Parciales",
          [](auto& v) {
-             v.CantW3(1) = 2;
-             v.W3_(1, 1) = 900;
-             v.La3_(1, 1) = 0.5;
-             v.Lb3_(1, 1) = 3;
-             v.W3_(1, 2) = 1300;
-             v.La3_(1, 2) = 2;
-             v.Lb3_(1, 2) = 7.5;
+             PonerCargas(v.CantW3(1), {{900, 0.5, 3}, {1300, 2, 7.5}}, v.W3_, v.La3_, v.Lb3_);
          },
          {{0.5, 3, 900, 900}, {2, 7.5, 1300, 1300}},
          {}},
@@ -74,40 +69,20 @@ inline std::vector<CasoCarga> CasosCarga() {
          {}},
         {"TriangularDerecha",
          [](auto& v) {
-             v.CantW6(1) = 2;
-             v.W6_(1, 1) = 1700;
-             v.La6_(1, 1) = 1;
-             v.Lb6_(1, 1) = 4;
-             v.W6_(1, 2) = 600;
-             v.La6_(1, 2) = 0;
-             v.Lb6_(1, 2) = LCarga;
+             PonerCargas(v.CantW6(1), {{1700, 1, 4}, {600, 0, LCarga}}, v.W6_, v.La6_, v.Lb6_);
          },
          {{1, 4, 0, 1700}, {0, LCarga, 0, 600}},
          {}},
         {"TriangularIzquierda",
          [](auto& v) {
-             v.CantW7(1) = 1;
-             v.W7_(1, 1) = 2100;
-             v.La7_(1, 1) = 2.5;
-             v.Lb7_(1, 1) = 6;
+             PonerCargas(v.CantW7(1), {{2100, 2.5, 6}}, v.W7_, v.La7_, v.Lb7_);
          },
          {{2.5, 6, 2100, 0}},
          {}},
         {"Trapecio2",
          [](auto& v) {
-             v.CantW8(1) = 3;
-             v.WIzq8_(1, 1) = 500;
-             v.WDer8_(1, 1) = 1900;
-             v.La8_(1, 1) = 0.5;
-             v.Lb8_(1, 1) = 5;
-             v.WIzq8_(1, 2) = 2200;
-             v.WDer8_(1, 2) = 800;
-             v.La8_(1, 2) = 3;
-             v.Lb8_(1, 2) = 7;
-             v.WIzq8_(1, 3) = 700;
-             v.WDer8_(1, 3) = 700;
-             v.La8_(1, 3) = 1;
-             v.Lb8_(1, 3) = 2;
+             PonerCargas(v.CantW8(1), {{500, 1900, 0.5, 5}, {2200, 800, 3, 7}, {700, 700, 1, 2}},
+                         v.WIzq8_, v.WDer8_, v.La8_, v.Lb8_);
          },
          {{0.5, 5, 500, 1900}, {3, 7, 2200, 800}, {1, 2, 700, 700}},
          {}},

@@ -54,16 +54,25 @@ inline VigaActual VigaRecta(std::vector<double> luces, double b = 0.3, double h 
 // One row per listed joint: the joint, then the values of the list's other columns.
 using Filas = std::vector<std::vector<double>>;
 
-template <class... Columnas>
-void PonerLista(std::int16_t& cantidad, const Filas& filas, Columnas&... columnas) {
+// Sets the count and fills, for each row, one cell of every column: celda(columna, k).
+template <class Celda, class... Columnas>
+void Llenar(std::int16_t& cantidad, const Filas& filas, Celda celda, Columnas&... columnas) {
     cantidad = static_cast<std::int16_t>(filas.size());
-    (columnas.Redim(cantidad), ...);
     for (long k = 1; k <= cantidad; ++k) {
         std::size_t c = 0;
         const auto& fila = filas[static_cast<std::size_t>(k - 1)];
-        ((columnas(k) = static_cast<std::remove_reference_t<decltype(columnas(k))>>(fila[c++])),
+        ((celda(columnas, k) =
+              static_cast<std::remove_reference_t<decltype(celda(columnas, k))>>(fila[c++])),
          ...);
     }
+}
+
+// A list of joints: the columns are sized to the rows.
+template <class... Columnas>
+void PonerLista(std::int16_t& cantidad, const Filas& filas, Columnas&... columnas) {
+    (columnas.Redim(static_cast<long>(filas.size())), ...);
+    Llenar(
+        cantidad, filas, [](auto& col, long k) -> auto& { return col(k); }, columnas...);
 }
 // {joint, support kind}
 inline void PonerApoyos(VigaActual& v, const Filas& f) {
