@@ -2,7 +2,6 @@
 // and continuous with the end forces of the analysis at the right end.
 
 #include <cmath>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -17,35 +16,19 @@ namespace {
 
 using namespace prueba;
 
-// Moment about x and sum of the loads to the left of x (a point load counts at x itself).
-void CargasALaIzquierda(const CasoCarga& caso, double x, double& SM, double& SV) {
-    SM = SV = 0;
-    const double nodos[3] = {-std::sqrt(0.6), 0, std::sqrt(0.6)};
-    const double pesos[3] = {5.0 / 9, 8.0 / 9, 5.0 / 9};
-    for (const Pieza& p : caso.piezas) {
-        const double hasta = std::min(x, p.x1);
-        if (hasta <= p.x0) continue;
-        const double mitad = (hasta - p.x0) / 2, centro = (p.x0 + hasta) / 2;
-        for (int i = 0; i < 3; ++i) {
-            const double xi = centro + mitad * nodos[i];
-            const double q = p.q0 + (p.q1 - p.q0) * (xi - p.x0) / (p.x1 - p.x0);
-            SM += q * (x - xi) * pesos[i] * mitad;
-            SV += q * pesos[i] * mitad;
-        }
-    }
-    for (const Puntual& p : caso.puntuales)
-        if (x >= p.x) {
-            SM += p.P * (x - p.x);
-            SV += p.P;
-        }
-}
-
-ResultadosViga Resolver(VigaActual& v, std::initializer_list<ApoyoPrueba> apoyos) {
+ResultadosViga Resolver(VigaActual& v, const Filas& apoyos) {
     ProyectoActual p = ProyectoPrueba();
     PonerApoyos(v, apoyos);
     ResultadosViga r;
     AnalizarViga({}, p, v, r);
     return r;
+}
+
+void VerificarContinuidad(const VigaActual& v, const ResultadosViga& r, const char* caso) {
+    double M = 0, V = 0;
+    CorteMomentoTramo(v, r, 1, 0, r.LBarra(1), r.LBarra(1), r.CosX(1), r.CosY(1), M, V);
+    EXPECT_NEAR(M, r.MomJ(1), 1e-9 * std::fabs(r.MomJ(1))) << caso;
+    EXPECT_NEAR(V, -r.CorJ(1), 1e-9 * std::fabs(r.CorJ(1))) << caso;
 }
 
 class CortePorTipo : public ::testing::TestWithParam<CasoCarga> {};
@@ -58,16 +41,16 @@ TEST_P(CortePorTipo, EstacionesYContinuidad) {
     const double escala = 5000 * LCarga * LCarga;
     for (int k = 0; k <= 40; ++k) {
         const double x = LCarga * k / 40;
-        double M = 0, V = 0, SM, SV;
+        double M = 0, V = 0, SM = 0, SV = 0;
         CorteMomentoTramo(v, r, 1, 0, LCarga, x, 1, 0, M, V);
-        CargasALaIzquierda(caso, x, SM, SV);
+        IntegrarCarga(caso, x, [&](double xi, double q) {
+            SM += q * (x - xi);
+            SV += q;
+        });
         EXPECT_NEAR(M, r.CorI(1) * x + r.MomI(1) - SM, 1e-12 * escala) << "x = " << x;
         EXPECT_NEAR(V, r.CorI(1) - SV, 1e-12 * escala) << "x = " << x;
     }
-    double M = 0, V = 0;
-    CorteMomentoTramo(v, r, 1, 0, LCarga, LCarga, 1, 0, M, V);
-    EXPECT_NEAR(M, r.MomJ(1), 1e-9 * std::fabs(r.MomJ(1)));
-    EXPECT_NEAR(V, -r.CorJ(1), 1e-9 * std::fabs(r.CorJ(1)));
+    VerificarContinuidad(v, r, "horizontal");
 }
 
 INSTANTIATE_TEST_SUITE_P(Cargas, CortePorTipo, ::testing::ValuesIn(CasosCarga()),
@@ -86,50 +69,30 @@ TEST(CorteMomentoTramo, ContinuidadEnTramoInclinado) {
             PonerDesplazadas(v, {{2, 0, LCarga * 0.75}});
             const ResultadosViga r = Resolver(v, {{1, Empotramiento}, {3, ApoyoFijo}});
             ASSERT_DOUBLE_EQ(r.CosX(1), 0.8);
-            double M = 0, V = 0;
-            CorteMomentoTramo(v, r, 1, 0, r.LBarra(1), r.LBarra(1), r.CosX(1), r.CosY(1), M, V);
-            EXPECT_NEAR(M, r.MomJ(1), 1e-9 * std::fabs(r.MomJ(1))) << caso.nombre;
-            EXPECT_NEAR(V, -r.CorJ(1), 1e-9 * std::fabs(r.CorJ(1))) << caso.nombre;
+            VerificarContinuidad(v, r, caso.nombre.c_str());
         }
     }
 }
 
-// At x = 0 the end forces come back exactly, whatever the loads; a point load at 0 is
-// already counted there.
-TEST(CorteMomentoTramo, InicioDelTramo) {
-    for (const CasoCarga& caso : CasosCarga()) {
-        VigaActual v = VigaRecta({LCarga});
-        caso.cargar(v);
-        const ResultadosViga r = Resolver(v, {{1, Empotramiento}, {2, ApoyoFijo}});
-        double M = 1, V = 1;
-        CorteMomentoTramo(v, r, 1, 0, LCarga, 0, 1, 0, M, V);
-        EXPECT_EQ(M, r.MomI(1)) << caso.nombre;
-        EXPECT_EQ(V, r.CorI(1)) << caso.nombre;
-    }
+// A point load at x = 0 is already counted there; a load of no length (La6_ = Lb6_) adds
+// nothing and divides nothing by zero; W5 with la5 = 0 is a plain rectangle.
+TEST(CorteMomentoTramo, CargasEnElBorde) {
     VigaActual v = VigaRecta({LCarga});
     v.CantW2(1) = 1;
     v.P(1, 1) = 2000;
     v.LP(1, 1) = 0;
-    const ResultadosViga r = Resolver(v, {{1, ApoyoFijo}, {2, ApoyoFijo}});
-    double M = 0, V = 0;
-    CorteMomentoTramo(v, r, 1, 0, LCarga, 0, 1, 0, M, V);
-    EXPECT_EQ(V, r.CorI(1) - 2000);
-    EXPECT_EQ(M, r.MomI(1));
-}
-
-// A load with La6_ = Lb6_ has no length: nothing is added and nothing is divided by zero.
-TEST(CorteMomentoTramo, CargaDeLongitudNula) {
-    VigaActual v = VigaRecta({LCarga});
     v.CantW6(1) = 1;
     v.W6_(1, 1) = 1000;
     v.La6_(1, 1) = 2;
     v.Lb6_(1, 1) = 2;
-    v.W5(1) = 800; // la5 = 0: a plain rectangle, nothing rises at x = 0
+    v.W5(1) = 800;
     const ResultadosViga r = Resolver(v, {{1, ApoyoFijo}, {2, ApoyoFijo}});
     for (double x : {0.0, 2.0, 3.0}) {
         double M = 0, V = 0;
         CorteMomentoTramo(v, r, 1, 0, LCarga, x, 1, 0, M, V);
-        EXPECT_NEAR(V, r.CorI(1) - 800 * x, 1e-9 * 800 * LCarga);
+        EXPECT_NEAR(V, r.CorI(1) - 2000 - 800 * x, 1e-9 * 800 * LCarga) << "x = " << x;
+        EXPECT_NEAR(M, r.MomI(1) + (r.CorI(1) - 2000) * x - 400 * x * x, 1e-9 * 800 * LCarga)
+            << "x = " << x;
     }
 }
 

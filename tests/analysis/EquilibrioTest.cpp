@@ -25,18 +25,12 @@ struct Balance {
         M += y * Fx - x * Fy;
         magnitud += std::fabs(Fx) + std::fabs(Fy);
     }
-    void Momento(double m) { M += m; }
 };
 
-// Resultant of the loads of a level span and its moment about the span's left joint,
-// from the shapes of the loads alone.
-void CargasDelTramo(const ProyectoActual& p, const VigaActual& v, long t, double& F, double& Mx) {
+// The loads of a level span from their shapes alone, each resultant at its centroid.
+void CargasDelTramo(const ProyectoActual& p, const VigaActual& v, double x0, long t, Balance& b) {
     const double L = v.LT(t);
-    F = Mx = 0;
-    const auto fuerza = [&](double f, double x) {
-        F += f;
-        Mx += f * x;
-    };
+    const auto fuerza = [&](double f, double x) { b.Fuerza(x0 + x, 0, 0, f); };
     fuerza((v.W1(t) + PesoPropioTramo(p, v, static_cast<std::int16_t>(t))) * L, L / 2);
     for (long k = 1; k <= v.CantW2(t); ++k) fuerza(v.P(t, k), v.LP(t, k));
     for (long k = 1; k <= v.CantW3(t); ++k) {
@@ -61,76 +55,45 @@ void CargasDelTramo(const ProyectoActual& p, const VigaActual& v, long t, double
     }
 }
 
-void SumarAccionesYReacciones(const VigaActual& v, const ResultadosViga& r, Balance& b) {
-    for (long k = 1; k <= v.NAcc; ++k) {
-        const long n = v.R2(k);
-        b.Fuerza(r.XJunta(n), r.YJunta(n), -v.QC3(k), v.QC2(k));
-        b.Momento(-v.QC1(k));
-    }
-    for (long n = 1; n <= r.NJuntas; ++n) {
-        b.Fuerza(r.XJunta(n), r.YJunta(n), -r.ReacH(n), -r.ReacV(n));
-        b.Momento(r.ReacM(n));
-    }
-}
-
-void VerificarBalance(const Balance& b, double largo, int caso) {
-    const double tol = 1e-9 * b.magnitud;
-    EXPECT_NEAR(b.FX, 0, tol) << "caso " << caso;
-    EXPECT_NEAR(b.FY, 0, tol) << "caso " << caso;
-    EXPECT_NEAR(b.M, 0, tol * largo) << "caso " << caso;
-}
-
-// Level beams, with vertical springs at free joints: the loads come from their shapes.
-TEST(Equilibrio, VigasHorizontales) {
-    GeneradorVigas gen(7);
-    for (int caso = 0; caso < 200; ++caso) {
-        ProyectoActual p = gen.Proyecto();
-        const VigaActual v = gen.Viga({.inclinadas = false,
-                                       .resortes = true,
-                                       .apoyosLibres = false,
-                                       .momentosLibres = false,
-                                       .areasNulas = false});
-        ResultadosViga r;
-        AnalizarViga({}, p, v, r);
-        Balance b;
-        for (long t = 1; t <= v.NT; ++t) {
-            double F, Mx;
-            CargasDelTramo(p, v, t, F, Mx);
-            // The resultant F acts at Mx / F from the left joint.
-            b.FY += F;
-            b.M -= Mx + F * r.XJunta(t);
-            b.magnitud += std::fabs(F);
-        }
-        SumarAccionesYReacciones(v, r, b);
-        VerificarBalance(b, r.XJunta(r.NJuntas), caso);
-    }
-}
-
 // Inclined spans: the loads enter as the equivalent joint loads of each bar.
-TEST(Equilibrio, VigasConJuntasDesplazadas) {
-    GeneradorVigas gen(11);
-    for (int caso = 0; caso < 200; ++caso) {
-        ProyectoActual p = gen.Proyecto();
-        const VigaActual v = gen.Viga({.inclinadas = true,
-                                       .resortes = false,
-                                       .apoyosLibres = false,
-                                       .momentosLibres = false,
-                                       .areasNulas = false});
-        ResultadosViga r;
-        AnalizarViga({}, p, v, r);
-        Balance b;
-        for (long t = 1; t <= v.NT; ++t) {
-            const double c = r.CosX(t), s = r.CosY(t);
-            FuerzasExtremos f;
-            FuerzasEmpotramientoTramo(p, v, static_cast<std::int16_t>(t), r.LBarra(t), s, c, f);
-            const long i = r.JuntaI(t), j = r.JuntaJ(t);
-            b.Fuerza(r.XJunta(i), r.YJunta(i), c * f.NI - s * f.VI, s * f.NI + c * f.VI);
-            b.Momento(-f.MI);
-            b.Fuerza(r.XJunta(j), r.YJunta(j), c * f.NJ - s * f.VJ, s * f.NJ + c * f.VJ);
-            b.Momento(f.MJ);
+void CargasDeBarra(const ProyectoActual& p, const VigaActual& v, const ResultadosViga& r, long t,
+                   Balance& b) {
+    const double c = r.CosX(t), s = r.CosY(t);
+    FuerzasExtremos f;
+    FuerzasEmpotramientoTramo(p, v, static_cast<std::int16_t>(t), r.LBarra(t), s, c, f);
+    const long i = r.JuntaI(t), j = r.JuntaJ(t);
+    b.Fuerza(r.XJunta(i), r.YJunta(i), c * f.NI - s * f.VI, s * f.NI + c * f.VI);
+    b.Fuerza(r.XJunta(j), r.YJunta(j), c * f.NJ - s * f.VJ, s * f.NJ + c * f.VJ);
+    b.M += f.MJ - f.MI;
+}
+
+// Level beams with vertical springs at free joints, then beams with displaced joints.
+TEST(Equilibrio, ReaccionesContraCargas) {
+    for (const bool inclinadas : {false, true}) {
+        GeneradorVigas gen(inclinadas ? 11 : 7);
+        for (int caso = 0; caso < 200; ++caso) {
+            ProyectoActual p = gen.Proyecto();
+            const VigaActual v =
+                gen.Viga({.inclinadas = inclinadas, .resortes = !inclinadas, .libre = false});
+            ResultadosViga r;
+            AnalizarViga({}, p, v, r);
+            Balance b;
+            for (long t = 1; t <= v.NT; ++t)
+                inclinadas ? CargasDeBarra(p, v, r, t, b) : CargasDelTramo(p, v, r.XJunta(t), t, b);
+            for (long k = 1; k <= v.NAcc; ++k) {
+                const long n = v.R2(k);
+                b.Fuerza(r.XJunta(n), r.YJunta(n), -v.QC3(k), v.QC2(k));
+                b.M -= v.QC1(k);
+            }
+            for (long n = 1; n <= r.NJuntas; ++n) {
+                b.Fuerza(r.XJunta(n), r.YJunta(n), -r.ReacH(n), -r.ReacV(n));
+                b.M += r.ReacM(n);
+            }
+            const double tol = 1e-9 * b.magnitud;
+            EXPECT_NEAR(b.FX, 0, tol) << "caso " << caso << (inclinadas ? " inclinada" : "");
+            EXPECT_NEAR(b.FY, 0, tol) << "caso " << caso << (inclinadas ? " inclinada" : "");
+            EXPECT_NEAR(b.M, 0, tol * r.XJunta(r.NJuntas)) << "caso " << caso;
         }
-        SumarAccionesYReacciones(v, r, b);
-        VerificarBalance(b, r.XJunta(r.NJuntas), caso);
     }
 }
 

@@ -1,9 +1,8 @@
 // The band solve against the literal elimination over the full width of the matrix
 // (band width 3 (NJuntas + 1), rows beyond the last equation that only absorb arithmetic,
-// the zero pivot replaced inside the loop), and the reactions against a walk over every
-// pair of the four passes. Over many random beams the results must be the same bit for bit.
+// the zero pivot replaced inside the loop). Over many random beams the results must be the
+// same bit for bit.
 
-#include <cstdint>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -55,104 +54,32 @@ void ResolverAnchoCompleto(SistemaBanda& sis) {
     for (long r = 1; r <= NEq; ++r) sis.X(r) = x(r);
 }
 
-// Every result list of the two runs, field by field.
-void CompararBits(const ResultadosViga& a, const ResultadosViga& b, int caso) {
-    EXPECT_EQ(a.NJuntas, b.NJuntas) << "caso " << caso;
-    for (const auto& [nombre, campo] : kCamposResultado)
-        EXPECT_TRUE(MismosBits(a.*campo, b.*campo)) << nombre << ", caso " << caso;
-}
-
-// The four reaction passes walked over every pair, as written.
-void ReaccionesLiterales(const VigaActual& v, ResultadosViga& r) {
-    r.ReacV.Redim(r.NJuntas);
-    r.ReacH.Redim(r.NJuntas);
-    r.ReacM.Redim(r.NJuntas);
-    const auto rest = [&](long k, int eje) {
-        const int a = v.Apoyo(k);
-        if (a < 1 || a > 4) return false;
-        const bool tabla[4][3] = {{1, 1, 0}, {0, 1, 0}, {1, 0, 0}, {1, 1, 1}};
-        return tabla[a - 1][eje];
-    };
-    enum { X, Y, Z };
-    for (long t = 1; t <= v.NT; ++t)
-        for (long k = 1; k <= v.NJRest; ++k) {
-            const long n = v.R1(k);
-            if (n == r.JuntaI(t) && rest(k, Y))
-                r.ReacV(n) += r.AxiI(t) * r.CosY(t) + r.CorI(t) * r.CosX(t);
-            if (n == r.JuntaI(t) && rest(k, X))
-                r.ReacH(n) += r.AxiI(t) * r.CosX(t) - r.CorI(t) * r.CosY(t);
-            if (n == r.JuntaI(t) && rest(k, Z)) r.ReacM(n) -= r.MomI(t);
-            if (n == r.JuntaJ(t) && rest(k, Y))
-                r.ReacV(n) += -r.AxiJ(t) * r.CosY(t) + r.CorJ(t) * r.CosX(t);
-            if (n == r.JuntaJ(t) && rest(k, X))
-                r.ReacH(n) += -r.AxiJ(t) * r.CosX(t) - r.CorJ(t) * r.CosY(t);
-            if (n == r.JuntaJ(t) && rest(k, Z)) r.ReacM(n) += r.MomJ(t);
-        }
-    for (long a = 1; a <= v.NAcc; ++a)
-        for (long k = 1; k <= v.NJRest; ++k) {
-            const long n = v.R1(k);
-            if (n != v.R2(a)) continue;
-            if (rest(k, Y)) r.ReacV(n) += v.QC2(a);
-            if (rest(k, X)) r.ReacH(n) -= v.QC3(a);
-        }
-    if (v.NJRes > 0) {
-        for (long t = 1; t <= v.NT; ++t)
-            for (long k = 1; k <= v.NJRes; ++k) {
-                const long n = v.R10(k);
-                if (n == r.JuntaI(t) && v.SV10(k) > 0)
-                    r.ReacV(n) += -r.AxiI(t) * r.CosY(t) + r.CorI(t) * r.CosX(t);
-                if (n == r.JuntaI(t) && v.SH10(k) > 0)
-                    r.ReacH(n) += -r.AxiI(t) * r.CosX(t) - r.CorI(t) * r.CosY(t);
-                if (n == r.JuntaI(t) && v.SM10(k) > 0) r.ReacM(n) -= r.MomI(t);
-                if (n == r.JuntaJ(t) && v.SV10(k) > 0)
-                    r.ReacV(n) += r.AxiJ(t) * r.CosY(t) + r.CorJ(t) * r.CosX(t);
-                if (n == r.JuntaJ(t) && v.SH10(k) > 0)
-                    r.ReacH(n) += r.AxiJ(t) * r.CosX(t) - r.CorJ(t) * r.CosY(t);
-                if (n == r.JuntaJ(t) && v.SM10(k) > 0) r.ReacM(n) += r.MomJ(t);
-            }
-        for (long a = 1; a <= v.NAcc; ++a)
-            for (long k = 1; k <= v.NJRes; ++k) {
-                const long n = v.R10(k);
-                if (n != v.R2(a)) continue;
-                if (v.SV10(k) > 0) r.ReacV(n) += v.QC2(a);
-                if (v.SH10(k) == 1.0) r.ReacH(n) -= v.QC3(a);
-            }
-    }
-}
-
 TEST(SolucionBanda, IgualBitABitAlAnchoCompleto) {
     GeneradorVigas gen(20261121);
-    int resueltas = 0, fallidas = 0;
+    int resueltas = 0;
     for (int caso = 0; caso < 400; ++caso) {
         ProyectoActual p = gen.Proyecto();
         const VigaActual v = gen.Viga({});
         ResultadosViga banda, completo;
-        long errBanda = 0, errCompleto = 0;
-        try {
-            AnalizarViga({}, p, v, banda);
-        } catch (const ErrorTrevalo& e) {
-            errBanda = e.Numero();
-        }
-        try {
-            AnalizarViga({}, p, v, completo, ResolverAnchoCompleto);
-        } catch (const ErrorTrevalo& e) {
-            errCompleto = e.Numero();
-        }
+        const auto numeroError = [&](auto correr) {
+            try {
+                correr();
+            } catch (const ErrorTrevalo& e) {
+                return e.Numero();
+            }
+            return 0L;
+        };
+        const auto errBanda = numeroError([&] { AnalizarViga({}, p, v, banda); });
+        const auto errCompleto =
+            numeroError([&] { AnalizarViga({}, p, v, completo, ResolverAnchoCompleto); });
         ASSERT_EQ(errBanda, errCompleto) << "caso " << caso;
-        if (errBanda != 0) {
-            ++fallidas;
-            continue;
-        }
+        if (errBanda != 0) continue;
         ++resueltas;
-        CompararBits(banda, completo, caso);
-        ResultadosViga literal = banda;
-        ReaccionesLiterales(v, literal);
-        CompararBits(banda, literal, caso);
+        EXPECT_STREQ(PrimeraDiferencia(banda, completo), nullptr) << "caso " << caso;
     }
     // The random beams are meant to solve: a generator that only made faults would prove
     // nothing.
     EXPECT_GT(resueltas, 350);
-    EXPECT_LT(fallidas, 50);
 }
 
 TEST(SolucionBanda, SistemaPequenoConocido) {

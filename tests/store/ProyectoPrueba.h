@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "CarpetaPrueba.h"
 #include "store/BaseDatos.h"
 
 namespace trevalo::prueba {
@@ -21,7 +22,6 @@ namespace trevalo::prueba {
 class ProyectoPrueba : public ::testing::Test {
   protected:
     void SetUp() override;
-    void TearDown() override;
 
     // Saves a beam as new under its name; fails the test on a message.
     void Guardar(VigaActual& v);
@@ -29,8 +29,7 @@ class ProyectoPrueba : public ::testing::Test {
     void Posicionar(const std::string& nombre);
     VigaActual Cargar(const std::string& nombre);
 
-    std::filesystem::path dir_;
-    std::filesystem::path archivo_;
+    CarpetaPrueba dir_; // outlives the open project
     EstadoProyecto estado_;
     struct Aviso {
         std::string texto, titulo;
