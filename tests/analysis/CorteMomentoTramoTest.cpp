@@ -5,11 +5,11 @@
 
 #include <gtest/gtest.h>
 
-#include "VerificaError.h"
 #include "analysis/AnalisisVigasP.h"
 #include "analysis/CargasPrueba.h"
 #include "analysis/CorteMomentoTramo.h"
 #include "analysis/VigasPrueba.h"
+#include "comun/Aserciones.h"
 
 namespace trevalo {
 namespace {

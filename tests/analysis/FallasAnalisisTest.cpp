@@ -7,9 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include "VerificaError.h"
 #include "analysis/AnalisisVigasP.h"
 #include "analysis/VigasPrueba.h"
+#include "comun/Aserciones.h"
 
 namespace trevalo {
 namespace {

@@ -6,11 +6,11 @@
 
 #include <gtest/gtest.h>
 
-#include "VerificaError.h"
 #include "analysis/CargasPrueba.h"
 #include "analysis/CorteMomentoTramo.h"
 #include "analysis/FuerzasEmpotramiento.h"
 #include "analysis/VigasPrueba.h"
+#include "comun/Aserciones.h"
 
 namespace trevalo {
 namespace {

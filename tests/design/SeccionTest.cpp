@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "design/AceroFlexion.h"
 #include "design/SeparacionEstribos.h"
 

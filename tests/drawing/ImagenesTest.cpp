@@ -8,10 +8,10 @@
 
 #include <filesystem>
 
-#include "AplicacionQtPrueba.h"
 #include "CompararImagenes.h"
 #include "VigasPrueba.h"
 #include "analysis/AnalisisVigasP.h"
+#include "comun/AplicacionQt.h"
 #include "drawing/Ploteos.h"
 #include "platform/LienzosArchivo.h"
 

@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "VerificaError.h"
 #include "VigasConResultados.h"
+#include "comun/Aserciones.h"
 #include "drawing/PlotearDiagramas.h"
 
 namespace trevalo::prueba {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "model/Arreglo.h"
 #include "model/Viga.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "model/Redondeo.h"
 
 using namespace trevalo;

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "BaseTemporal.h"
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "output/BaseInforme.h"
 #include "output/LlenarImpreDatos.h"
 #include "platform/MotorDatos.h"

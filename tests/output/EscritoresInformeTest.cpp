@@ -11,7 +11,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "output/EscritoresInforme.h"
 #include "output/GraficoPng.h"
 #include "output/PaginaInforme.h"

@@ -12,7 +12,7 @@
 
 #include <unistd.h>
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "platform/ImportadorJet.h"
 #include "platform/MotorDatos.h"
 

@@ -6,8 +6,8 @@
 #include <QFontInfo>
 #include <filesystem>
 
-#include "AplicacionQtPrueba.h"
-#include "VerificaError.h"
+#include "comun/AplicacionQt.h"
+#include "comun/Aserciones.h"
 #include "platform/LienzosArchivo.h"
 
 using namespace trevalo;

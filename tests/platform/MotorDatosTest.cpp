@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "platform/MotorDatos.h"
 
 namespace trevalo {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "CarpetaTemporal.h"
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "model/Viga.h"
 #include "profiles/ListaPerfiles.h"
 #include "profiles/TablaPerfiles.h"

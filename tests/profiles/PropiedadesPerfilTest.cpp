@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "profiles/PropiedadesPerfil.h"
 
 namespace trevalo {

@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "CarpetaTemporal.h"
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "platform/MotorDatos.h"
 #include "profiles/TablaPerfiles.h"
 

@@ -3,7 +3,7 @@
 
 #include "ProyectoPrueba.h"
 
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 
 namespace trevalo::prueba {
 namespace {

@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "CarpetaPrueba.h"
-#include "VerificaError.h"
+#include "comun/Aserciones.h"
 #include "store/Tapiz.h"
 
 namespace fs = std::filesystem;

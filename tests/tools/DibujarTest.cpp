@@ -4,9 +4,9 @@
 #include <QImage>
 #include <fstream>
 
-#include "AplicacionQtPrueba.h"
 #include "CalcPrueba.h"
 #include "app/tools/VigaJson.h"
+#include "comun/AplicacionQt.h"
 
 namespace trevalo::calc {
 namespace {

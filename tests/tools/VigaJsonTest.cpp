@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "VerificaError.h"
 #include "app/tools/VigaJson.h"
+#include "comun/Aserciones.h"
 
 namespace trevalo::calc {
 namespace {

@@ -1,0 +1,47 @@
+#pragma once
+// A fresh temporary folder for one test (mkdtemp, so tests that run side by side never
+// share one), removed with everything in it at the end; and whole files written and read.
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+
+namespace trevalo::prueba {
+
+class CarpetaTemporal {
+  public:
+    CarpetaTemporal() {
+        std::string plantilla =
+            (std::filesystem::temp_directory_path() / "trevalo_XXXXXX").string();
+        if (::mkdtemp(plantilla.data()) == nullptr) throw std::runtime_error("mkdtemp");
+        ruta_ = plantilla;
+    }
+    ~CarpetaTemporal() {
+        std::error_code ec;
+        std::filesystem::remove_all(ruta_, ec);
+    }
+    CarpetaTemporal(const CarpetaTemporal&) = delete;
+    CarpetaTemporal& operator=(const CarpetaTemporal&) = delete;
+
+    std::string operator/(const std::string& relativa) const { return (ruta_ / relativa).string(); }
+    std::string Ruta() const { return ruta_.string(); }
+
+  private:
+    std::filesystem::path ruta_;
+};
+
+inline void EscribirArchivo(const std::string& ruta, const std::string& contenido) {
+    std::filesystem::create_directories(std::filesystem::path(ruta).parent_path());
+    std::ofstream(ruta, std::ios::binary) << contenido;
+}
+
+inline std::string LeerArchivo(const std::string& ruta) {
+    std::ifstream archivo(ruta, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(archivo), std::istreambuf_iterator<char>());
+}
+
+} // namespace trevalo::prueba
