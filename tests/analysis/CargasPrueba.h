@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/VigasPrueba.h"
+#include "analysis/AnalisisPrueba.h"
 
 namespace trevalo::prueba {
 
@@ -16,76 +16,43 @@ namespace trevalo::prueba {
 struct Pieza {
     double x0, x1, q0, q1;
 };
-struct Puntual {
-    double P, x;
-};
 
 // Length of the horizontal test span, m.
 inline const double LCarga = 7.5;
 
+// A load of one kind on span 1, as its rows for PonerCargas, and the same load described as
+// straight pieces (point loads, kind 2, are their own description).
 struct CasoCarga {
     std::string nombre;
-    void (*cargar)(VigaActual&);
+    int tipo;
+    Filas filas;
     std::vector<Pieza> piezas;
-    std::vector<Puntual> puntuales;
 };
 
 inline void PrintTo(const CasoCarga& c, std::ostream* os) {
     *os << c.nombre;
 }
 
-// Loads of one kind on span 1, one row per load: {W, La, Lb}, {P, LP} and so on.
-template <class... Columnas>
-void PonerCargas(std::int16_t& cantidad, const Filas& filas, Columnas&... columnas) {
-    Llenar(
-        cantidad, filas, [](auto& col, long k) -> auto& { return col(1, k); }, columnas...);
-}
-
 inline std::vector<CasoCarga> CasosCarga() {
+    const double L = LCarga;
     return {
-        {"Uniforme", [](auto& v) { v.W1(1) = 1800; }, {{0, LCarga, 1800, 1800}}, {}},
-        {"Puntuales",
-         [](auto& v) {
-             PonerCargas(v.CantW2(1), {{4000, 1.2}, {-1500, 3.75}, {2500, 6.9}}, v.P, v.LP);
-         },
-         {},
-         {{4000, 1.2}, {-1500, 3.75}, {2500, 6.9}}},
+        {"Uniforme", 1, {{1800}}, {{0, L, 1800, 1800}}},
+        {"Puntuales", 2, {{4000, 1.2}, {-1500, 3.75}, {2500, 6.9}}, {}},
         {"Parciales",
-         [](auto& v) {
-             PonerCargas(v.CantW3(1), {{900, 0.5, 3}, {1300, 2, 7.5}}, v.W3_, v.La3_, v.Lb3_);
-         },
-         {{0.5, 3, 900, 900}, {2, 7.5, 1300, 1300}},
-         {}},
-        {"Triangular",
-         [](auto& v) { v.W4(1) = 2400; },
-         {{0, LCarga / 2, 0, 2400}, {LCarga / 2, LCarga, 2400, 0}},
-         {}},
+         3,
+         {{900, 0.5, 3}, {1300, 2, 7.5}},
+         {{0.5, 3, 900, 900}, {2, 7.5, 1300, 1300}}},
+        {"Triangular", 4, {{2400}}, {{0, L / 2, 0, 2400}, {L / 2, L, 2400, 0}}},
         {"Trapecio1",
-         [](auto& v) {
-             v.W5(1) = 2000;
-             v.la5(1) = 1.5;
-         },
-         {{0, 1.5, 0, 2000}, {1.5, LCarga - 1.5, 2000, 2000}, {LCarga - 1.5, LCarga, 2000, 0}},
-         {}},
-        {"TriangularDerecha",
-         [](auto& v) {
-             PonerCargas(v.CantW6(1), {{1700, 1, 4}, {600, 0, LCarga}}, v.W6_, v.La6_, v.Lb6_);
-         },
-         {{1, 4, 0, 1700}, {0, LCarga, 0, 600}},
-         {}},
-        {"TriangularIzquierda",
-         [](auto& v) {
-             PonerCargas(v.CantW7(1), {{2100, 2.5, 6}}, v.W7_, v.La7_, v.Lb7_);
-         },
-         {{2.5, 6, 2100, 0}},
-         {}},
+         5,
+         {{2000, 1.5}},
+         {{0, 1.5, 0, 2000}, {1.5, L - 1.5, 2000, 2000}, {L - 1.5, L, 2000, 0}}},
+        {"TriangularDerecha", 6, {{1700, 1, 4}, {600, 0, L}}, {{1, 4, 0, 1700}, {0, L, 0, 600}}},
+        {"TriangularIzquierda", 7, {{2100, 2.5, 6}}, {{2.5, 6, 2100, 0}}},
         {"Trapecio2",
-         [](auto& v) {
-             PonerCargas(v.CantW8(1), {{500, 1900, 0.5, 5}, {2200, 800, 3, 7}, {700, 700, 1, 2}},
-                         v.WIzq8_, v.WDer8_, v.La8_, v.Lb8_);
-         },
-         {{0.5, 5, 500, 1900}, {3, 7, 2200, 800}, {1, 2, 700, 700}},
-         {}},
+         8,
+         {{500, 1900, 0.5, 5}, {2200, 800, 3, 7}, {700, 700, 1, 2}},
+         {{0.5, 5, 500, 1900}, {3, 7, 2200, 800}, {1, 2, 700, 700}}},
     };
 }
 
@@ -103,8 +70,9 @@ template <class F> void IntegrarCarga(const CasoCarga& caso, double hasta, F sum
             sumar(x, (p.q0 + (p.q1 - p.q0) * (x - p.x0) / (p.x1 - p.x0)) * pesos[i] * mitad);
         }
     }
-    for (const Puntual& p : caso.puntuales)
-        if (hasta >= p.x) sumar(p.x, p.P);
+    if (caso.tipo == 2)
+        for (const auto& p : caso.filas)
+            if (hasta >= p[1]) sumar(p[1], p[0]);
 }
 
 } // namespace trevalo::prueba

@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/AnalisisPrueba.h"
 #include "analysis/AnalisisVigasP.h"
-#include "analysis/VigasPrueba.h"
 #include "comun/Aserciones.h"
 
 namespace trevalo {
@@ -75,9 +75,7 @@ std::vector<Falla> Fallas() {
         {"CargaEnBarraVertical",
          [](auto& v, auto&) {
              PonerDesplazadas(v, {{2, -4, 3}});
-             v.CantW2(1) = 1;
-             v.P(1, 1) = 100;
-             v.LP(1, 1) = 0;
+             PonerCargas(v, 1, 2, {{100, 0}});
          },
          11, kDiv},
     };
@@ -87,7 +85,7 @@ class FallasAnalisis : public ::testing::TestWithParam<Falla> {};
 
 TEST_P(FallasAnalisis, ErrorYResultadosVacios) {
     const Falla& falla = GetParam();
-    VigaActual v = VigaRecta({4, 5, 3});
+    VigaActual v = VigaDeTramos({4, 5, 3});
     ProyectoActual p = ProyectoPrueba();
     PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}, {4, RodilloEnX}});
     for (long t = 1; t <= v.NT; ++t) v.W1(t) = 1000;
@@ -108,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(Entradas, FallasAnalisis, ::testing::ValuesIn(Fallas())
 
 // Step 1 reads the settings at every run; a failure there clears the results as well.
 TEST(LecturaProyecto, CadaCorridaLeeLosAjustes) {
-    VigaActual v = VigaRecta({4});
+    VigaActual v = VigaDeTramos({4});
     PonerApoyos(v, {{1, ApoyoFijo}, {2, ApoyoFijo}});
     ProyectoActual p = ProyectoPrueba();
     int lecturas = 0;
@@ -132,7 +130,7 @@ TEST(LecturaProyecto, CadaCorridaLeeLosAjustes) {
 // Without supports the pivots fall to 1e-20 and the solve goes through without a message,
 // as it always did: the numbers are huge but finite.
 TEST(LecturaProyecto, MecanismoSinMensaje) {
-    VigaActual v = VigaRecta({4, 4});
+    VigaActual v = VigaDeTramos({4, 4});
     ProyectoActual p = ProyectoPrueba();
     for (long t = 1; t <= v.NT; ++t) v.W1(t) = 1000;
     ResultadosViga r;

@@ -7,9 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/AnalisisPrueba.h"
 #include "analysis/AnalisisVigasP.h"
 #include "analysis/CorteMomentoTramo.h"
-#include "analysis/VigasPrueba.h"
 
 namespace trevalo {
 namespace {
@@ -99,9 +99,7 @@ std::vector<Caso> Casos() {
         {"PuntualCentrada",
          {{1, ApoyoFijo}, {2, RodilloEnX}},
          [](auto& v, auto&) {
-             v.CantW2(1) = 1;
-             v.P(1, 1) = static_cast<std::int32_t>(Pc);
-             v.LP(1, 1) = L / 2;
+             PonerCargas(v, 1, 2, {{Pc, L / 2}});
          },
          {{&R::ReacV, 1, Pc / 2}, {&R::GiroZ, 1, -Pc * L * L / (16 * E * I)}}},
         {"ResorteVertical",
@@ -157,7 +155,7 @@ class FormasCerradas : public ::testing::TestWithParam<Caso> {};
 TEST_P(FormasCerradas, CoincidenConLaTeoria) {
     const Caso& caso = GetParam();
     const long tramos = caso.nombre == "DosTramosIguales" ? 2 : 1;
-    VigaActual v = VigaRecta(std::vector<double>(static_cast<std::size_t>(tramos), L));
+    VigaActual v = VigaDeTramos(std::vector<double>(static_cast<std::size_t>(tramos), L));
     ProyectoActual p = ProyectoPrueba();
     PonerApoyos(v, caso.apoyos);
     caso.preparar(v, p);
@@ -180,7 +178,7 @@ INSTANTIATE_TEST_SUITE_P(Vigas, FormasCerradas, ::testing::ValuesIn(Casos()),
 // A supported joint reads exactly zero, not the tiny residue of the penalty, and as a
 // positive zero.
 TEST(FormasCerradas, ApoyoSinResiduo) {
-    VigaActual v = VigaRecta({L, L});
+    VigaActual v = VigaDeTramos({L, L});
     ProyectoActual p = ProyectoPrueba();
     PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}, {3, Empotramiento}});
     Uniforme(v, p);
@@ -200,7 +198,7 @@ TEST(FormasCerradas, ApoyoSinResiduo) {
 TEST(FormasCerradas, TramoInclinado) {
     const double wi = 1000, H = 8, Li = 10, c = 0.8;
     for (std::uint8_t gravedad : {0, 1}) {
-        VigaActual v = VigaRecta({H});
+        VigaActual v = VigaDeTramos({H});
         ProyectoActual p = ProyectoPrueba();
         PonerDesplazadas(v, {{2, 0, -6}});
         PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}});

@@ -6,10 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/AnalisisPrueba.h"
 #include "analysis/CargasPrueba.h"
 #include "analysis/CorteMomentoTramo.h"
 #include "analysis/FuerzasEmpotramiento.h"
-#include "analysis/VigasPrueba.h"
 #include "comun/Aserciones.h"
 
 namespace trevalo {
@@ -36,9 +36,9 @@ class FuerzasPorTipo : public ::testing::TestWithParam<CasoCarga> {};
 
 TEST_P(FuerzasPorTipo, CoincidenConLaIntegracion) {
     const CasoCarga& caso = GetParam();
-    VigaActual v = VigaRecta({L});
+    VigaActual v = VigaDeTramos({L});
     ProyectoActual p = ProyectoPrueba();
-    caso.cargar(v);
+    PonerCargas(v, 1, caso.tipo, caso.filas);
     FuerzasExtremos f;
     FuerzasEmpotramientoTramo(p, v, 1, L, 0, 1, f);
     const FuerzasExtremos o = Integrar(caso);
@@ -58,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(Cargas, FuerzasPorTipo, ::testing::ValuesIn(CasosCarga(
 // Own weight: 0.25 x 0.5 x 2500 = 312.5 kgf/m, rounded to the even 312; steel by its area.
 // A load of kind 1 that cancels it leaves even an inclined span unloaded.
 TEST(PesoPropio, RedondeoAlPar) {
-    VigaActual v = VigaRecta({L}, 0.25, 0.5);
+    VigaActual v = VigaDeTramos({L}, 0.25, 0.5);
     ProyectoActual p = ProyectoPrueba();
     p.PesoConcreto = 2500;
     EXPECT_EQ(PesoPropioTramo(p, v, 1), 0); // PPV off
@@ -131,7 +131,7 @@ TEST(FETriangular, RedondeoDeIntensidad) {
 }
 
 TEST(FuerzasEmpotramiento, FallasDeGeometria) {
-    VigaActual v = VigaRecta({L});
+    VigaActual v = VigaDeTramos({L});
     ProyectoActual p = ProyectoPrueba();
     v.W1(1) = 100;
     FuerzasExtremos f;

@@ -5,7 +5,7 @@
 
 #include <random>
 
-#include "analysis/VigasPrueba.h"
+#include "analysis/AnalisisPrueba.h"
 
 namespace trevalo::prueba {
 
@@ -34,7 +34,7 @@ class GeneradorVigas {
     VigaActual Viga(const OpcionesAleatorias& op) {
         std::vector<double> luces(static_cast<std::size_t>(Entero(1, 30)));
         for (double& l : luces) l = Real(2, 8);
-        VigaActual v = VigaRecta(luces);
+        VigaActual v = VigaDeTramos(luces);
         v.OpcionConcreto = static_cast<std::uint8_t>(Entero(0, 2) == 0 ? 0 : Entero(1, 2));
         Tipos(v, op.libre);
         for (long t = 1; t <= v.NT; ++t) {

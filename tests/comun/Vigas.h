@@ -74,13 +74,24 @@ inline void PonerTipos(VigaActual& v, const Filas& f) {
     PonerLista(v.NTipos, f, v.B1, v.T1);
 }
 
-// The loads of one kind on span t, one row per load: kind 2 {P, LP}; kinds 3, 6 and 7
-// {W, La, Lb}; kind 8 {WIzq, WDer, La, Lb}. Kinds 1, 4 and 5 are one value a span.
+// The loads of one kind on span t, one row per load: kinds 1 and 4 {W}, kind 5 {W, la5}, each
+// one row at most; kind 2 {P, LP}; kinds 3, 6 and 7 {W, La, Lb}; kind 8 {WIzq, WDer, La, Lb}.
 inline void PonerCargas(VigaActual& v, long t, int tipo, const Filas& f) {
     const auto celda = [t](auto& col, long k) -> auto& {
         return col(t, k);
     };
+    const auto w = [&f](std::size_t c) { return f.empty() ? 0 : f[0][c]; };
     switch (tipo) {
+    case 1:
+        v.W1(t) = static_cast<std::int32_t>(w(0));
+        return;
+    case 4:
+        v.W4(t) = static_cast<std::int32_t>(w(0));
+        return;
+    case 5:
+        v.W5(t) = static_cast<std::int32_t>(w(0));
+        v.la5(t) = w(1);
+        return;
     case 2:
         return Llenar(v.CantW2(t), f, celda, v.P, v.LP);
     case 3:
@@ -92,7 +103,7 @@ inline void PonerCargas(VigaActual& v, long t, int tipo, const Filas& f) {
     case 8:
         return Llenar(v.CantW8(t), f, celda, v.WIzq8_, v.WDer8_, v.La8_, v.Lb8_);
     }
-    throw std::invalid_argument("kinds 2, 3, 6, 7 and 8 have slots");
+    throw std::invalid_argument("kinds of load go from 1 to 8");
 }
 
 } // namespace trevalo::prueba
