@@ -106,4 +106,14 @@ inline void PonerCargas(VigaActual& v, long t, int tipo, const Filas& f) {
     throw std::invalid_argument("kinds of load go from 1 to 8");
 }
 
+// Loads of several kinds and spans, each as for PonerCargas.
+struct Cargas {
+    long tramo;
+    int tipo;
+    Filas filas;
+};
+inline void PonerCargas(VigaActual& v, const std::vector<Cargas>& lista) {
+    for (const Cargas& c : lista) PonerCargas(v, c.tramo, c.tipo, c.filas);
+}
+
 } // namespace trevalo::prueba

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "VigasPrueba.h"
+#include "comun/Vigas.h"
 #include "drawing/LienzoGrabador.h"
 #include "drawing/Ploteos.h"
 #include "model/Redondeo.h"
@@ -59,8 +59,7 @@ VigaActual UnTramo() {
 
 TEST(Elevacion, ApoyoYLetraSiguenAlFactorDeSimbolo) {
     auto v = UnTramo();
-    AgregarApoyo(v, 1, ApoyoFijo);
-    AgregarApoyo(v, 2, RodilloEnX);
+    PonerApoyos(v, {{1, ApoyoFijo}, {2, RodilloEnX}});
     for (double zoom : {1.0, 2.0}) {
         const auto d = Plotear(v, zoom);
         const double k = zoom;
@@ -83,14 +82,13 @@ TEST(Elevacion, ApoyoYLetraSiguenAlFactorDeSimbolo) {
 
 TEST(Elevacion, CargasSeApilanComoSuTabla) {
     auto v = UnTramo();
-    v.W1(1) = 1000;
-    AgregarParcial(v, 1, 500, 1, 2);
-    v.W4(1) = 700;
-    v.W5(1) = 600;
-    v.la5(1) = 1;
-    AgregarTriangulo(v, 1, true, 400, 3, 4);
-    AgregarTrapecio(v, 1, 300, 300, 0.5, 4.5);
-    AgregarPuntual(v, 1, 2500, 2.5);
+    PonerCargas(v, {{1, 1, {{1000}}},
+                    {1, 3, {{500, 1, 2}}},
+                    {1, 4, {{700}}},
+                    {1, 5, {{600, 1}}},
+                    {1, 6, {{400, 3, 4}}},
+                    {1, 8, {{300, 300, 0.5, 4.5}}},
+                    {1, 2, {{2500, 2.5}}}});
     const auto d = Plotear(v);
     const auto& l = d.lienzo;
     // Kinds in order of painting, each lifted by the kinds before it on the span: the top
@@ -114,14 +112,14 @@ TEST(Elevacion, CargasSeApilanComoSuTabla) {
 
 TEST(Elevacion, TrapecioIgualUnaEtiquetaDistintoDosVerticales) {
     auto iguales = UnTramo();
-    AgregarTrapecio(iguales, 1, 800, 800, 1, 4);
+    PonerCargas(iguales, 1, 8, {{800, 800, 1, 4}});
     auto d = Plotear(iguales);
     const auto textos = d.lienzo.Textos();
     EXPECT_EQ(std::count(textos.begin(), textos.end(), "800"), 1);
     EXPECT_EQ(d.lienzo.BuscarTexto("800")->Angulo, 0);
 
     auto distintos = UnTramo();
-    AgregarTrapecio(distintos, 1, 800, 1200, 1, 4);
+    PonerCargas(distintos, 1, 8, {{800, 1200, 1, 4}});
     d = Plotear(distintos);
     ASSERT_NE(d.lienzo.BuscarTexto("1200"), nullptr);
     EXPECT_EQ(d.lienzo.BuscarTexto("800")->Angulo, 90);
@@ -134,8 +132,8 @@ TEST(Elevacion, TrapecioIgualUnaEtiquetaDistintoDosVerticales) {
 TEST(Elevacion, VerticeDeTrianguloDesplazaTreintaYCincoPixelesFijos) {
     // A 4 m span rising 3 m: sin 0.6, cos 0.8; 1000 * 0.35 / 7 = 50 px/m.
     auto v = VigaDeTramos({4});
-    AgregarDesplazamiento(v, 2, 0, 3);
-    AgregarTriangulo(v, 1, true, 900, 1, 3);
+    PonerDesplazadas(v, {{2, 0, 3}});
+    PonerCargas(v, 1, 6, {{900, 1, 3}});
     for (double zoom : {1.0, 2.0}) {
         const auto d = Plotear(v, zoom);
         const double e = 50 * zoom, k = zoom;
@@ -150,7 +148,7 @@ TEST(Elevacion, VerticeDeTrianguloDesplazaTreintaYCincoPixelesFijos) {
 
 TEST(Elevacion, TramoSinAnchoNoDibujaNada) {
     auto v = VigaDeTramos({2, 4});
-    AgregarDesplazamiento(v, 2, -2, 0); // joint 2 back over joint 1
+    PonerDesplazadas(v, {{2, -2, 0}}); // joint 2 back over joint 1
     v.W1(1) = 900;
     v.W1(2) = 600;
     const auto d = Plotear(v);
@@ -241,7 +239,7 @@ TEST(Elevacion, HojaDeDisenoCreceEnElReporteDeConcreto) {
 
 TEST(Elevacion, AccionesDeJunta) {
     auto v = UnTramo();
-    AgregarAccion(v, 2, -1500, 2000, 0);
+    PonerAcciones(v, {{2, -1500, 2000, 0}});
     for (bool juntas : {false, true}) {
         EstadoPloteos e;
         e.VerJuntas = juntas;

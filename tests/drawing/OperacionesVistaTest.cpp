@@ -5,7 +5,7 @@
 
 #include <set>
 
-#include "VigasPrueba.h"
+#include "comun/Vigas.h"
 #include "drawing/OperacionesVista.h"
 
 using namespace trevalo;

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "VigasPrueba.h"
+#include "comun/Vigas.h"
 #include "drawing/LienzoGrabador.h"
 #include "drawing/Ploteos.h"
 
@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Transformacion, AlturaDeJuntasDesplazadasRestaAncho) {
     // One span of 4 m whose right joint is lifted 1 m: extent 4 + 1, scale CI(350 / 5).
     auto viga = VigaDeTramos({4});
-    prueba::AgregarDesplazamiento(viga, 2, 0, 1);
+    prueba::PonerDesplazadas(viga, {{2, 0, 1}});
     LienzoGrabador lienzo(1000, 600);
     Redibujo r;
     r.Plotear(lienzo, viga);

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "comun/Vigas.h"
 #include "drawing/EstadoPloteos.h"
 #include "drawing/GeometriaPlot.h"
 #include "drawing/LienzoGrabador.h"
-#include "model/Viga.h"
 
 namespace trevalo::prueba {
 
@@ -27,13 +27,9 @@ struct CasoViga {
 inline CasoViga VigaUniforme(int tramos, double L, int w, double f) {
     CasoViga c;
     c.proyecto.PPV = false;
-    NuevaVigaDefecto(c.viga);
-    c.viga.NT = static_cast<std::int16_t>(tramos);
-    RedimensionarViga(c.viga);
+    c.viga = VigaDeTramos(std::vector<double>(static_cast<std::size_t>(tramos), L));
     c.viga.FMayoracion = f;
     for (long i = 1; i <= tramos; ++i) {
-        c.viga.LT(i) = L;
-        c.viga.VT(i) = 1;
         c.viga.W1(i) = w;
         c.viga.FMayorTramo(i) = f;
     }
