@@ -12,14 +12,15 @@
 
 #include <nlohmann/json.hpp>
 
-#include "../store/CarpetaPrueba.h"
 #include "analysis/AnalisisVigasP.h"
 #include "app/tools/Comandos.h"
+#include "comun/Carpeta.h"
 #include "store/BaseDatos.h"
 #include "store/CarpetasPrograma.h"
 
 namespace fs = std::filesystem;
 using namespace trevalo;
+using namespace trevalo::prueba;
 
 namespace {
 
@@ -212,7 +213,7 @@ TEST_F(EjemploDemostrativo, MuestraCadaRasgoDeUnaViga) {
 // The companion tool lists the sample's beams, and each exported, imported under a new
 // name and exported again is the same beam but for its name.
 TEST(EjemploConLaHerramienta, CadaVigaVaYVuelve) {
-    CarpetaPrueba tmp;
+    CarpetaTemporal tmp;
     const std::string proyecto = tmp / "Ejemplo.trv";
     fs::copy_file(Ejemplo, proyecto);
     const auto calc = [](const calc::Argumentos& args, std::string& salida) {
@@ -243,7 +244,7 @@ TEST(EjemploConLaHerramienta, CadaVigaVaYVuelve) {
 
 // The first start on the real installation copies the sample and every shipped table.
 TEST(InicioInstalado, CopiaLoQueLaInstalacionTrae) {
-    CarpetaPrueba tmp;
+    CarpetaTemporal tmp;
     fs::create_directories(tmp / "casa");
     EntornoInicio entorno{TREVALO_RUTA_PROGRAMA, tmp / "casa", tmp / "docs", std::locale()};
     CarpetasPrograma carpetas;

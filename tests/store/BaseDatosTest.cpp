@@ -232,18 +232,13 @@ TEST_F(Almacen, DatosDanadosDanElMensajeYLaVigaPorDefecto) {
         {"count of a missing slot", "UPDATE CargasTramos SET CantW2=CantW2+1", 94},
         {"type beyond 16 bits", "UPDATE GeneralViga SET NT=40000", 6},
     };
-    std::mt19937 azar(6);
     for (const auto& c : casos) {
         SCOPED_TRACE(c.descripcion);
         estado_.BDProyecto->Ejecutar("DELETE FROM GeneralViga");
-        std::set<long> conApoyo;
-        auto v = VigaAleatoria(azar, "D", false, conApoyo);
-        v.NT = 3;
-        ReiniciarArreglosViga(v);
-        v.NTipos = 1;
+        auto v = VigaDeTramos({3, 3, 3});
+        v.NombreVigaActual = "D";
         v.Designacion(1) = "x";
         for (long t = 1; t <= 3; ++t) {
-            v.LT(t) = 3;
             v.CantW2(t) = 2;
             v.CantW6(t) = 5;
         }

@@ -6,11 +6,12 @@
 #include <filesystem>
 #include <vector>
 
-#include "CarpetaPrueba.h"
+#include "comun/Carpeta.h"
 #include "store/CarpetasPrograma.h"
 
 namespace fs = std::filesystem;
 using namespace trevalo;
+using namespace trevalo::prueba;
 
 namespace {
 
@@ -46,7 +47,7 @@ class Inicio : public ::testing::Test {
 
     std::string Base() const { return tmp / "casa" + Datos; }
 
-    CarpetaPrueba tmp;
+    CarpetaTemporal tmp;
     EntornoInicio entorno;
     CarpetasPrograma carpetas;
 };

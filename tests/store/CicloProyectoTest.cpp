@@ -7,11 +7,12 @@
 #include <filesystem>
 #include <vector>
 
-#include "CarpetaPrueba.h"
+#include "comun/Carpeta.h"
 #include "store/CicloProyecto.h"
 
 namespace fs = std::filesystem;
 using namespace trevalo;
+using namespace trevalo::prueba;
 
 namespace {
 
@@ -72,7 +73,7 @@ class Ciclo : public ::testing::Test {
         return {false, tmp / (carpeta + "/" + nombre), nombre};
     }
 
-    CarpetaPrueba tmp;
+    CarpetaTemporal tmp;
     CarpetasPrograma carpetas;
     EstadoProyecto estado;
     PlataformaGuionada p;

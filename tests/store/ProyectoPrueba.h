@@ -12,7 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "CarpetaPrueba.h"
+#include "comun/Carpeta.h"
+#include "comun/Vigas.h"
 #include "store/BaseDatos.h"
 
 namespace trevalo::prueba {
@@ -29,7 +30,7 @@ class ProyectoPrueba : public ::testing::Test {
     void Posicionar(const std::string& nombre);
     VigaActual Cargar(const std::string& nombre);
 
-    CarpetaPrueba dir_; // outlives the open project
+    CarpetaTemporal dir_; // outlives the open project
     EstadoProyecto estado_;
     struct Aviso {
         std::string texto, titulo;

@@ -4,12 +4,13 @@
 
 #include <filesystem>
 
-#include "CarpetaPrueba.h"
 #include "comun/Aserciones.h"
+#include "comun/Carpeta.h"
 #include "store/Tapiz.h"
 
 namespace fs = std::filesystem;
 using namespace trevalo;
+using namespace trevalo::prueba;
 
 namespace {
 
@@ -31,7 +32,7 @@ class ArchivoTapiz : public ::testing::Test {
         return bytes;
     }
 
-    CarpetaPrueba tmp;
+    CarpetaTemporal tmp;
     CarpetasPrograma carpetas;
     std::string ruta;
 };
