@@ -1,17 +1,14 @@
 #pragma once
-// Runs trevalo-calc as its command line does, and gives each test a folder of its own
-// (ctest runs the tests side by side).
+// Runs trevalo-calc as its command line does, each test in a folder of its own (ctest runs
+// the tests side by side).
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
-#include <algorithm>
-#include <filesystem>
 #include <sstream>
 #include <string>
 
 #include "app/tools/Comandos.h"
+#include "comun/Carpeta.h"
 
 namespace trevalo::calc {
 
@@ -28,18 +25,9 @@ inline Salida Calc(const Argumentos& args) {
 
 class ConCarpeta : public ::testing::Test {
   protected:
-    void SetUp() override {
-        std::string prueba = ::testing::UnitTest::GetInstance()->current_test_info()->name();
-        std::replace(prueba.begin(), prueba.end(), '/', '_');
-        carpeta = std::filesystem::temp_directory_path() /
-                  ("trevalo_calc_" + std::to_string(::getpid()) + "_" + prueba);
-        std::filesystem::remove_all(carpeta);
-        std::filesystem::create_directories(carpeta);
-    }
-    void TearDown() override { std::filesystem::remove_all(carpeta); }
-    std::string Ruta(const std::string& nombre) const { return (carpeta / nombre).string(); }
+    std::string Ruta(const std::string& nombre) const { return tmp / nombre; }
 
-    std::filesystem::path carpeta;
+    prueba::CarpetaTemporal tmp;
 };
 
 } // namespace trevalo::calc

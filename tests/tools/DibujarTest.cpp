@@ -1,5 +1,5 @@
-// trevalo-calc dibujar on beam documents written for the test: the files it paints, their
-// size by mode, and its answers to bad command lines.
+// trevalo-calc dibujar on a beam document written for the test and on every beam of the
+// sample project: the files it paints and their size by mode.
 
 #include <QImage>
 #include <fstream>
@@ -15,7 +15,6 @@ namespace {
 class Dibujar : public ConCarpeta {
   protected:
     void SetUp() override {
-        ConCarpeta::SetUp();
         trevalo::prueba::AsegurarAplicacionQt();
         VigaActual v;
         NuevaVigaDefecto(v);
@@ -59,26 +58,6 @@ TEST_F(Dibujar, ArchivosVectoriales) {
         f.read(inicio.data(), 5);
         EXPECT_EQ(inicio, ext == "pdf" ? "%PDF-" : "<?xml");
     }
-}
-
-TEST_F(Dibujar, OrdenesMalFormadasYArchivosAusentes) {
-    const std::string v = Ruta("viga.json"), o = Ruta("x.png");
-    for (const auto& args : std::vector<Argumentos>{
-             {"dibujar", v, "--vista", "1"},          // no output
-             {"dibujar", v, "--vista", "5", "-o", o}, // no such view
-             {"dibujar", v, "--vista", "1", "--ancho", "0x", "-o", o},
-             {"dibujar", Ruta("p.trv"), "--vista", "1", "-o", o}, // a project needs a beam
-             {"dibujar", v, "--vista", "1", "-o", o, "--otra"}}) {
-        EXPECT_EQ(Ejecutar(args), 2);
-        EXPECT_NE(errores_.find("Uso: trevalo-calc dibujar"), std::string::npos);
-    }
-    for (const auto& args : std::vector<Argumentos>{
-             {"dibujar", Ruta("nada.json"), "--vista", "1", "-o", o},
-             {"dibujar", Ruta("nada.trv"), "--viga", "V", "--vista", "1", "-o", o}}) {
-        EXPECT_EQ(Ejecutar(args), 1);
-        EXPECT_EQ(errores_.rfind("Error 53: ", 0), 0u) << errores_;
-    }
-    EXPECT_FALSE(std::filesystem::exists(o));
 }
 
 TEST_F(Dibujar, CadaVigaDelEjemploEnCadaVista) {

@@ -1,11 +1,10 @@
 // trevalo-calc diseno: the station table of the design sheet as JSON.
 
-#include <fstream>
-
 #include <nlohmann/json.hpp>
 
 #include "CalcPrueba.h"
 #include "app/tools/VigaJson.h"
+#include "comun/Vigas.h"
 
 namespace trevalo::calc {
 namespace {
@@ -15,29 +14,12 @@ namespace {
 void EscribirViga(const std::string& ruta, std::uint8_t opcionConcreto) {
     ProyectoActual p;
     p.PPV = false;
-    VigaActual v;
-    NuevaVigaDefecto(v);
+    VigaActual v = opcionConcreto == 0 ? prueba::VigaDeTramos({4, 2.25})
+                                       : prueba::VigaDeTramos({4, 2.25}, 50, 8000);
     v.OpcionConcreto = opcionConcreto;
-    v.NT = 2;
-    RedimensionarViga(v);
-    v.LT(1) = 4.0;
-    v.LT(2) = 2.25;
-    if (opcionConcreto != 0) {
-        v.B1(1) = 50;
-        v.T1(1) = 8000;
-    }
-    v.NJRest = 3;
-    v.R1.Redim(3);
-    v.Apoyo.Redim(3);
-    for (long j = 1; j <= 3; ++j) {
-        v.R1(j) = static_cast<std::int16_t>(j);
-        v.Apoyo(j) = ApoyoFijo;
-        if (j < 3) {
-            v.VT(j) = 1;
-            v.W1(j) = 10000;
-        }
-    }
-    std::ofstream(ruta) << EscribirVigaJson(p, v).dump();
+    prueba::PonerApoyos(v, {{1, ApoyoFijo}, {2, ApoyoFijo}, {3, ApoyoFijo}});
+    v.W1(1) = v.W1(2) = 10000;
+    prueba::EscribirArchivo(ruta, EscribirVigaJson(p, v).dump());
 }
 
 using ComandoDiseno = ConCarpeta;
@@ -72,40 +54,6 @@ TEST_F(ComandoDiseno, VigaDeConcretoYDeAcero) {
     const auto& textos = j["tramos"][0]["estaciones"][0]["textos"];
     EXPECT_FALSE(textos.contains("E(3/8)")); // no concrete rows on a steel sheet
     EXPECT_TRUE(textos.contains("PROGRES"));
-}
-
-TEST_F(ComandoDiseno, ErroresDeUso) {
-    for (const auto& [args, codigo] : std::initializer_list<std::pair<Argumentos, int>>{
-             {{"diseno"}, 2},
-             {{"diseno", "a.json", "--estaciones", "2.5"}, 2},
-             {{"diseno", "/no/existe/viga.json"}, 1}}) {
-        const Salida r = Calc(args);
-        EXPECT_EQ(r.codigo, codigo) << args.size();
-        EXPECT_TRUE(r.salida.empty());
-        EXPECT_FALSE(r.errores.empty());
-    }
-}
-
-TEST_F(ComandoDiseno, VigasDelProyectoDeEjemplo) {
-    const std::string proyecto =
-        std::string(TREVALO_RUTA_PROGRAMA) + "/Imagen/Ejemplo Demostrativo.trv";
-    ASSERT_TRUE(std::filesystem::exists(proyecto)) << proyecto;
-    const Salida vigas = Calc({"vigas", proyecto});
-    ASSERT_EQ(vigas.codigo, 0) << vigas.errores;
-    std::istringstream lista(vigas.salida);
-    long cuantas = 0;
-    for (std::string nombre; std::getline(lista, nombre); ++cuantas) {
-        const Salida r = Calc({"diseno", proyecto, "--viga", nombre});
-        ASSERT_EQ(r.codigo, 0) << nombre << ": " << r.errores;
-        const auto j = nlohmann::json::parse(r.salida);
-        // Every span starts and ends on its joints: the distance from the nearer joint is 0.
-        for (const auto& tramo : j["tramos"]) {
-            EXPECT_EQ(tramo["estaciones"].front()["textos"]["PROGRES"], "0.00") << nombre;
-            EXPECT_EQ(tramo["estaciones"].back()["textos"]["PROGRES"], "0.00") << nombre;
-        }
-    }
-    EXPECT_GT(cuantas, 0);
-    EXPECT_EQ(Calc({"diseno", proyecto}).codigo, 2); // a project needs --viga
 }
 
 } // namespace

@@ -1,8 +1,7 @@
-// trevalo-calc informe: the whole road to each kind of file, and the clear refusals of a
-// project without beams, an unknown beam, an unwritable file and a wrong extension.
+// trevalo-calc informe: the whole road to each kind of file, for every beam or for one.
 
 #include "CalcPrueba.h"
-#include "output/ProyectoPrueba.h"
+#include "comun/Proyecto.h"
 
 namespace trevalo::calc {
 namespace {
@@ -12,9 +11,10 @@ namespace fs = std::filesystem;
 class InformeTest : public ConCarpeta {
   protected:
     void SetUp() override {
-        ConCarpeta::SetUp();
         proyecto = Ruta("Dos Vigas.trv");
-        CrearProyecto(proyecto, {VigaPrueba("V-1", 0), VigaPrueba("v-ñandú", 1)});
+        prueba::CrearProyecto(proyecto,
+                              {prueba::VigaPrueba("V-1", 0), prueba::VigaPrueba("v-ñandú", 1)},
+                              prueba::AjustesPrueba());
     }
     int Correr(Argumentos args) {
         args.insert(args.begin(), "informe");
@@ -43,35 +43,6 @@ TEST_F(InformeTest, OneBeamByItsNameInAnyCaseWithoutProgress) {
         << r.errores;
     EXPECT_NE(r.salida.find("2 páginas, 1 gráficos"), std::string::npos) << r.salida;
     EXPECT_EQ(r.errores.find("Exportando"), std::string::npos);
-}
-
-TEST_F(InformeTest, RefusalsAreClearAndNonZero) {
-    const auto vacio = Ruta("Vacio.trv");
-    CrearProyecto(vacio, {});
-    const auto pdf = Ruta("r.pdf");
-    struct Caso {
-        Argumentos args;
-        int codigo;
-        std::string mensaje;
-    };
-    const std::vector<Caso> casos = {
-        {{vacio, "-o", pdf}, 1, "El proyecto no tiene vigas: " + vacio + "\n"},
-        {{proyecto, "--viga", "V-9", "-o", pdf}, 1, "No existe la viga V-9 en el proyecto.\n"},
-        {{Ruta("falta.trv"), "-o", pdf}, 1, "No existe el proyecto: " + Ruta("falta.trv") + "\n"},
-        {{proyecto, "-o", (carpeta / "no hay" / "r.pdf").string()},
-         1,
-         "Error: 75\nError de acceso a la ruta o el archivo: " +
-             (carpeta / "no hay" / "r.pdf").string() + "\n"},
-        {{proyecto, "-o", Ruta("r.doc")},
-         2,
-         "El archivo de salida debe terminar en .pdf, .htm, .xlsx o .rtf: " + Ruta("r.doc") + "\n"},
-        {{proyecto}, 2, "Falta el proyecto o el archivo de salida (-o).\n"},
-    };
-    for (const auto& caso : casos) {
-        EXPECT_EQ(Correr(caso.args), caso.codigo) << caso.mensaje;
-        EXPECT_NE(r.errores.find(caso.mensaje), std::string::npos) << r.errores;
-    }
-    EXPECT_FALSE(fs::exists(pdf));
 }
 
 } // namespace

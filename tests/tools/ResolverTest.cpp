@@ -1,5 +1,4 @@
-// The command "resolver": a simply supported beam checked against its closed form, and the
-// answers to bad input (message on the error stream, non-zero exit).
+// The command "resolver": a simply supported beam checked against its closed form.
 
 #include <fstream>
 
@@ -71,57 +70,6 @@ TEST_F(Resolver, EstacionesPorDefectoYVigaDeAcero) {
     EXPECT_NEAR(est[30]["M"].get<double>(), 9000, 1e-6);
     EXPECT_FALSE(est[30].contains("AsInf")); // no concrete design on a steel beam
     EXPECT_FALSE(d.contains("Resumen"));
-}
-
-// The simple beam with one change.
-std::string Cambiada(const char* tabla, const char* columna, Json valor) {
-    Json v = VigaSimple();
-    v[tabla][0][columna] = std::move(valor);
-    return v.dump();
-}
-
-struct CasoMalo {
-    std::string args;    // separated by blanks; "@" stands for the written file
-    std::string archivo; // its content; "-" for no file
-    int codigo;
-    const char* mensaje; // start of the error text
-};
-
-class ResolverMal : public Resolver, public ::testing::WithParamInterface<CasoMalo> {};
-
-TEST_P(ResolverMal, MensajeYCodigo) {
-    const CasoMalo& k = GetParam();
-    Argumentos args;
-    std::istringstream palabras(k.args);
-    for (std::string a; palabras >> a;)
-        args.push_back(a != "@" ? a : k.archivo == "-" ? Ruta("falta.json") : Archivo(k.archivo));
-    const Salida r = Calc(args);
-    EXPECT_EQ(r.codigo, k.codigo);
-    EXPECT_EQ(r.salida, "");
-    EXPECT_EQ(r.errores.rfind(k.mensaje, 0), 0u) << r.errores;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Casos, ResolverMal,
-    ::testing::Values(CasoMalo{"resolver", "-", 2, "Uso: trevalo-calc resolver"},
-                      CasoMalo{"resolver @", "-", 1, "Error 53: No se puede abrir el archivo"},
-                      CasoMalo{"resolver @", "{\"GeneralProyecto\": ", 1,
-                               "Error 3343: El texto no es un JSON válido"},
-                      CasoMalo{"resolver @", Cambiada("Tramos", "LT", 0), 1, "Error 11: "},
-                      CasoMalo{"resolver @", Cambiada("Tramos", "VT", 3), 1,
-                               "Error 9: El subíndice está fuera del intervalo"},
-                      CasoMalo{"resolver @ --estaciones 0", "{}", 2,
-                               "El valor de --estaciones debe ser un número entero de 1 a 1000."},
-                      CasoMalo{"resolver @ --estaciones", "{}", 2, "El valor de --estaciones"},
-                      CasoMalo{"resolver @ --rapido", "{}", 2,
-                               "Argumento no reconocido: \"--rapido\"."}),
-    [](const auto& info) { return "caso" + std::to_string(info.index); });
-
-TEST(ImportarJetOrden, UsoYErrores) {
-    EXPECT_EQ(Calc({"importar-jet", "solo-uno.mdb"}).codigo, 2);
-    const Salida r = Calc({"importar-jet", "/no/existe.mdb", "/no/existe/nuevo.trv"});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_EQ(r.errores, "Error 53: No se encontró el archivo \"/no/existe.mdb\".\n");
 }
 
 } // namespace
