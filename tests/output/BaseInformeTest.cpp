@@ -108,21 +108,6 @@ TEST_P(NumerosTest, NumeroRunsAcrossBeamsInListOrder) {
     }
 }
 
-TEST_F(FillTest, WithBothOptionsBeamIHoldsNumbersThreeIMinusTwoToThreeI) {
-    Recorrido r;
-    std::vector<std::string> vigas;
-    for (int i = 1; i <= 12; ++i) vigas.push_back("V" + std::to_string(i));
-    LlenarImpreDatos(ruta, Generales(), vigas, {0, 1, 1}, r.Pasos());
-    const auto c = LeerBaseInforme(ruta);
-    ASSERT_EQ(c.Graficos.size(), 36u);
-    for (int i = 1; i <= 12; ++i)
-        for (int k = 1; k <= 3; ++k) {
-            const auto& g = c.Graficos[static_cast<std::size_t>(3 * (i - 1) + k - 1)];
-            EXPECT_EQ(g.Numero, 3 * (i - 1) + k);
-            EXPECT_EQ(Texto(g.Grafico), "V" + std::to_string(i) + "/" + std::to_string(k - 1));
-        }
-}
-
 TEST_F(FillTest, EachBeamIsLoadedAndSolvedOnceBeforeItsPictures) {
     Recorrido r;
     LlenarImpreDatos(ruta, Generales(), {"A", "B"}, {0, 1, 1}, r.Pasos());

@@ -11,7 +11,9 @@
 #include <fstream>
 #include <sstream>
 
+#include "comun/AplicacionQt.h"
 #include "comun/Aserciones.h"
+#include "comun/Carpeta.h"
 #include "output/EscritoresInforme.h"
 #include "output/GraficoPng.h"
 #include "output/PaginaInforme.h"
@@ -47,13 +49,6 @@ ContenidoInforme Contenido(int graficos) {
     return c;
 }
 
-std::string Leer(const std::filesystem::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-}
-
 std::size_t Contar(const std::string& texto, const std::string& trozo) {
     std::size_t n = 0;
     for (auto i = texto.find(trozo); i != std::string::npos; i = texto.find(trozo, i + 1)) ++n;
@@ -86,15 +81,8 @@ std::vector<std::uint8_t> DeHex(const std::string& hex) {
 
 class EscritoresTest : public testing::Test {
   protected:
-    void SetUp() override {
-        carpeta = std::filesystem::temp_directory_path() /
-                  ("trevalo_escritores_" +
-                   std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        std::filesystem::remove_all(carpeta);
-        std::filesystem::create_directories(carpeta);
-    }
-    void TearDown() override { std::filesystem::remove_all(carpeta); }
-    std::filesystem::path carpeta;
+    void SetUp() override { prueba::AsegurarAplicacionQt(); }
+    prueba::CarpetaTemporal carpeta;
 };
 
 TEST_F(EscritoresTest, HeadLinesShowMaterialsWithTheMachinesSeparators) {
@@ -144,8 +132,8 @@ TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
 TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
     for (int n : {0, 1, 4}) {
         const auto ruta = carpeta / ("r" + std::to_string(n) + ".pdf");
-        EscribirInformePdf(Contenido(n), ruta.string());
-        const std::string pdf = Leer(ruta);
+        EscribirInformePdf(Contenido(n), ruta);
+        const std::string pdf = prueba::LeerArchivo(ruta);
         EXPECT_EQ(pdf.rfind("%PDF-", 0), 0u);
         EXPECT_EQ(Contar(pdf, "/Type /Page\n"), static_cast<std::size_t>(1 + n));
         // One image a picture page, lossless: no JPEG stream.
@@ -157,8 +145,8 @@ TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
 TEST_F(EscritoresTest, HtmlEmbedsEveryPictureWholeAndEscapesTexts) {
     const auto c = Contenido(3);
     const auto ruta = carpeta / "r.htm";
-    EscribirInformeHtml(c, ruta.string());
-    const std::string html = Leer(ruta);
+    EscribirInformeHtml(c, ruta);
+    const std::string html = prueba::LeerArchivo(ruta);
     const auto uris = Trozos(html, "src=\"data:image/png;base64,", "\"");
     ASSERT_EQ(uris.size(), 3u);
     for (std::size_t k = 0; k < uris.size(); ++k) {
@@ -174,8 +162,8 @@ TEST_F(EscritoresTest, HtmlEmbedsEveryPictureWholeAndEscapesTexts) {
 TEST_F(EscritoresTest, RtfEmbedsEveryPictureAsPngAndEncodesTexts) {
     const auto c = Contenido(2);
     const auto ruta = carpeta / "r.rtf";
-    EscribirInformeTexto(c, ruta.string());
-    const std::string rtf = Leer(ruta);
+    EscribirInformeTexto(c, ruta);
+    const std::string rtf = prueba::LeerArchivo(ruta);
     EXPECT_EQ(rtf.rfind("{\\rtf1", 0), 0u);
     const auto picts = Trozos(rtf, "\\pngblip", "}");
     ASSERT_EQ(picts.size(), 2u);
@@ -204,8 +192,8 @@ TEST_F(EscritoresTest, RtfEmbedsEveryPictureAsPngAndEncodesTexts) {
 
 TEST_F(EscritoresTest, SpreadsheetHoldsOneImagePerPicture) {
     const auto ruta = carpeta / "r.xlsx";
-    EscribirInformeHoja(Contenido(3), ruta.string());
-    const std::string xlsx = Leer(ruta);
+    EscribirInformeHoja(Contenido(3), ruta);
+    const std::string xlsx = prueba::LeerArchivo(ruta);
     EXPECT_EQ(xlsx.rfind("PK", 0), 0u);
     // Each member's name stands in its local header and in the central directory.
     for (int k = 1; k <= 3; ++k)
@@ -214,7 +202,7 @@ TEST_F(EscritoresTest, SpreadsheetHoldsOneImagePerPicture) {
 }
 
 TEST_F(EscritoresTest, AnUnwritableFileIsError75ForEveryKind) {
-    const auto ruta = (carpeta / "no existe" / "r").string();
+    const auto ruta = carpeta / "no existe/r";
     for (auto tipo :
          {ArchivoInforme::Pdf, ArchivoInforme::Html, ArchivoInforme::Hoja, ArchivoInforme::Texto})
         EXPECT_TREVALO_ERROR(EscribirInforme(Contenido(1), ruta, tipo), 75,

@@ -9,13 +9,16 @@
 #include <set>
 
 #include "BaseTemporal.h"
-#include "ProyectoPrueba.h"
+#include "comun/AplicacionQt.h"
+#include "comun/Proyecto.h"
 #include "output/BaseInforme.h"
 #include "output/GraficoPng.h"
 #include "output/PasosPrograma.h"
 
 namespace trevalo {
 namespace {
+
+using namespace prueba;
 
 // Share of pixels that are not white.
 double Tinta(const QImage& imagen) {
@@ -30,14 +33,14 @@ class ProgramaInformeTest : public BaseTemporalTest {
   protected:
     void SetUp() override {
         BaseTemporalTest::SetUp();
-        proyecto = carpeta / "Prueba.trv";
+        prueba::AsegurarAplicacionQt();
     }
 
     // Runs the fill on the project with the given options; returns the messages shown.
     std::vector<std::string> Llenar(const std::vector<std::string>& vigas,
                                     const OpcionesImpresion& opciones) {
         std::vector<std::string> avisos;
-        estado.BDProyecto = BaseDatos::Abrir(proyecto.string());
+        estado.BDProyecto = BaseDatos::Abrir(proyecto);
         LeerGeneralProyecto(*estado.BDProyecto, ajustes);
         auto aviso = [&](const std::string& texto, const std::string& titulo) {
             avisos.push_back(titulo + "|" + texto);
@@ -47,7 +50,7 @@ class ProgramaInformeTest : public BaseTemporalTest {
         return avisos;
     }
 
-    std::filesystem::path proyecto;
+    std::string proyecto = carpeta / "Prueba.trv";
     EstadoProyecto estado;
     ProyectoActual ajustes;
     VigaActual viga;
@@ -57,7 +60,7 @@ class ProgramaInformeTest : public BaseTemporalTest {
 };
 
 TEST_F(ProgramaInformeTest, EveryPictureDecodesAtTheReportsSizeAndTheViewsDiffer) {
-    CrearProyecto(proyecto, {VigaPrueba("V-101", 1), VigaPrueba("V-102", 2)});
+    CrearProyecto(proyecto, {VigaPrueba("V-101", 1), VigaPrueba("V-102", 2)}, AjustesPrueba());
     const auto avisos = Llenar({"V-101", "V-102"}, {0, 1, 1});
     EXPECT_TRUE(avisos.empty()) << avisos.front();
     const auto c = LeerBaseInforme(ruta);
@@ -120,7 +123,7 @@ TEST_F(ProgramaInformeTest, TheViewOfEachStepIsResetForTheReport) {
 TEST_F(ProgramaInformeTest, ABeamThatCannotBeSolvedIsToldAndTheWalkGoesOn) {
     auto mala = VigaPrueba("V-2 mala", 0);
     mala.LT(1) = 0; // a span of no length
-    CrearProyecto(proyecto, {VigaPrueba("V-1", 1), mala, VigaPrueba("V-3", 2)});
+    CrearProyecto(proyecto, {VigaPrueba("V-1", 1), mala, VigaPrueba("V-3", 2)}, AjustesPrueba());
     const auto avisos = Llenar({"V-1", "V-2 mala", "V-3"}, {0, 1, 0});
     ASSERT_FALSE(avisos.empty());
     EXPECT_EQ(avisos.front().rfind("Error Número: ", 0), 0u) << avisos.front();
