@@ -10,9 +10,8 @@
 #include <map>
 #include <string>
 
-#include <unistd.h>
-
 #include "comun/Aserciones.h"
+#include "comun/Carpeta.h"
 #include "platform/ImportadorJet.h"
 #include "platform/MotorDatos.h"
 
@@ -25,31 +24,16 @@ std::string Jet(const std::string& nombre) {
     return std::string(TREVALO_DATOS_PRUEBA) + "/jet/" + nombre;
 }
 
-std::string Bytes(const std::string& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
-
+// A folder of its own for the targets of each test.
 class ImportadorJet : public ::testing::Test {
   protected:
-    void SetUp() override {
-        carpeta = fs::temp_directory_path() /
-                  ("importador_jet_" + std::to_string(::getpid()) + "_" +
-                   ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(carpeta);
-        fs::create_directories(carpeta);
-    }
-    void TearDown() override { fs::remove_all(carpeta); }
-
-    std::string Destino(const std::string& nombre = "nuevo.trv") const {
-        return (carpeta / nombre).string();
-    }
+    std::string Destino(const std::string& nombre = "nuevo.trv") const { return carpeta / nombre; }
     // Files left in the work folder, to show that nothing half-written stays.
     long Archivos() const {
-        return static_cast<long>(std::distance(fs::directory_iterator(carpeta), {}));
+        return static_cast<long>(std::distance(fs::directory_iterator(carpeta.Ruta()), {}));
     }
 
-    fs::path carpeta;
+    prueba::CarpetaTemporal carpeta;
 };
 
 long Filas(BaseDatos& bd, const std::string& tabla) {
@@ -64,9 +48,9 @@ std::map<std::string, std::string> TiposDeclarados(BaseDatos& bd, const std::str
 }
 
 TEST_F(ImportadorJet, Jet3TiposBasicos) {
-    const std::string antes = Bytes(Jet("testV1997.mdb"));
+    const std::string antes = prueba::LeerArchivo(Jet("testV1997.mdb"));
     const ResultadoImportacion r = ImportarJet(Jet("testV1997.mdb"), Destino());
-    EXPECT_EQ(Bytes(Jet("testV1997.mdb")), antes);
+    EXPECT_EQ(prueba::LeerArchivo(Jet("testV1997.mdb")), antes);
     EXPECT_EQ(r.Version, "Jet 3");
     const std::vector<std::pair<std::string, long>> tablas = {
         {"Table1", 2}, {"Table2", 0}, {"Table3", 0}, {"Table4", 0}};
@@ -105,9 +89,9 @@ class ImportadorJetProyectos : public ImportadorJet,
 
 TEST_P(ImportadorJetProyectos, FilaCompleta) {
     const std::string origen = Jet(GetParam());
-    const std::string antes = Bytes(origen);
+    const std::string antes = prueba::LeerArchivo(origen);
     const ResultadoImportacion r = ImportarJet(origen, Destino());
-    EXPECT_EQ(Bytes(origen), antes);
+    EXPECT_EQ(prueba::LeerArchivo(origen), antes);
     ASSERT_EQ(r.Tablas.size(), 1u);
     EXPECT_EQ(r.Tablas[0], (std::pair<std::string, long>{"MSP_PROJECTS", 1}));
 
@@ -121,18 +105,20 @@ TEST_P(ImportadorJetProyectos, FilaCompleta) {
 
     Recordset rs = bd.AbrirRecordset("SELECT * FROM MSP_PROJECTS");
     ASSERT_EQ(rs.RecordCount(), 1);
-    EXPECT_EQ(rs.Campo("PROJ_ID").Entero(), 1);
-    EXPECT_EQ(rs.Campo("PROJ_NAME").Texto(), "Project1");
-    EXPECT_EQ(rs.Campo("PROJ_OPT_MINUTES_PER_DAY").Entero(), 480);
-    EXPECT_EQ(rs.Campo("PROJ_OPT_MINUTES_PER_WEEK").Entero(), 2400);
-    EXPECT_EQ(rs.Campo("PROJ_OPT_CURRENCY_DIGITS").Entero(), 2);
-    EXPECT_EQ(rs.Campo("PROJ_OPT_CALC_ACT_COSTS").Entero(), 1);
-    EXPECT_EQ(rs.Campo("PROJ_OPT_NEW_ARE_EFFORT_DRIVEN").Entero(), 1);
-    EXPECT_EQ(rs.Campo("PROJ_IS_RES_POOL").Entero(), 0);
-    EXPECT_EQ(rs.Campo("PROJ_INFO_CAL_NAME").Texto(), "Standard");
-    EXPECT_EQ(rs.Campo("PROJ_LAST_SAVED").Texto(), "2006-02-03 22:11:00");
-    EXPECT_EQ(rs.Campo("PROJ_CREATION_DATE_EX").Texto(), "2006-02-03 22:11:05");
-    EXPECT_EQ(rs.Campo("PROJ_DATA_SOURCE").Texto(), "Z:\\temp\\Project1.mpd");
+    const std::pair<const char*, Valor> valores[] = {
+        {"PROJ_ID", Valor(1)},
+        {"PROJ_NAME", Valor("Project1")},
+        {"PROJ_OPT_MINUTES_PER_DAY", Valor(480)},
+        {"PROJ_OPT_MINUTES_PER_WEEK", Valor(2400)},
+        {"PROJ_OPT_CURRENCY_DIGITS", Valor(2)},
+        {"PROJ_OPT_CALC_ACT_COSTS", Valor(1)},
+        {"PROJ_OPT_NEW_ARE_EFFORT_DRIVEN", Valor(1)},
+        {"PROJ_IS_RES_POOL", Valor(0)},
+        {"PROJ_INFO_CAL_NAME", Valor("Standard")},
+        {"PROJ_LAST_SAVED", Valor("2006-02-03 22:11:00")},
+        {"PROJ_CREATION_DATE_EX", Valor("2006-02-03 22:11:05")},
+        {"PROJ_DATA_SOURCE", Valor("Z:\\temp\\Project1.mpd")}};
+    for (const auto& [campo, valor] : valores) EXPECT_EQ(rs.Campo(campo), valor) << campo;
     EXPECT_TRUE(rs.Campo("PROJ_PROP_CATEGORY").EsNulo());
     EXPECT_TRUE(rs.Campo("PROJ_CHECKEDOUTDATE").EsNulo());
     const std::string autor = rs.Campo("PROJ_PROP_AUTHOR").Texto();
@@ -158,29 +144,23 @@ TEST_F(ImportadorJet, Jet4TextoUnicodeYObjetoBinario) {
 
 TEST_F(ImportadorJet, ArchivoQueNoEsJetSeRechazaIntacto) {
     const std::string texto = Destino("viga.trv");
-    {
-        std::ofstream f(texto, std::ios::binary);
-        f << "Esto no es una base de datos, aunque su nombre lo diga.\n";
-    }
-    const std::string antes = Bytes(texto);
+    prueba::EscribirArchivo(texto, "Esto no es una base de datos, aunque su nombre lo diga.\n");
+    const std::string antes = prueba::LeerArchivo(texto);
     EXPECT_TREVALO_ERROR(ImportarJet(texto, Destino()), ErrNoEsJet,
                          "El archivo \"" + texto + "\" no es una base de datos Jet 3 ni Jet 4.");
-    EXPECT_EQ(Bytes(texto), antes);
+    EXPECT_EQ(prueba::LeerArchivo(texto), antes);
 
     // A database of the new engine is not a Jet file either.
     const std::string sqlite = Destino("nuevo.sqlite");
     BaseDatos::Crear(sqlite).Ejecutar("CREATE TABLE T (a INTEGER)");
-    const std::string antesSqlite = Bytes(sqlite);
+    const std::string antesSqlite = prueba::LeerArchivo(sqlite);
     EXPECT_TREVALO_ERROR(ImportarJet(sqlite, Destino()), ErrNoEsJet,
                          "El archivo \"" + sqlite + "\" no es una base de datos Jet 3 ni Jet 4.");
-    EXPECT_EQ(Bytes(sqlite), antesSqlite);
+    EXPECT_EQ(prueba::LeerArchivo(sqlite), antesSqlite);
 
     // A Jet file cut short after its first page.
     const std::string cortado = Destino("cortado.mdb");
-    {
-        std::ofstream f(cortado, std::ios::binary);
-        f << Bytes(Jet("testV1997.mdb")).substr(0, 2048);
-    }
+    prueba::EscribirArchivo(cortado, prueba::LeerArchivo(Jet("testV1997.mdb")).substr(0, 2048));
     EXPECT_THROW(ImportarJet(cortado, Destino()), ErrorTrevalo);
     EXPECT_EQ(Archivos(), 3); // the three sources, no target
 }
@@ -189,13 +169,10 @@ TEST_F(ImportadorJet, FaltanArchivosOSobranDestinos) {
     EXPECT_TREVALO_ERROR(ImportarJet(Destino("no_existe.trv"), Destino()), ErrArchivoNoEncontrado,
                          "No se encontró el archivo \"" + Destino("no_existe.trv") + "\".");
     const std::string existente = Destino("existente.trv");
-    {
-        std::ofstream f(existente);
-        f << "mío";
-    }
+    prueba::EscribirArchivo(existente, "mío");
     EXPECT_TREVALO_ERROR(ImportarJet(Jet("testV1997.mdb"), existente), ErrArchivoYaExiste,
                          "Ya existe el archivo \"" + existente + "\".");
-    EXPECT_EQ(Bytes(existente), "mío");
+    EXPECT_EQ(prueba::LeerArchivo(existente), "mío");
     // A target in a folder that does not exist: the engine's error, nothing written.
     EXPECT_THROW(ImportarJet(Jet("testV1997.mdb"), Destino("no/hay/carpeta.trv")), ErrorTrevalo);
     EXPECT_EQ(Archivos(), 1);

@@ -8,6 +8,7 @@
 
 #include "comun/AplicacionQt.h"
 #include "comun/Aserciones.h"
+#include "comun/Carpeta.h"
 #include "platform/LienzosArchivo.h"
 
 using namespace trevalo;
@@ -148,8 +149,7 @@ TEST_F(LienzoImagenTest, ClsPintaElFondo) {
 }
 
 TEST_F(LienzoImagenTest, ArchivosVectoriales) {
-    const auto dir = std::filesystem::temp_directory_path() / "trevalo_lienzo";
-    std::filesystem::create_directories(dir);
+    prueba::CarpetaTemporal dir;
     auto pintar = [](Lienzo& l) {
         l.FillStyle = RellenoSolido;
         l.FillColor = 0xCFCFFA;
@@ -160,22 +160,21 @@ TEST_F(LienzoImagenTest, ArchivosVectoriales) {
         l.TextOutA(10, 60, "Tramo 1");
     };
     const auto pdf = dir / "prueba.pdf", svg = dir / "prueba.svg", png = dir / "prueba.png";
-    PintarEnArchivo(pdf.string(), 710, 810, pintar);
-    PintarEnArchivo(svg.string(), 710, 810, pintar);
-    PintarEnArchivo(png.string(), 710, 810, pintar);
-    QFile f(QString::fromStdString(pdf.string()));
+    PintarEnArchivo(pdf, 710, 810, pintar);
+    PintarEnArchivo(svg, 710, 810, pintar);
+    PintarEnArchivo(png, 710, 810, pintar);
+    QFile f(QString::fromStdString(pdf));
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_TRUE(f.read(5).startsWith("%PDF"));
-    QFile s(QString::fromStdString(svg.string()));
+    QFile s(QString::fromStdString(svg));
     ASSERT_TRUE(s.open(QIODevice::ReadOnly));
     const QByteArray contenido = s.readAll();
     EXPECT_TRUE(contenido.contains("viewBox=\"0 0 710 810\""));
     EXPECT_TRUE(contenido.contains("Tramo 1"));
     EXPECT_TRUE(contenido.contains("Liberation Sans"));
-    EXPECT_EQ(QImage(QString::fromStdString(png.string())).size(), QSize(710, 810));
+    EXPECT_EQ(QImage(QString::fromStdString(png)).size(), QSize(710, 810));
     EXPECT_TREVALO_ERROR(PintarEnArchivo("/no/existe/x.png", 10, 10, pintar), 75,
                          "Error de acceso a la ruta o el archivo");
-    std::filesystem::remove_all(dir);
 }
 
 } // namespace
