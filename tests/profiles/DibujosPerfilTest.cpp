@@ -94,8 +94,6 @@ TEST(DibujePerfil, AnchoCeroEsErrorDeGeometriaSinTocarEtiquetas) {
     EXPECT_FALSE(DibujePerfil(l, 300, 8, 0, 12, 0, 12, e));
     EXPECT_EQ(e.LSLabel(1), "viejo");
     EXPECT_TRUE(l.DelTipo(TipoOperacion::Poligono).empty());
-    EXPECT_EQ(TituloErrorGeometria, "Error en Geometría");
-    EXPECT_EQ(MensajeErrorGeometria, "Error en la Geometría del Perfil...    ");
 }
 
 TEST(CalcularPerfil, PuertaFallaYCalculo) {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "CarpetaTemporal.h"
 #include "comun/Aserciones.h"
-#include "model/Viga.h"
+#include "comun/Carpeta.h"
+#include "comun/Vigas.h"
 #include "profiles/ListaPerfiles.h"
 #include "profiles/TablaPerfiles.h"
 
@@ -20,7 +20,7 @@ class ListaDePerfiles : public ::testing::Test {
                       const std::vector<std::tuple<std::string, double, double>>& filas) {
         const std::string ruta =
             RutaTablaNueva(carpeta.Ruta(), familia, "T" + std::to_string(++n_) + ".pfl");
-        CrearTablaPerfiles(RutaPrograma, familia, ruta);
+        CrearTablaPerfiles(TREVALO_RUTA_PROGRAMA, familia, ruta);
         const DatosFamilia& f = Familia(familia);
         TablaPerfiles t{"Prueba", 2530, {}};
         for (const auto& [nombre, area, inercia] : filas) {
@@ -36,16 +36,14 @@ class ListaDePerfiles : public ::testing::Test {
         return ruta;
     }
 
+    // A beam of n types, all of no dimensions.
     static VigaActual VigaConTipos(long n) {
         VigaActual v;
-        v.NTipos = static_cast<std::int16_t>(n);
-        v.B1.Redim(n);
-        v.T1.Redim(n);
-        v.Designacion.Redim(n);
+        prueba::PonerTipos(v, prueba::Filas(static_cast<std::size_t>(n), {0, 0}));
         return v;
     }
 
-    CarpetaTemporal carpeta;
+    prueba::CarpetaTemporal carpeta;
     int n_ = 0;
 };
 

@@ -83,12 +83,6 @@ TEST(PropiedadesPerfil, CerosQueLlegaranAlCalculoSonError) {
     EXPECT_TREVALO_ERROR(PropiedadesPerfil(300, 0, 150, 0, 150, 0, e), 6, "Desbordamiento");
 }
 
-} // namespace
-} // namespace trevalo
-
-namespace trevalo {
-namespace {
-
 // The capture reads the numbers back from the labels' texts: rounded and without the
 // thousands separators, in the grid's column order A, d, bf, tf, tw, Ix ... Zy.
 TEST(CapturaDelGenerador, NumerosLeidosDeLasEtiquetas) {

@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "CarpetaTemporal.h"
 #include "comun/Aserciones.h"
+#include "comun/Carpeta.h"
 #include "platform/MotorDatos.h"
 #include "profiles/TablaPerfiles.h"
 
@@ -74,10 +74,10 @@ class ArchivosDeTablas : public ::testing::Test {
   protected:
     std::string Nueva(F familia, const std::string& titulo) {
         const std::string ruta = RutaTablaNueva(carpeta.Ruta(), familia, titulo);
-        CrearTablaPerfiles(RutaPrograma, familia, ruta);
+        CrearTablaPerfiles(TREVALO_RUTA_PROGRAMA, familia, ruta);
         return ruta;
     }
-    CarpetaTemporal carpeta;
+    prueba::CarpetaTemporal carpeta;
 };
 
 TEST_F(ArchivosDeTablas, CadaPlantillaNaceVaciaYGuardaSusCampos) {
@@ -101,19 +101,19 @@ TEST_F(ArchivosDeTablas, CadaPlantillaNaceVaciaYGuardaSusCampos) {
 
 TEST_F(ArchivosDeTablas, NuevaVaSiempreALaCarpetaDeTablas) {
     const std::string ruta = Nueva(F::SeccionU, "U");
-    EXPECT_EQ(ruta, carpeta.Archivo("U_U"));
+    EXPECT_EQ(ruta, carpeta / "U_U");
     EXPECT_TRUE(std::filesystem::exists(ruta));
 }
 
 TEST_F(ArchivosDeTablas, CrearReemplazaLaTablaExistente) {
     const std::string ruta = Nueva(F::DobleTee, "X.pfl");
     SalvarTablaPerfiles(ruta, F::DobleTee, {"Vieja", 1, {Fila(F::DobleTee, "A", 1)}});
-    CrearTablaPerfiles(RutaPrograma, F::DobleTee, ruta);
+    CrearTablaPerfiles(TREVALO_RUTA_PROGRAMA, F::DobleTee, ruta);
     EXPECT_TRUE(LeerTablaPerfiles(ruta, F::DobleTee).Filas.empty());
 }
 
 TEST_F(ArchivosDeTablas, SinPlantillaEsError53) {
-    EXPECT_TREVALO_ERROR(CrearTablaPerfiles(carpeta.Ruta(), F::DobleTee, carpeta.Archivo("A")), 53,
+    EXPECT_TREVALO_ERROR(CrearTablaPerfiles(carpeta.Ruta(), F::DobleTee, carpeta / "A"), 53,
                          "No se encontró el archivo");
 }
 
@@ -197,7 +197,7 @@ TEST_F(ArchivosDeTablas, ArchivoDeOtraFamiliaFallaAlLeerElCampo) {
 
 TEST_F(ArchivosDeTablas, ArchivoInexistenteEsErrorDelMotor) {
     try {
-        LeerTablaPerfiles(carpeta.Archivo("DobleTee_No.pfl"), F::DobleTee);
+        LeerTablaPerfiles(carpeta / "DobleTee_No.pfl", F::DobleTee);
         ADD_FAILURE() << "no error";
     } catch (const ErrorTrevalo& e) {
         EXPECT_EQ(e.Numero() & 0xff, 14); // the engine's "unable to open"
@@ -207,7 +207,7 @@ TEST_F(ArchivosDeTablas, ArchivoInexistenteEsErrorDelMotor) {
 TEST_F(ArchivosDeTablas, ListaSoloLasDeLaFamilia) {
     for (const char* n : {"DobleTee_.pfl", "DobleTee_B.pfl", "dobletee_a.pfl", "U_C.pfl",
                           "DobleTee_D", "Cuadrada_E.pfl"})
-        std::ofstream(carpeta.Archivo(n)) << "x";
+        std::ofstream(carpeta / n) << "x";
     EXPECT_EQ(TablasDeFamilia(carpeta.Ruta(), F::DobleTee),
               (std::vector<std::string>{"DobleTee_B.pfl", "dobletee_a.pfl"}));
     EXPECT_EQ(TablasDeFamilia(carpeta.Ruta(), F::SeccionU), std::vector<std::string>{"U_C.pfl"});
