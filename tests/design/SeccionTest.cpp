@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "comun/Aserciones.h"
+#include "comun/Vigas.h"
 #include "design/AceroFlexion.h"
 #include "design/SeparacionEstribos.h"
 
@@ -166,26 +167,10 @@ class Confinamiento : public ::testing::Test {
     void SetUp() override {
         c = Seccion(210, 4200, .05, .3, .5);
         c.proyecto.OpcionEstribos = true;
-        c.viga.NT = 3;
-        RedimensionarViga(c.viga);
-        for (int t = 1; t <= 3; ++t) {
-            c.viga.LT(t) = 5;
-            c.viga.VT(t) = 1;
-            c.viga.FMayorTramo(t) = 1.5;
-        }
+        c.viga = prueba::VigaDeTramos({5, 5, 5});
         Apoyos({{1, ApoyoFijo}, {2, ApoyoFijo}, {3, ApoyoFijo}, {4, ApoyoFijo}});
     }
-    void Apoyos(std::initializer_list<std::pair<int, int>> lista) {
-        c.viga.NJRest = static_cast<std::int16_t>(lista.size());
-        c.viga.R1.Redim(c.viga.NJRest);
-        c.viga.Apoyo.Redim(c.viga.NJRest);
-        long k = 0;
-        for (const auto& [junta, apoyo] : lista) {
-            ++k;
-            c.viga.R1(k) = static_cast<std::int16_t>(junta);
-            c.viga.Apoyo(k) = static_cast<std::int16_t>(apoyo);
-        }
-    }
+    void Apoyos(const prueba::Filas& filas) { prueba::PonerApoyos(c.viga, filas); }
     std::string En(std::int16_t t, double x) { return Estribos(c, t, 0, x, 5); }
     Caso c;
 };
@@ -229,8 +214,7 @@ TEST_F(Confinamiento, VoladizoQuitaElTopeDeSuTramo) {
 }
 
 TEST_F(Confinamiento, UnTramoConUnaSolaJuntaApoyada) {
-    c.viga.NT = 1;
-    RedimensionarViga(c.viga);
+    c.viga = prueba::VigaDeTramos({5});
     Apoyos({{2, Empotramiento}});
     EXPECT_EQ(En(1, 4.5), "@11");
     EXPECT_EQ(En(1, 0.5), "@23"); // joint 1 is free

@@ -77,8 +77,6 @@ TEST(TablaDiseno, EstacionesEnLasJuntas) {
     const EstacionDiseno& ultima = tr.Estaciones.back();
     EXPECT_EQ(primera.x, 0);
     EXPECT_EQ(ultima.x, 4);
-    EXPECT_NEAR(primera.Mu, b.r.MomI(1) * 1.5, 1e-9);
-    EXPECT_NEAR(primera.Vu, b.r.CorI(1) * 1.5, 1e-9);
     EXPECT_NEAR(ultima.M, b.r.MomJ(1), 1e-6);
     // Closed form of the propped cantilever: -wL^2/8 at the built-in end, 5wL/8 of shear.
     EXPECT_NEAR(primera.Mu, -1.5 * 3333 * 16 / 8, 1e-6);
