@@ -57,11 +57,8 @@ class EjemploDemostrativo : public ::testing::Test {
   protected:
     static void SetUpTestSuite() {
         ASSERT_TRUE(fs::is_regular_file(Ejemplo)) << "build the data targets first";
-        const std::string copia =
-            fs::temp_directory_path() / ("trevalo_ejemplo_" + std::to_string(::getpid()) + ".trv");
-        fs::remove(copia);
-        vigas_ = new std::map<std::string, VigaResuelta>(ResolverEjemplo(copia));
-        fs::remove(copia);
+        CarpetaTemporal tmp;
+        vigas_ = new std::map<std::string, VigaResuelta>(ResolverEjemplo(tmp / "Ejemplo.trv"));
     }
     static void TearDownTestSuite() {
         delete vigas_;
@@ -121,14 +118,6 @@ INSTANTIATE_TEST_SUITE_P(Vigas, Equilibrio,
                                            CasoEquilibrio{"V-001 Fundación sobre Suelo Elástico",
                                                           132000},
                                            CasoEquilibrio{"V-401 Viga de Transferencia", 107200}));
-
-TEST_F(EjemploDemostrativo, TodasLasVigasResuelvenConResultadosFinitos) {
-    ASSERT_GE(vigas_->size(), 6u);
-    for (const auto& [nombre, v] : *vigas_) {
-        EXPECT_EQ(v.resultados.NJuntas, v.viga.NT + 1) << nombre;
-        EXPECT_TRUE(TodoFinito(v.resultados)) << nombre;
-    }
-}
 
 TEST_F(EjemploDemostrativo, VoladoComoEnLaMano) {
     // Back span 4 m and cantilever 1.8 m, w = 1500 + 312 kgf/m, a triangle of 900 kgf/m
@@ -211,7 +200,8 @@ TEST_F(EjemploDemostrativo, MuestraCadaRasgoDeUnaViga) {
 }
 
 // The companion tool lists the sample's beams, and each exported, imported under a new
-// name and exported again is the same beam but for its name.
+// name and exported again by that name in other letter case is the same beam but for its
+// name, which the document gives as stored.
 TEST(EjemploConLaHerramienta, CadaVigaVaYVuelve) {
     CarpetaTemporal tmp;
     const std::string proyecto = tmp / "Ejemplo.trv";
@@ -233,7 +223,7 @@ TEST(EjemploConLaHerramienta, CadaVigaVaYVuelve) {
         calc({"exportar", proyecto, "--viga", nombre}, antes);
         EscribirArchivo(tmp / "viga.json", antes);
         calc({"importar", proyecto, tmp / "viga.json", "--nombre", "Copia"}, importada);
-        calc({"exportar", proyecto, "--viga", "Copia"}, despues);
+        calc({"exportar", proyecto, "--viga", "COPIA"}, despues);
         // Identical but for the name, wherever the name stands.
         const std::string citado = "\"" + nombre + "\"";
         for (auto p = antes.find(citado); p != std::string::npos; p = antes.find(citado))

@@ -48,18 +48,6 @@ TEST_F(Dibujar, TamanoYCuadriculaSegunElModo) {
     }
 }
 
-TEST_F(Dibujar, ArchivosVectoriales) {
-    for (const std::string ext : {"svg", "pdf"}) {
-        const std::string archivo = Ruta("vista." + ext);
-        ASSERT_EQ(Ejecutar({"dibujar", Ruta("viga.json"), "--vista", "2", "-o", archivo}), 0)
-            << errores_;
-        std::ifstream f(archivo);
-        std::string inicio(5, ' ');
-        f.read(inicio.data(), 5);
-        EXPECT_EQ(inicio, ext == "pdf" ? "%PDF-" : "<?xml");
-    }
-}
-
 TEST_F(Dibujar, CadaVigaDelEjemploEnCadaVista) {
     const std::string ejemplo =
         (std::filesystem::path(TREVALO_RUTA_PROGRAMA) / "Imagen" / "Ejemplo Demostrativo.trv")
