@@ -58,100 +58,75 @@ enum class Clase { Libre, Fijo, RodilloX, RodilloY, Empotrado, ResorteV, Resorte
 
 VigaActual VigaAleatoria(std::mt19937& azar, const std::string& nombre, bool lleno,
                          std::set<long>& conApoyo) {
-    VigaActual v;
-    v.NombreVigaActual = nombre;
-    v.NT = static_cast<std::int16_t>(Entero(azar, 1, 6));
-    ReiniciarArreglosViga(v);
-    v.OpcionConcreto = static_cast<std::uint8_t>(Entero(azar, 0, 1));
-    v.OpcionCarga = static_cast<std::uint8_t>(Entero(azar, 0, 3));
-    v.FMayoracion = Real(azar, 1, 2);
-    v.FMayoracionTC = Real(azar, 0, 2);
-
-    v.NTipos = static_cast<std::int16_t>(Entero(azar, 1, 4));
-    v.B1.Redim(v.NTipos);
-    v.T1.Redim(v.NTipos);
-    v.Designacion.Redim(v.NTipos);
-    for (long k = 1; k <= v.NTipos; ++k) {
-        v.B1(k) = Real(azar, 0.01, 300);
-        v.T1(k) = Real(azar, 0.01, 90000);
-        v.Designacion(k) = Texto(azar);
-    }
-    for (long t = 1; t <= v.NT; ++t) {
-        v.LT(t) = Real(azar, 0.5, 12);
-        v.VT(t) = static_cast<double>(Entero(azar, 1, v.NTipos));
-    }
-
-    // One more row of a joint table: its count, joint numbers and value columns grow.
-    auto fila = [](std::int16_t& n, Arreglo<std::int16_t>& r, long j,
-                   std::initializer_list<Arreglo<double>*> valores) {
-        r.RedimPreserve(++n);
-        r(n) = static_cast<std::int16_t>(j);
-        for (auto* a : valores) a->RedimPreserve(n);
-        return n;
+    const auto real = [&azar](double a, double b) { return Real(azar, a, b); };
+    const auto entero = [&azar](long a, long b) { return Entero(azar, a, b); };
+    const auto filas = [&](long max) {
+        return Filas(static_cast<std::size_t>(lleno ? max : entero(0, max)));
     };
+    VigaActual v = VigaDeTramos(std::vector<double>(static_cast<std::size_t>(entero(1, 6))));
+    v.NombreVigaActual = nombre;
+    v.OpcionConcreto = static_cast<std::uint8_t>(entero(0, 1));
+    v.OpcionCarga = static_cast<std::uint8_t>(entero(0, 3));
+    v.FMayoracion = real(1, 2);
+    v.FMayoracionTC = real(0, 2);
+    Filas tipos(static_cast<std::size_t>(entero(1, 4)));
+    for (auto& t : tipos) t = {real(0.01, 300), real(0.01, 90000)};
+    PonerTipos(v, tipos);
+    for (long k = 1; k <= v.NTipos; ++k) v.Designacion(k) = Texto(azar);
+    for (long t = 1; t <= v.NT; ++t) {
+        v.LT(t) = real(0.5, 12);
+        v.VT(t) = static_cast<double>(entero(1, v.NTipos));
+    }
+
+    Filas apoyos, resortes, desplazadas, acciones;
     conApoyo.clear();
     const Apoyos apoyo[] = {ApoyoFijo, ApoyoFijo, RodilloEnX, RodilloEnY, Empotramiento};
     for (long j = 1; j <= v.NT + 1; ++j) {
+        const double junta = static_cast<double>(j);
         v.NombreEje(j) = Texto(azar);
-        v.LDer(j) = Real(azar, 0.05, 0.6);
-        v.LIzq(j) = Real(azar, 0.05, 0.6);
-        v.HC(j) = Real(azar, 0.2, 1.2);
-        auto c = static_cast<Clase>(Entero(azar, 0, 6));
+        v.LDer(j) = real(0.05, 0.6);
+        v.LIzq(j) = real(0.05, 0.6);
+        v.HC(j) = real(0.2, 1.2);
+        auto c = static_cast<Clase>(entero(0, 6));
         if (lleno && j <= 2) c = j == 1 ? Clase::ResorteV : Clase::Fijo; // every table has rows
         if (c == Clase::Fijo || c == Clase::RodilloX || c == Clase::Empotrado ||
             c == Clase::ResorteV)
             conApoyo.insert(j);
-        if (c >= Clase::Fijo && c <= Clase::Empotrado) {
-            v.Apoyo.RedimPreserve(v.NJRest + 1);
-            v.Apoyo(fila(v.NJRest, v.R1, j, {})) = apoyo[static_cast<int>(c)];
-        } else if (c == Clase::ResorteV || c == Clase::ResorteSinV) {
-            const long k = fila(v.NJRes, v.R10, j, {&v.SH10, &v.SV10, &v.SM10});
-            v.SH10(k) = Real(azar, 0, 1e6);
-            v.SV10(k) = c == Clase::ResorteV ? Real(azar, 1, 1e7) : 0.0;
-            v.SM10(k) = Real(azar, 0, 1e5);
-        }
-        if (lleno || Entero(azar, 0, 3) == 0) {
-            const long k = fila(v.NJDesp, v.R3, j, {&v.XX, &v.YY});
-            v.XX(k) = Real(azar, -0.5, 0.5);
-            v.YY(k) = Real(azar, -2, 2);
-        }
-        if (lleno || Entero(azar, 0, 2) == 0) {
-            const long k = fila(v.NAcc, v.R2, j, {&v.QC1, &v.QC2, &v.QC3});
-            for (auto* q : {&v.QC1, &v.QC2, &v.QC3}) (*q)(k) = Real(azar, -5000, 5000);
-        }
+        if (c >= Clase::Fijo && c <= Clase::Empotrado)
+            apoyos.push_back({junta, double(apoyo[static_cast<int>(c)])});
+        else if (c == Clase::ResorteV || c == Clase::ResorteSinV)
+            resortes.push_back(
+                {junta, real(0, 1e6), c == Clase::ResorteV ? real(1, 1e7) : 0.0, real(0, 1e5)});
+        if (lleno || entero(0, 3) == 0)
+            desplazadas.push_back({junta, real(-0.5, 0.5), real(-2, 2)});
+        if (lleno || entero(0, 2) == 0)
+            acciones.push_back({junta, real(-5000, 5000), real(-5000, 5000), real(-5000, 5000)});
     }
+    PonerApoyos(v, apoyos);
+    PonerResortes(v, resortes);
+    PonerDesplazadas(v, desplazadas);
+    PonerAcciones(v, acciones);
 
-    auto carga = [&] { return static_cast<std::int32_t>(Entero(azar, -20000, 20000)); };
-    auto cuenta = [&](long max) {
-        return static_cast<std::int16_t>(lleno ? max : Entero(azar, 0, max));
-    };
+    // Point loads at a length from the left end, partial loads at two lengths from the ends.
+    const auto carga = [&] { return static_cast<double>(entero(-20000, 20000)); };
     for (long t = 1; t <= v.NT; ++t) {
         const double l = v.LT(t);
-        v.W1(t) = carga();
-        v.Gravedad(t) = static_cast<std::uint8_t>(Entero(azar, 0, 1));
-        v.W4(t) = carga();
-        v.W5(t) = carga();
-        v.la5(t) = Real(azar, 0, l);
-        v.CantW2(t) = cuenta(MaxCargas10);
-        for (long k = 1; k <= v.CantW2(t); ++k) {
-            v.P(t, k) = carga();
-            v.LP(t, k) = Real(azar, 0, l);
+        v.Gravedad(t) = static_cast<std::uint8_t>(entero(0, 1));
+        PonerCargas(v, t, 1, {{carga()}});
+        PonerCargas(v, t, 4, {{carga()}});
+        PonerCargas(v, t, 5, {{carga(), real(0, l)}});
+        Filas puntuales = filas(MaxCargas10);
+        for (auto& f : puntuales) f = {carga(), real(0, l)};
+        PonerCargas(v, t, 2, puntuales);
+        for (const auto& [tipo, max] :
+             {std::pair{3, MaxCargas10}, {6, MaxCargas5}, {7, MaxCargas5}}) {
+            Filas parciales = filas(max);
+            for (auto& f : parciales) f = {carga(), real(0, l / 2), real(0, l / 2)};
+            PonerCargas(v, t, tipo, parciales);
         }
-        // Partial uniform loads: a value and the two lengths from the ends of the span.
-        auto tramo = [&](Arreglo<std::int16_t>& cant, long max, Arreglo2<std::int32_t>& w,
-                         Arreglo2<double>& la, Arreglo2<double>& lb) {
-            cant(t) = cuenta(max);
-            for (long k = 1; k <= cant(t); ++k) {
-                w(t, k) = carga();
-                la(t, k) = Real(azar, 0, l / 2);
-                lb(t, k) = Real(azar, 0, l / 2);
-            }
-        };
-        tramo(v.CantW3, MaxCargas10, v.W3_, v.La3_, v.Lb3_);
-        tramo(v.CantW6, MaxCargas5, v.W6_, v.La6_, v.Lb6_);
-        tramo(v.CantW7, MaxCargas5, v.W7_, v.La7_, v.Lb7_);
-        tramo(v.CantW8, MaxCargas5, v.WIzq8_, v.La8_, v.Lb8_);
-        for (long k = 1; k <= v.CantW8(t); ++k) v.WDer8_(t, k) = carga();
+        Filas trapecios = filas(MaxCargas5);
+        for (auto& f : trapecios) f = {carga(), carga(), real(0, l / 2), real(0, l / 2)};
+        PonerCargas(v, t, 8, trapecios);
     }
     return v;
 }
