@@ -11,8 +11,6 @@ namespace trevalo {
 
 namespace {
 
-inline constexpr long ErrAccesoArchivo = 75;
-
 ErrorTrevalo ErrorAcceso() {
     return ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
 }

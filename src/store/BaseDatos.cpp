@@ -57,13 +57,15 @@ Recordset FilasDeViga(BaseDatos& bd, const std::string& tabla, const std::string
 
 BaseDatos& Proyecto(EstadoProyecto& estado) {
     if (!estado.BDProyecto)
-        throw ErrorTrevalo(91, "Variable de objeto o bloque With no establecido");
+        throw ErrorTrevalo(ErrObjetoNoEstablecido,
+                           "Variable de objeto o bloque With no establecido");
     return *estado.BDProyecto;
 }
 
 Recordset& ListaVigas(EstadoProyecto& estado) {
     if (!estado.RsGeneralViga)
-        throw ErrorTrevalo(91, "Variable de objeto o bloque With no establecido");
+        throw ErrorTrevalo(ErrObjetoNoEstablecido,
+                           "Variable de objeto o bloque With no establecido");
     return *estado.RsGeneralViga;
 }
 

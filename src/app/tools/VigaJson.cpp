@@ -83,7 +83,7 @@ class Fila {
   private:
     const Json& Valor(const std::string& columna) const {
         const Json* v = Miembro(*fila_, columna);
-        if (v == nullptr) throw Error(ErrFaltaColumna, columna, "no existe");
+        if (v == nullptr) throw Error(ErrNoEnColeccion, columna, "no existe");
         return *v;
     }
     const Json& NoNulo(const std::string& columna) const {
@@ -109,7 +109,7 @@ class Fila {
 };
 
 ErrorTrevalo FormaNoValida(const std::string& texto) {
-    return {ErrJsonNoValido, texto};
+    return {ErrFormatoNoReconocido, texto};
 }
 
 // The rows of a table (an array of objects; missing means empty), in the order of `clave`.
@@ -147,7 +147,7 @@ const Json* FilaUnica(const Json& doc, const std::string& tabla) {
 const Fila& FilaNecesaria(const std::vector<Fila>& filas, std::size_t i, const std::string& tabla,
                           long necesarias) {
     if (i >= filas.size())
-        throw ErrorTrevalo(ErrFaltaFila,
+        throw ErrorTrevalo(ErrSinRegistroActual,
                            "La tabla \"" + tabla + "\" tiene " + std::to_string(filas.size()) +
                                " filas y la viga necesita " + std::to_string(necesarias) + ".");
     return filas[i];
@@ -220,7 +220,7 @@ void EscribirGrupo(Json& fila, const VigaActual& v, long t, const GrupoCargas& g
 void LeerProyecto(const Json& doc, ProyectoActual& p) {
     const Json* fila = FilaUnica(doc, "GeneralProyecto");
     if (fila == nullptr)
-        throw ErrorTrevalo(ErrFaltaFila, "La tabla \"GeneralProyecto\" no tiene su fila.");
+        throw ErrorTrevalo(ErrSinRegistroActual, "La tabla \"GeneralProyecto\" no tiene su fila.");
     const Fila f(*fila, "GeneralProyecto", 0);
     p.Proyecto = f.Texto("Proyecto");
     p.Propietario = f.Texto("Propietario");
