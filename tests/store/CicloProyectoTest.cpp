@@ -153,8 +153,11 @@ TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
     d.archivos = {En("proyectos", "Casa.trv")};
     ModificarProyecto(carpetas, estado, p);
     const DialogoArchivo modificar{"Modificar los Datos Generales del Proyecto",
-                                   ModoDialogo::Abrir, "Trevalo (*.trv)|*.trv", 1,
-                                   tmp / "proyectos", ""};
+                                   ModoDialogo::Abrir,
+                                   "Trevalo (*.trv)|*.trv",
+                                   1,
+                                   tmp / "proyectos",
+                                   ""};
     EXPECT_EQ(d.dialogosArchivo, std::vector<DialogoArchivo>{modificar});
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Casa.trv"});
     EXPECT_FALSE(estado.BDProyecto); // no such file: the failing open is ignored
