@@ -19,6 +19,19 @@
 namespace trevalo {
 namespace {
 
+// Counts the messages of the walk and answers none.
+class DialogosContados : public Dialogos {
+  public:
+    explicit DialogosContados(long& cuenta) : cuenta_(cuenta) {}
+    int Mensaje(const Pregunta&) override { return ++cuenta_, RespuestaAceptar; }
+    std::optional<std::string> Entrada(const PedidoTexto&) override { return std::nullopt; }
+    ArchivoElegido Archivo(const DialogoArchivo&) override { return {}; }
+    std::optional<std::int32_t> Color(std::int32_t) override { return std::nullopt; }
+
+  private:
+    long& cuenta_;
+};
+
 namespace fs = std::filesystem;
 
 void InformeCompletoPdf(benchmark::State& state) {
@@ -56,8 +69,8 @@ void InformeCompletoPdf(benchmark::State& state) {
         ResultadosViga resultados;
         EstadoPloteos vista;
         ModeloInforme modelo{estado, ajustes, viga, resultados, vista};
-        auto aviso = [&](const std::string&, const std::string&) { ++avisos; };
-        auto pasos = PasosPrograma(modelo, aviso, aviso);
+        DialogosContados dialogos(avisos);
+        auto pasos = PasosPrograma(modelo, dialogos);
         pasos.Progreso = [&](const std::string&, double) { ++progresos; };
 
         const double c0 = cpu();

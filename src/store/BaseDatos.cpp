@@ -67,10 +67,6 @@ Recordset& ListaVigas(EstadoProyecto& estado) {
     return *estado.RsGeneralViga;
 }
 
-std::string TituloError(const ErrorTrevalo& e) {
-    return "Error: " + std::to_string(e.Numero());
-}
-
 // --- LeerViga, table by table ------------------------------------------------------------
 
 void LeerCabecera(Recordset& rs, VigaActual& v) {
@@ -368,15 +364,13 @@ void EscribirTablasHijas(BaseDatos& bd, const VigaActual& v, const FormaEscritur
     });
 }
 
-// Runs a write of the beam in one transaction; on failure shows the engine's message and
-// brings the beam list back in line with the file.
-template <typename F>
-bool EscribirViga(EstadoProyecto& estado, const MostrarAviso& avisar, F escribir) {
+// Runs a write of the beam in one transaction; on failure brings the beam list back in line
+// with the file and raises the engine's error with the text the user reads.
+template <typename F> void EscribirViga(EstadoProyecto& estado, F escribir) {
     try {
         Transaccion t(Proyecto(estado));
         escribir(Proyecto(estado), ListaVigas(estado));
         t.Confirmar();
-        return true;
     } catch (const ErrorTrevalo& e) {
         // The transaction is taken back by now; the list re-reads the rows it had touched.
         try {
@@ -384,8 +378,7 @@ bool EscribirViga(EstadoProyecto& estado, const MostrarAviso& avisar, F escribir
         } catch (const ErrorTrevalo&) {
             // The list stays as it was; the message below is the one that matters.
         }
-        avisar(e.Descripcion() + "...    ", TituloError(e));
-        return false;
+        throw ErrorTrevalo(e.Numero(), e.Descripcion() + "...    ");
     }
 }
 
@@ -457,14 +450,14 @@ std::function<void(ProyectoActual&)> LectorGeneralProyecto(const BaseDatos& bd) 
     };
 }
 
-bool LeerViga(EstadoProyecto& estado, VigaActual& v, const MostrarAviso& avisar) {
+void LeerViga(EstadoProyecto& estado, VigaActual& v) {
     try {
         BaseDatos& bd = Proyecto(estado);
         auto cabecera =
             bd.AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {v.NombreVigaActual});
         if (cabecera.RecordCount() == 0) {
             NuevaVigaDefecto(v);
-            return true;
+            return;
         }
         LeerCabecera(cabecera, v);
         cabecera.Close();
@@ -474,17 +467,15 @@ bool LeerViga(EstadoProyecto& estado, VigaActual& v, const MostrarAviso& avisar)
         LeerTipos(bd, v);
         LeerCargas(bd, v);
         LeerAcciones(bd, v);
-        return true;
     } catch (const ErrorTrevalo& e) {
-        avisar("Hay un Error en los Datos de la Viga: " + v.NombreVigaActual + "...    ",
-               TituloError(e));
         NuevaVigaDefecto(v);
-        return false;
+        throw ErrorTrevalo(
+            e.Numero(), "Hay un Error en los Datos de la Viga: " + v.NombreVigaActual + "...    ");
     }
 }
 
-bool SalvarViga(EstadoProyecto& estado, VigaActual& v, const MostrarAviso& avisar) {
-    const bool escrita = EscribirViga(estado, avisar, [&](BaseDatos& bd, Recordset& lista) {
+void SalvarViga(EstadoProyecto& estado, VigaActual& v) {
+    EscribirViga(estado, [&](BaseDatos& bd, Recordset& lista) {
         if (v.VigaNueva) {
             lista.AddNew();
             lista.Campo("NombreViga", Valor(v.NombreVigaActual));
@@ -494,16 +485,13 @@ bool SalvarViga(EstadoProyecto& estado, VigaActual& v, const MostrarAviso& avisa
         EscribirCabecera(lista, v);
         EscribirTablasHijas(bd, v, {v.NombreVigaActual, false});
     });
-    if (escrita) {
-        estado.BeamNuevo = true;
-        v.VigaNueva = false;
-    }
-    return escrita;
+    estado.BeamNuevo = true;
+    v.VigaNueva = false;
 }
 
-bool CopiarViga(EstadoProyecto& estado, const VigaActual& v, const MostrarAviso& avisar) {
+void CopiarViga(EstadoProyecto& estado, const VigaActual& v) {
     const std::string copia = estado.NombreCopiaViga;
-    return EscribirViga(estado, avisar, [&](BaseDatos& bd, Recordset& lista) {
+    EscribirViga(estado, [&](BaseDatos& bd, Recordset& lista) {
         bd.Ejecutar("DELETE FROM GeneralViga WHERE NombreViga=?", {copia});
         lista.AddNew();
         lista.Campo("NombreViga", Valor(copia));

@@ -62,11 +62,7 @@ inline void CrearProyecto(const std::filesystem::path& ruta, const std::vector<V
     estado.BDProyecto = BaseDatos::Abrir(ruta.string());
     SalvarGeneralProyecto(*estado.BDProyecto, ajustes);
     AbrirRsGeneralViga(estado, ConsultaListaVigas);
-    for (auto v : vigas) {
-        std::string error;
-        if (!SalvarViga(estado, v, [&](const std::string& t, const std::string&) { error = t; }))
-            throw std::runtime_error("SalvarViga: " + error);
-    }
+    for (auto v : vigas) SalvarViga(estado, v);
 }
 
 } // namespace trevalo

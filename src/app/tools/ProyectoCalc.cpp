@@ -1,7 +1,6 @@
 #include "app/tools/ProyectoCalc.h"
 
 #include <filesystem>
-#include <optional>
 
 #include "store/BaseDatos.h"
 
@@ -60,12 +59,7 @@ void CargarVigaCalc(EstadoProyecto& estado, const std::string& nombre, ProyectoA
     if (estado.BDProyecto->AbrirRecordset("GeneralProyecto").RecordCount() == 0)
         throw ErrorTrevalo(ErrFaltaGeneral, "El proyecto no tiene datos generales.");
     LeerGeneralProyecto(*estado.BDProyecto, proyecto);
-    std::optional<ErrorTrevalo> fallo;
-    LeerViga(estado, viga, [&](const std::string& texto, const std::string& titulo) {
-        // The store's title is "Error: " and the number.
-        fallo.emplace(std::stol(titulo.substr(std::string("Error: ").size())), texto);
-    });
-    if (fallo) throw *fallo;
+    LeerViga(estado, viga);
 }
 
 } // namespace trevalo::calc
