@@ -7,7 +7,7 @@
 
 #include "CarpetaTemporal.h"
 #include "VerificaError.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 #include "profiles/TablaPerfiles.h"
 
 namespace trevalo {

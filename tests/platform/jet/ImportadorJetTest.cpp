@@ -13,8 +13,8 @@
 #include <unistd.h>
 
 #include "VerificaError.h"
-#include "platform/ImportadorJet.h"
-#include "platform/MotorDatos.h"
+#include "platform/jet/ImportadorJet.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "AplicacionQtPrueba.h"
 #include "VerificaError.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 using namespace trevalo;
 

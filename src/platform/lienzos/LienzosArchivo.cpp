@@ -1,4 +1,4 @@
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 #include <QPageSize>
 #include <QPdfWriter>

@@ -1,4 +1,4 @@
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>

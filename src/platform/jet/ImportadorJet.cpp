@@ -1,4 +1,4 @@
-#include "platform/ImportadorJet.h"
+#include "platform/jet/ImportadorJet.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -9,7 +9,7 @@
 
 #include <mdbtools.h>
 
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 

@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "VerificaError.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 namespace {
