@@ -11,13 +11,26 @@
 #include <ctime>
 #include <filesystem>
 
-#include "ProyectoPrueba.h"
+#include "comun/Proyecto.h"
 #include "output/BaseInforme.h"
 #include "output/EscritoresInforme.h"
 #include "output/PasosPrograma.h"
 
 namespace trevalo {
 namespace {
+
+// Counts the messages of the walk and answers none.
+class DialogosContados : public Dialogos {
+  public:
+    explicit DialogosContados(long& cuenta) : cuenta_(cuenta) {}
+    int Mensaje(const Pregunta&) override { return ++cuenta_, RespuestaAceptar; }
+    std::optional<std::string> Entrada(const PedidoTexto&) override { return std::nullopt; }
+    ArchivoElegido Archivo(const DialogoArchivo&) override { return {}; }
+    std::optional<std::int32_t> Color(std::int32_t) override { return std::nullopt; }
+
+  private:
+    long& cuenta_;
+};
 
 namespace fs = std::filesystem;
 
@@ -34,10 +47,10 @@ void InformeCompletoPdf(benchmark::State& state) {
     std::vector<VigaActual> vigas;
     std::vector<std::string> nombres;
     for (int i = 0; i < 100; ++i) {
-        vigas.push_back(VigaPrueba("V-" + std::to_string(101 + i), i));
+        vigas.push_back(prueba::VigaPrueba("V-" + std::to_string(101 + i), i));
         nombres.push_back(vigas.back().NombreVigaActual);
     }
-    CrearProyecto(proyecto, vigas);
+    prueba::CrearProyecto(proyecto.string(), vigas, prueba::AjustesPrueba());
     const auto temporal = (carpeta / "Temporal.mdb").string();
     const auto pdf = (carpeta / "Informe.pdf").string();
 
@@ -56,8 +69,8 @@ void InformeCompletoPdf(benchmark::State& state) {
         ResultadosViga resultados;
         EstadoPloteos vista;
         ModeloInforme modelo{estado, ajustes, viga, resultados, vista};
-        auto aviso = [&](const std::string&, const std::string&) { ++avisos; };
-        auto pasos = PasosPrograma(modelo, aviso, aviso);
+        DialogosContados dialogos(avisos);
+        auto pasos = PasosPrograma(modelo, dialogos);
         pasos.Progreso = [&](const std::string&, double) { ++progresos; };
 
         const double c0 = cpu();

@@ -7,7 +7,7 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/Ploteos.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 namespace trevalo {
 namespace {
@@ -101,13 +101,14 @@ void PlotearVigaPorVista(benchmark::State& estadoBanco) {
     estado.VerDiseno = vista == 3;
     estado.VerReacciones = vista == 4;
     LienzoImagen lienzo(1600, 900);
-    std::string falla;
-    const AvisoFalla aviso = [&](const std::string& texto, const std::string&) { falla = texto; };
-    for (auto _ : estadoBanco) {
-        PlotearViga(lienzo, estado, proyecto, viga, resultados, aviso);
-        benchmark::DoNotOptimize(lienzo.Imagen().constBits());
+    try {
+        for (auto _ : estadoBanco) {
+            PlotearViga(lienzo, estado, proyecto, viga, resultados);
+            benchmark::DoNotOptimize(lienzo.Imagen().constBits());
+        }
+    } catch (const ErrorTrevalo& e) {
+        estadoBanco.SkipWithError(e.Descripcion().c_str());
     }
-    if (!falla.empty()) estadoBanco.SkipWithError(falla.c_str());
 }
 
 BENCHMARK(PlotearVigaPorVista)->DenseRange(1, 4)->Unit(benchmark::kMillisecond);

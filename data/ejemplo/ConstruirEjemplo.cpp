@@ -21,9 +21,6 @@ void Construir(const std::string& plantilla, const std::string& destino, int nVi
     fs::copy_file(plantilla, destino, fs::copy_options::overwrite_existing);
     EstadoProyecto estado;
     estado.BDProyecto = BaseDatos::Abrir(destino);
-    const MostrarAviso avisar = [](const std::string& texto, const std::string& titulo) {
-        throw ErrorTrevalo(0, titulo + ": " + texto);
-    };
     for (int i = 0; i < nVigas; ++i) {
         ProyectoActual proyecto;
         VigaActual viga;
@@ -31,7 +28,7 @@ void Construir(const std::string& plantilla, const std::string& destino, int nVi
         if (i == 0) SalvarGeneralProyecto(*estado.BDProyecto, proyecto);
         AbrirRsGeneralViga(estado, ConsultaListaVigas);
         viga.VigaNueva = true;
-        SalvarViga(estado, viga, avisar);
+        SalvarViga(estado, viga);
     }
 }
 

@@ -53,13 +53,13 @@ void PlotearVista(Lienzo& lienzo, EstadoPloteos& estado, const ProyectoActual& p
 } // namespace
 
 void PlotearViga(Lienzo& lienzo, EstadoPloteos& estado, const ProyectoActual& proyecto,
-                 VigaActual& viga, const ResultadosViga& resultados, const AvisoFalla& aviso) {
+                 VigaActual& viga, const ResultadosViga& resultados) {
     try {
         PlotearVista(lienzo, estado, proyecto, viga, resultados);
-    } catch (const ErrorTrevalo& e) {
+    } catch (const ErrorTrevalo&) {
         lienzo.LockWindowUpdate(false);
         lienzo.Refresh();
-        if (aviso) aviso(e.Descripcion() + "    ", "Error Número: " + std::to_string(e.Numero()));
+        throw;
     }
 }
 

@@ -4,7 +4,6 @@
 // grid. Rounding to pixels is CI (ties to even), applied only when a value is handed to the
 // canvas; offsets are added in double before.
 
-#include <functional>
 #include <string>
 
 #include "drawing/EstadoPloteos.h"
@@ -13,18 +12,14 @@
 
 namespace trevalo {
 
-// Shows a fault of a redraw to the user: the message box's text and title.
-using AvisoFalla = std::function<void(const std::string& texto, const std::string& titulo)>;
-
 // Paints the current beam: grid (on screen), elevation, title, joint numbers and, outside
 // the editor, the result view chosen by VerDiagramas, VerDiseno or VerReacciones. Sets
 // viga.LongTotal and the geometry and transform of `estado`. A beam with no span or no
 // length leaves the grid alone, and the canvas frozen. Any fault of the program's error type
-// unfreezes and refreshes the canvas and goes to `aviso` with the text "<description>    "
-// and the title "Error Número: <number>" (an empty `aviso` shows nothing); the state stays
-// as it is.
+// unfreezes and refreshes the canvas and is raised again for the window to show; the state
+// stays as it is, and the next redraw starts from the beginning.
 void PlotearViga(Lienzo& lienzo, EstadoPloteos& estado, const ProyectoActual& proyecto,
-                 VigaActual& viga, const ResultadosViga& resultados, const AvisoFalla& aviso);
+                 VigaActual& viga, const ResultadosViga& resultados);
 
 // The transform for this canvas: Escala, EscalaInversa, FactorSimbolo, OrigenX, OrigenY,
 // BaseY, from the geometry already in `estado` (GeometriaPlot) and the beam's LongTotal.

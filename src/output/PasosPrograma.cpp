@@ -2,7 +2,7 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "output/GraficoPng.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 namespace trevalo {
 
@@ -29,26 +29,33 @@ void VistaDeInforme(EstadoPloteos& vista, VistaInforme paso) {
     vista.VerJuntas = false;
 }
 
-PasosInforme PasosPrograma(ModeloInforme& m, const MostrarAviso& avisarViga,
-                           const AvisoFalla& avisarFalla) {
+PasosInforme PasosPrograma(ModeloInforme& m, Dialogos& dialogos) {
     PasosInforme pasos;
-    pasos.CargarViga = [&m, avisarViga](const std::string& nombre) {
+    pasos.CargarViga = [&m, &dialogos](const std::string& nombre) {
         m.viga.NombreVigaActual = nombre;
-        LeerViga(m.estado, m.viga, avisarViga);
+        try {
+            LeerViga(m.estado, m.viga);
+        } catch (const ErrorTrevalo& e) {
+            dialogos.Mensaje(MensajeError(e));
+        }
     };
-    pasos.Analizar = [&m, avisarFalla] {
+    pasos.Analizar = [&m, &dialogos] {
         try {
             AnalizarViga(LectorGeneralProyecto(*m.estado.BDProyecto), m.proyecto, m.viga,
                          m.resultados);
         } catch (const ErrorTrevalo& e) {
-            avisarFalla(e.Descripcion() + "    ", "Error Número: " + std::to_string(e.Numero()));
+            dialogos.Mensaje(MensajeFalla(e));
         }
     };
-    pasos.Pintar = [&m, avisarFalla](VistaInforme paso) {
+    pasos.Pintar = [&m, &dialogos](VistaInforme paso) {
         VistaDeInforme(m.vista, paso);
         LienzoImagen lienzo(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
         lienzo.Cls();
-        PlotearViga(lienzo, m.vista, m.proyecto, m.viga, m.resultados, avisarFalla);
+        try {
+            PlotearViga(lienzo, m.vista, m.proyecto, m.viga, m.resultados);
+        } catch (const ErrorTrevalo& e) {
+            dialogos.Mensaje(MensajeFalla(e));
+        }
         return CodificarPng(lienzo.Imagen());
     };
     return pasos;

@@ -15,6 +15,7 @@
 #include "model/Viga.h"
 #include "output/LlenarImpreDatos.h"
 #include "store/BaseDatos.h"
+#include "store/Dialogos.h"
 #include "store/EstadoProyecto.h"
 
 namespace trevalo {
@@ -35,12 +36,10 @@ FilaGenerales FilaGeneralesDe(const ProyectoActual& proyecto, const std::string&
 // The view state of a report picture of the given step.
 void VistaDeInforme(EstadoPloteos& vista, VistaInforme paso);
 
-// Load, solve and paint bound to the model. `avisarViga` shows a bad beam (the store's
-// message); `avisarFalla` shows a fault of the analysis or of the painting ("<text>    ",
-// "Error Número: <n>"), after which the walk goes on with what the model and the canvas
-// hold: a beam that cannot be solved is painted with no results. Progress and panel are
-// left to the caller.
-PasosInforme PasosPrograma(ModeloInforme& modelo, const MostrarAviso& avisarViga,
-                           const AvisoFalla& avisarFalla);
+// Load, solve and paint bound to the model. A bad beam shows the store's message
+// (MensajeError); a fault of the analysis or of the painting shows MensajeFalla; then the walk
+// goes on with what the model and the canvas hold: a beam that cannot be solved is painted
+// with no results. Progress and panel are left to the caller.
+PasosInforme PasosPrograma(ModeloInforme& modelo, Dialogos& dialogos);
 
 } // namespace trevalo

@@ -7,9 +7,9 @@
 // was. Name comparisons ignore case (the engine's collation): "viga ñ" and "VIGA Ñ" are one
 // beam.
 //
-// Failures. LeerViga, SalvarViga and CopiarViga trap every error of the program's type and
-// show it through `avisar` (exclamation box): the text and title below, "Error: " and the
-// error's number. The others raise it.
+// Failures. Every operation raises the program's error. LeerViga, SalvarViga and CopiarViga
+// raise it with the number of the error they met and the text the user reads (below); the
+// windows show it with "Error: " and the number in the title (MensajeError).
 
 #include <functional>
 #include <string>
@@ -18,9 +18,6 @@
 #include "store/EstadoProyecto.h"
 
 namespace trevalo {
-
-// Shows a message box with an exclamation mark.
-using MostrarAviso = std::function<void(const std::string& texto, const std::string& titulo)>;
 
 // The tables that hold a beam by the key NombreViga, in the order of rename and delete.
 extern const char* const TablasViga[9];
@@ -39,23 +36,23 @@ std::function<void(ProyectoActual&)> LectorGeneralProyecto(const BaseDatos& bd);
 
 // Loads the beam viga.NombreVigaActual. A name not in GeneralViga gives the default beam
 // without a message. A bad row (Null, a table shorter than the spans or joints, a count
-// beyond its slots) shows "Hay un Error en los Datos de la Viga: " + name + "...    " and
-// leaves the default beam of that name. Returns whether the beam was read.
-bool LeerViga(EstadoProyecto& estado, VigaActual& viga, const MostrarAviso& avisar);
+// beyond its slots) leaves the default beam of that name and raises the error met with the
+// text "Hay un Error en los Datos de la Viga: " + name + "...    ".
+void LeerViga(EstadoProyecto& estado, VigaActual& viga);
 
 // Writes the beam under viga.NombreVigaActual: a new header row on RsGeneralViga when
 // VigaNueva, else the row where RsGeneralViga stands; then the eight child tables, old rows
 // deleted first. A joint keeps LDer, LIzq, HC only if it carries a vertical support (in R1
 // with Apoyo other than 3, or in R10 with SV10 not 0); others are written as 0. On success
-// BeamNuevo = true and VigaNueva = false. On failure: the engine's text + "...    ", and
-// the file and RsGeneralViga are as they were. Returns whether the beam was written.
-bool SalvarViga(EstadoProyecto& estado, VigaActual& viga, const MostrarAviso& avisar);
+// BeamNuevo = true and VigaNueva = false. On failure the file and RsGeneralViga are as they
+// were, and the engine's error is raised with its text + "...    ".
+void SalvarViga(EstadoProyecto& estado, VigaActual& viga);
 
 // Writes the beam under estado.NombreCopiaViga, replacing a beam of that name, with a new
 // header row on RsGeneralViga. Kept as users know it: every joint's LDer, LIzq, HC are
 // written, and column W3_k of the loads receives the point load P(t, k). Neither VigaNueva
 // nor BeamNuevo changes. Failure as in SalvarViga.
-bool CopiarViga(EstadoProyecto& estado, const VigaActual& viga, const MostrarAviso& avisar);
+void CopiarViga(EstadoProyecto& estado, const VigaActual& viga);
 
 // Whether GeneralViga holds a beam of that name (case ignored).
 bool ExisteViga(BaseDatos& bd, const std::string& nombre);

@@ -48,8 +48,15 @@ std::string Mayusculas(const std::string& texto) {
 
 int Preguntar(EstadoProyecto& estado, PlataformaProyecto& plataforma, const Pregunta& pregunta) {
     estado.Mensaje = pregunta.Texto;
-    estado.Respuesta = plataforma.Preguntar(pregunta);
+    estado.Respuesta = plataforma.dialogos.Mensaje(pregunta);
     return estado.Respuesta;
+}
+
+// A project file dialog: FiltroProyectos, filter 1, no name, starting in RutaProyectos.
+ArchivoElegido PedirProyecto(const std::string& titulo, ModoDialogo modo,
+                             const CarpetasPrograma& carpetas, PlataformaProyecto& plataforma) {
+    return plataforma.dialogos.Archivo(
+        {titulo, modo, FiltroProyectos, 1, carpetas.RutaProyectos, ""});
 }
 
 Pregunta SiNo(std::string texto, std::string titulo, IconoMensaje icono, int defecto) {
@@ -80,8 +87,7 @@ void ElegirProyecto(const ArchivoElegido& archivo, EstadoProyecto& estado,
 bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpetas,
                         EstadoProyecto& estado, PlataformaProyecto& plataforma) {
     if (!Recortado(estado.NombreProyecto).empty()) return true;
-    const ArchivoElegido archivo =
-        plataforma.PedirArchivo(titulo, ModoDialogo::Abrir, carpetas.RutaProyectos);
+    const ArchivoElegido archivo = PedirProyecto(titulo, ModoDialogo::Abrir, carpetas, plataforma);
     if (archivo.Cancelado) return false;
     ElegirProyecto(archivo, estado, plataforma);
     return true;
@@ -89,10 +95,10 @@ bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpe
 
 ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
     if (ec == std::errc::no_such_file_or_directory)
-        return ErrorTrevalo(53, "No se encontró el archivo");
+        return ErrorTrevalo(ErrArchivoNoEncontrado, "No se encontró el archivo");
     if (ec == std::errc::permission_denied || ec == std::errc::operation_not_permitted)
-        return ErrorTrevalo(70, "Permiso denegado");
-    return ErrorTrevalo(75, "Error de acceso a la ruta o el archivo");
+        return ErrorTrevalo(ErrPermisoDenegado, "Permiso denegado");
+    return ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
 }
 
 } // namespace
@@ -134,8 +140,8 @@ std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoPro
 void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                         PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
-    const ArchivoElegido archivo = plataforma.PedirArchivo(
-        "Crear un Nuevo Proyecto", ModoDialogo::Salvar, carpetas.RutaProyectos);
+    const ArchivoElegido archivo =
+        PedirProyecto("Crear un Nuevo Proyecto", ModoDialogo::Salvar, carpetas, plataforma);
     if (archivo.Cancelado) return;
 
     if (plataforma.ExisteArchivo(archivo.FileName)) {
@@ -169,8 +175,8 @@ void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
 void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                    PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
-    const ArchivoElegido archivo = plataforma.PedirArchivo(
-        "Abrir un Proyecto Existente", ModoDialogo::Abrir, carpetas.RutaProyectos);
+    const ArchivoElegido archivo =
+        PedirProyecto("Abrir un Proyecto Existente", ModoDialogo::Abrir, carpetas, plataforma);
     if (archivo.Cancelado) return;
     ElegirProyecto(archivo, estado, plataforma);
 }
@@ -201,8 +207,8 @@ void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
 void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                         PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
-    const ArchivoElegido archivo = plataforma.PedirArchivo(
-        "Salvar el Proyecto Actual con otro Nombre", ModoDialogo::Salvar, carpetas.RutaProyectos);
+    const ArchivoElegido archivo = PedirProyecto("Salvar el Proyecto Actual con otro Nombre",
+                                                 ModoDialogo::Salvar, carpetas, plataforma);
     if (archivo.Cancelado) return;
 
     // One question only, under the title of creating: kept as users know it.
@@ -224,8 +230,8 @@ void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
 void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                       PlataformaProyecto& plataforma) {
     PunteroNormalAlSalir puntero(plataforma);
-    const ArchivoElegido archivo = plataforma.PedirArchivo(
-        "Eliminar Proyecto de Vigas", ModoDialogo::Abrir, carpetas.RutaProyectos);
+    const ArchivoElegido archivo =
+        PedirProyecto("Eliminar Proyecto de Vigas", ModoDialogo::Abrir, carpetas, plataforma);
     if (archivo.Cancelado) return;
 
     const Pregunta primera =
@@ -240,7 +246,7 @@ void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     try {
         plataforma.BorrarArchivo(archivo.FileName);
     } catch (const ErrorTrevalo& e) {
-        plataforma.Preguntar(
+        plataforma.dialogos.Mensaje(
             Aviso(e.Descripcion() + "      ", "Error Número: " + std::to_string(e.Numero())));
         return;
     }

@@ -21,55 +21,24 @@
 #include <functional>
 #include <string>
 
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 #include "store/CarpetasPrograma.h"
+#include "store/Dialogos.h"
 #include "store/EstadoProyecto.h"
 
 namespace trevalo {
 
-enum class ModoDialogo { Abrir, Salvar };
-
-// The answer of a file dialog: the full path and the file title (name with extension).
-struct ArchivoElegido {
-    bool Cancelado = true;
-    std::string FileName;
-    std::string FileTitle;
-};
-
-enum class BotonesMensaje { Aceptar, SiNo };
-enum class IconoMensaje { Ninguno, Pregunta, Advertencia };
-
-// Buttons pressed, as the message box reports them.
-inline constexpr int RespuestaAceptar = 1;
-inline constexpr int RespuestaSi = 6;
-inline constexpr int RespuestaNo = 7;
-
-// One message box: text (lines joined by "\n", trailing blanks part of it), title, buttons,
-// icon and the default button (1 the first, 2 the second).
-struct Pregunta {
-    std::string Texto;
-    std::string Titulo;
-    BotonesMensaje Botones = BotonesMensaje::Aceptar;
-    IconoMensaje Icono = IconoMensaje::Ninguno;
-    int BotonDefecto = 1;
-
-    bool operator==(const Pregunta&) const = default;
-};
-
 // Filter of every project file dialog; filter index 1, file name preset empty.
 inline constexpr const char* FiltroProyectos = "Trevalo (*.trv)|*.trv";
 
-// What the lifecycle asks of the screens and the files. File and database operations raise
-// ErrorTrevalo on failure.
+// What the lifecycle asks of the screens and the files: its questions and file dialogs go
+// through `dialogos`. File and database operations raise ErrorTrevalo on failure.
 class PlataformaProyecto {
   public:
+    explicit PlataformaProyecto(Dialogos& d) : dialogos(d) {}
     virtual ~PlataformaProyecto() = default;
-    // A file dialog with FiltroProyectos, starting in `carpeta`; in save mode a name typed
-    // without extension takes ".trv" from the filter, and FileTitle is the name so completed.
-    virtual ArchivoElegido PedirArchivo(const std::string& titulo, ModoDialogo modo,
-                                        const std::string& carpeta) = 0;
-    // A message box; returns the button pressed (RespuestaSi, RespuestaNo, RespuestaAceptar).
-    virtual int Preguntar(const Pregunta& pregunta) = 0;
+    Dialogos& dialogos;
+
     virtual bool ExisteArchivo(const std::string& ruta) = 0;
     virtual void CopiarArchivo(const std::string& origen, const std::string& destino) = 0;
     virtual void BorrarArchivo(const std::string& ruta) = 0;
@@ -90,6 +59,7 @@ class PlataformaProyecto {
 // "Error de acceso a la ruta o el archivo" otherwise. A copy replaces its destination.
 class PlataformaProyectoDisco : public PlataformaProyecto {
   public:
+    using PlataformaProyecto::PlataformaProyecto;
     bool ExisteArchivo(const std::string& ruta) override;
     void CopiarArchivo(const std::string& origen, const std::string& destino) override;
     void BorrarArchivo(const std::string& ruta) override;

@@ -3,7 +3,6 @@
 // with settings and beams saved through the beam store; and the beams of a small report.
 
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,9 +22,7 @@ inline void CrearProyecto(const std::string& ruta, const std::vector<VigaActual>
     AbrirRsGeneralViga(estado, ConsultaListaVigas);
     for (VigaActual v : vigas) {
         v.VigaNueva = true;
-        std::string error;
-        if (!SalvarViga(estado, v, [&](const std::string& t, const std::string&) { error = t; }))
-            throw std::runtime_error("SalvarViga: " + error);
+        SalvarViga(estado, v);
     }
 }
 

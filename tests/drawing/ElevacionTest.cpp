@@ -29,11 +29,16 @@ Dibujado Plotear(VigaActual viga, double zoom = 1, EstadoPloteos estado = {},
     d.estado = estado;
     ResultadosViga resultados;
     if (zoom != 1) { // the symbol factor is calibrated by a redraw at zoom 1
-        PlotearViga(d.lienzo, d.estado, proyecto, viga, resultados, {});
+        PlotearViga(d.lienzo, d.estado, proyecto, viga, resultados);
         d.estado.FactorZoom = zoom;
     }
     d.lienzo.Borrar();
-    PlotearViga(d.lienzo, d.estado, proyecto, viga, resultados, {});
+    try {
+        PlotearViga(d.lienzo, d.estado, proyecto, viga, resultados);
+    } catch (const ErrorTrevalo&) {
+        // A result view over a beam never solved faults after the elevation is drawn; these
+        // tests look at the elevation only.
+    }
     return d;
 }
 

@@ -10,6 +10,7 @@
 
 #include "BaseTemporal.h"
 #include "comun/AplicacionQt.h"
+#include "comun/DialogosGuion.h"
 #include "comun/Proyecto.h"
 #include "output/BaseInforme.h"
 #include "output/GraficoPng.h"
@@ -39,14 +40,13 @@ class ProgramaInformeTest : public BaseTemporalTest {
     // Runs the fill on the project with the given options; returns the messages shown.
     std::vector<std::string> Llenar(const std::vector<std::string>& vigas,
                                     const OpcionesImpresion& opciones) {
-        std::vector<std::string> avisos;
         estado.BDProyecto = BaseDatos::Abrir(proyecto);
         LeerGeneralProyecto(*estado.BDProyecto, ajustes);
-        auto aviso = [&](const std::string& texto, const std::string& titulo) {
-            avisos.push_back(titulo + "|" + texto);
-        };
-        auto pasos = PasosPrograma(modelo, aviso, aviso);
+        prueba::DialogosGuion dialogos;
+        auto pasos = PasosPrograma(modelo, dialogos);
         LlenarImpreDatos(ruta, FilaGeneralesDe(ajustes, "usuario", "6.0"), vigas, opciones, pasos);
+        std::vector<std::string> avisos;
+        for (const auto& p : dialogos.preguntas) avisos.push_back(p.Titulo + "|" + p.Texto);
         return avisos;
     }
 

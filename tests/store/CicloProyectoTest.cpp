@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "comun/Carpeta.h"
+#include "comun/DialogosGuion.h"
 #include "store/CicloProyecto.h"
 
 namespace fs = std::filesystem;
@@ -18,10 +19,7 @@ namespace {
 
 class PlataformaGuionada : public PlataformaProyectoDisco {
   public:
-    std::deque<ArchivoElegido> archivos;
-    std::deque<int> respuestas;
-    std::vector<std::string> dialogos; // titles of the file dialogs shown
-    std::vector<Pregunta> preguntas;
+    using PlataformaProyectoDisco::PlataformaProyectoDisco;
     std::vector<std::string> basesAbiertas;
     std::vector<bool> datosGenerales; // ProyectoNuevo of each showing of DatosG
     int ventanasProyecto = 0;
@@ -29,21 +27,6 @@ class PlataformaGuionada : public PlataformaProyectoDisco {
     bool salvarComo = false;
     bool espera = false;
 
-    ArchivoElegido PedirArchivo(const std::string& t, ModoDialogo modo,
-                                const std::string& carpeta) override {
-        dialogos.push_back(t + (modo == ModoDialogo::Abrir ? " [abrir] " : " [salvar] ") + carpeta);
-        if (archivos.empty()) return {};
-        ArchivoElegido a = archivos.front();
-        archivos.pop_front();
-        return a;
-    }
-    int Preguntar(const Pregunta& p) override {
-        preguntas.push_back(p);
-        if (respuestas.empty()) return RespuestaAceptar;
-        const int r = respuestas.front();
-        respuestas.pop_front();
-        return r;
-    }
     BaseDatos AbrirBaseDatos(const std::string& ruta) override {
         basesAbiertas.push_back(ruta);
         return PlataformaProyectoDisco::AbrirBaseDatos(ruta);
@@ -76,7 +59,8 @@ class Ciclo : public ::testing::Test {
     CarpetaTemporal tmp;
     CarpetasPrograma carpetas;
     EstadoProyecto estado;
-    PlataformaGuionada p;
+    prueba::DialogosGuion d;
+    PlataformaGuionada p{d};
     std::string vacio; // the bytes of the empty project
 };
 
@@ -85,16 +69,16 @@ const std::string TituloCrear = "Crear Nuevo Proyecto";
 TEST_F(Ciclo, CrearSobreArchivoExistentePreguntaDosVecesYLoReemplaza) {
     EscribirArchivo(tmp / "proyectos/Edificio.trv", "vigas del usuario");
     estado.BDProyecto = BaseDatos::Abrir(Plantilla()); // the handle held until now
-    p.archivos = {En("proyectos", "Edificio.trv")};
-    p.respuestas = {RespuestaSi, RespuestaSi};
+    d.archivos = {En("proyectos", "Edificio.trv")};
+    d.respuestas = {RespuestaSi, RespuestaSi};
 
     CrearNuevoProyecto(carpetas, estado, p);
 
-    ASSERT_EQ(p.preguntas.size(), 2u);
-    EXPECT_EQ(p.preguntas[0],
+    ASSERT_EQ(d.preguntas.size(), 2u);
+    EXPECT_EQ(d.preguntas[0],
               (Pregunta{"Proyecto: Edificio.trv ya Existe...    \n¿Desea Reemplazarlo?    ",
                         TituloCrear, BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}));
-    EXPECT_EQ(p.preguntas[1],
+    EXPECT_EQ(d.preguntas[1],
               (Pregunta{"Proyecto: Edificio.trv    \n\n¿Esta Seguro de Reemplazarlo?    ",
                         TituloCrear, BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), vacio);
@@ -112,12 +96,12 @@ class CrearRespuestas : public Ciclo, public ::testing::WithParamInterface<std::
 TEST_P(CrearRespuestas, NoDejaTodoIgual) {
     EscribirArchivo(tmp / "proyectos/Edificio.trv", "vigas del usuario");
     estado.NombreProyecto = "Anterior.trv";
-    p.archivos = {En("proyectos", "Edificio.trv")};
-    p.respuestas = {GetParam().begin(), GetParam().end()};
+    d.archivos = {En("proyectos", "Edificio.trv")};
+    d.respuestas = {GetParam().begin(), GetParam().end()};
 
     CrearNuevoProyecto(carpetas, estado, p);
 
-    EXPECT_EQ(p.preguntas.size(), GetParam().size());
+    EXPECT_EQ(d.preguntas.size(), GetParam().size());
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), "vigas del usuario");
     EXPECT_EQ(estado.NombreProyecto, "Anterior.trv");
     EXPECT_TRUE(p.basesAbiertas.empty());
@@ -130,8 +114,8 @@ INSTANTIATE_TEST_SUITE_P(Guiones, CrearRespuestas,
 
 TEST_F(Ciclo, CrearEnOtraCarpetaCopiaEnProyectos) {
     EscribirArchivo(tmp / "otra/Puente.trv", "ajeno");
-    p.archivos = {En("otra", "Puente.trv")};
-    p.respuestas = {RespuestaSi, RespuestaSi};
+    d.archivos = {En("otra", "Puente.trv")};
+    d.respuestas = {RespuestaSi, RespuestaSi};
 
     CrearNuevoProyecto(carpetas, estado, p);
 
@@ -151,12 +135,12 @@ TEST_F(Ciclo, CancelarNoCambiaNada) {
     }
     EXPECT_EQ(estado.NombreProyecto, "Actual.trv");
     EXPECT_EQ(p.titulo, "sin titulo");
-    EXPECT_TRUE(p.preguntas.empty());
-    EXPECT_EQ(p.dialogos.size(), 4u);
+    EXPECT_TRUE(d.preguntas.empty());
+    EXPECT_EQ(d.dialogosArchivo.size(), 4u);
 }
 
 TEST_F(Ciclo, AbrirEligeSinAbrirLaBase) {
-    p.archivos = {En("otra", "Galpon.trv")};
+    d.archivos = {En("otra", "Galpon.trv")};
     AbrirProyecto(carpetas, estado, p);
     EXPECT_EQ(estado.NombreProyecto, "Galpon.trv");
     EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "proyectos/Galpon.trv");
@@ -167,23 +151,27 @@ TEST_F(Ciclo, AbrirEligeSinAbrirLaBase) {
 
 TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
     estado.NombreProyecto = "   ";
-    p.archivos = {En("proyectos", "Casa.trv")};
+    d.archivos = {En("proyectos", "Casa.trv")};
     ModificarProyecto(carpetas, estado, p);
-    EXPECT_EQ(p.dialogos, std::vector<std::string>{"Modificar los Datos Generales del "
-                                                   "Proyecto [abrir] " +
-                                                   tmp / "proyectos"});
+    const DialogoArchivo modificar{"Modificar los Datos Generales del Proyecto",
+                                   ModoDialogo::Abrir,
+                                   "Trevalo (*.trv)|*.trv",
+                                   1,
+                                   tmp / "proyectos",
+                                   ""};
+    EXPECT_EQ(d.dialogosArchivo, std::vector<DialogoArchivo>{modificar});
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Casa.trv"});
     EXPECT_FALSE(estado.BDProyecto); // no such file: the failing open is ignored
     EXPECT_EQ(p.datosGenerales, std::vector<bool>{false});
 
     AnalizarVigas(carpetas, estado, p); // a project now: no dialog
-    EXPECT_EQ(p.dialogos.size(), 1u);
+    EXPECT_EQ(d.dialogosArchivo.size(), 1u);
     EXPECT_EQ(p.ventanasProyecto, 1);
     EXPECT_EQ(p.basesAbiertas.size(), 1u); // the project window opens it itself
 
     estado.NombreProyecto.clear();
     AnalizarVigas(carpetas, estado, p); // cancelled: no window
-    EXPECT_EQ(p.dialogos.size(), 2u);
+    EXPECT_EQ(d.dialogosArchivo.size(), 2u);
     EXPECT_EQ(p.ventanasProyecto, 1);
 }
 
@@ -192,14 +180,14 @@ TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
     EscribirArchivo(tmp / "otra/Nuevo.trv", "se pierde");
     estado.NombreProyecto = "Viejo.trv";
     ModificarProyecto(carpetas, estado, p); // opens the old file, no dialog
-    p.archivos = {En("otra", "Nuevo.trv")};
-    p.respuestas = {RespuestaSi};
+    d.archivos = {En("otra", "Nuevo.trv")};
+    d.respuestas = {RespuestaSi};
 
     SalvarComoProyecto(carpetas, estado, p);
 
-    ASSERT_EQ(p.preguntas.size(), 1u); // one question only, under the title of creating
-    EXPECT_EQ(p.preguntas[0].Titulo, TituloCrear);
-    EXPECT_EQ(p.preguntas[0].Texto,
+    ASSERT_EQ(d.preguntas.size(), 1u); // one question only, under the title of creating
+    EXPECT_EQ(d.preguntas[0].Titulo, TituloCrear);
+    EXPECT_EQ(d.preguntas[0].Texto,
               "Proyecto: Nuevo.trv ya Existe...    \n¿Desea Reemplazarlo?    ");
     EXPECT_EQ(LeerArchivo(tmp / "otra/Nuevo.trv"), vacio);
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Viejo.trv"), vacio);
@@ -214,16 +202,16 @@ TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
 
 TEST_F(Ciclo, EliminarPreguntaDosVecesYBorraElArchivoElegido) {
     EscribirArchivo(tmp / "otra/TORRE.trv", "otro");
-    p.archivos = {En("otra", "TORRE.trv")};
-    p.respuestas = {RespuestaSi, RespuestaSi};
+    d.archivos = {En("otra", "TORRE.trv")};
+    d.respuestas = {RespuestaSi, RespuestaSi};
     EliminarProyecto(carpetas, estado, p);
-    ASSERT_EQ(p.preguntas.size(), 2u);
+    ASSERT_EQ(d.preguntas.size(), 2u);
     EXPECT_EQ(
-        p.preguntas[0],
+        d.preguntas[0],
         (Pregunta{"Eliminar el Proyecto: TORRE.trv...    \n\n¿Esta Usted Seguro?",
                   "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}));
     EXPECT_EQ(
-        p.preguntas[1],
+        d.preguntas[1],
         (Pregunta{"TORRE.trv...    \n\n¿Esta Usted Seguro de Eliminarlo?      ",
                   "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
     EXPECT_FALSE(fs::exists(tmp / "otra/TORRE.trv"));
@@ -245,8 +233,8 @@ TEST_P(EliminarTitulo, LimpiaSoloElProyectoDelMismoTitulo) {
     EscribirArchivo(tmp / (std::string(c.carpeta) + "/" + c.archivo), "x");
     estado.NombreProyecto = c.actual;
     p.salvarComo = true;
-    p.archivos = {En(c.carpeta, c.archivo)};
-    p.respuestas = {RespuestaSi, RespuestaSi};
+    d.archivos = {En(c.carpeta, c.archivo)};
+    d.respuestas = {RespuestaSi, RespuestaSi};
 
     EliminarProyecto(carpetas, estado, p);
 
@@ -264,23 +252,23 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Ciclo, EliminarQueFallaMuestraElErrorYNoLimpia) {
     estado.NombreProyecto = "Perdido.trv";
-    p.archivos = {En("proyectos", "Perdido.trv")}; // no such file
-    p.respuestas = {RespuestaSi, RespuestaSi};
+    d.archivos = {En("proyectos", "Perdido.trv")}; // no such file
+    d.respuestas = {RespuestaSi, RespuestaSi};
     EliminarProyecto(carpetas, estado, p);
-    ASSERT_EQ(p.preguntas.size(), 3u);
-    EXPECT_EQ(p.preguntas[2], (Pregunta{"No se encontró el archivo      ", "Error Número: 53",
+    ASSERT_EQ(d.preguntas.size(), 3u);
+    EXPECT_EQ(d.preguntas[2], (Pregunta{"No se encontró el archivo      ", "Error Número: 53",
                                         BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
     EXPECT_EQ(estado.NombreProyecto, "Perdido.trv");
 }
 
 TEST_F(Ciclo, CopiaFallidaSeIgnoraYLaSecuenciaSigue) {
     fs::remove(tmp / "programa/Imagen/ImagenViga.kvl");
-    p.archivos = {En("proyectos", "Sin.trv")};
+    d.archivos = {En("proyectos", "Sin.trv")};
     CrearNuevoProyecto(carpetas, estado, p);
     EXPECT_FALSE(fs::exists(tmp / "proyectos/Sin.trv"));
     EXPECT_EQ(estado.NombreProyecto, "Sin.trv");
     EXPECT_EQ(p.basesAbiertas.size(), 1u);
-    EXPECT_TRUE(p.preguntas.empty());
+    EXPECT_TRUE(d.preguntas.empty());
 }
 
 // The questions around a beam; the project's names are searched ignoring case.
@@ -296,20 +284,20 @@ class PreguntasViga : public Ciclo {
 
 TEST_F(PreguntasViga, SalvarComo) {
     EXPECT_FALSE(AceptarSalvarComoViga("   ", existe, leer, estado, p));
-    EXPECT_TRUE(p.preguntas.empty());
+    EXPECT_TRUE(d.preguntas.empty());
 
     EXPECT_FALSE(AceptarSalvarComoViga(" v-1 ", existe, leer, estado, p));
     EXPECT_EQ(
-        p.preguntas.back(),
+        d.preguntas.back(),
         (Pregunta{"La Viga: v-1       \nLa Viga ya Existe en el Proyecto...        ",
                   "Creando Nueva Viga", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
     EXPECT_EQ(lecturas, 0);
 
-    p.respuestas = {RespuestaNo, RespuestaSi};
+    d.respuestas = {RespuestaNo, RespuestaSi};
     EXPECT_FALSE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, p));
     EXPECT_FALSE(estado.DialogoAceptado);
     EXPECT_TRUE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, p));
-    EXPECT_EQ(p.preguntas.back(),
+    EXPECT_EQ(d.preguntas.back(),
               (Pregunta{"Salvar Como (Crear) la Viga: V-2       \nA Partir de la Viga "
                         "Seleccionada: V-1       \n\n",
                         "Salvar Como", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1}));
@@ -320,30 +308,30 @@ TEST_F(PreguntasViga, SalvarComo) {
 
 TEST_F(PreguntasViga, Renombrar) {
     EXPECT_FALSE(AceptarRenombrarViga("v-1", "V-1", existe, estado, p));
-    EXPECT_EQ(p.preguntas.back(),
+    EXPECT_EQ(d.preguntas.back(),
               (Pregunta{"Nombre: v-1       \nEste Nombre ya Existe en las Vigas del "
                         "Proyecto...       \n",
                         "Renombrar", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
-    p.respuestas = {RespuestaSi};
+    d.respuestas = {RespuestaSi};
     EXPECT_TRUE(AceptarRenombrarViga(" Eje B ", "V-1", existe, estado, p));
     EXPECT_EQ(
-        p.preguntas.back().Texto,
+        d.preguntas.back().Texto,
         "Renombrar la Viga: V-1   Por el Nombre: Eje B       \n\nEsta Usted Seguro?       \n");
     EXPECT_EQ(estado.NombreRenombrar, "Eje B");
     EXPECT_TRUE(estado.DialogoAceptado);
 }
 
 TEST_F(PreguntasViga, Eliminar) {
-    p.respuestas = {RespuestaSi, RespuestaNo, RespuestaSi, RespuestaSi};
+    d.respuestas = {RespuestaSi, RespuestaNo, RespuestaSi, RespuestaSi};
     EXPECT_FALSE(ConfirmarEliminarViga("V-1", estado, p));
     EXPECT_TRUE(ConfirmarEliminarViga("V-1", estado, p));
-    ASSERT_EQ(p.preguntas.size(), 4u);
-    EXPECT_EQ(p.preguntas[0],
+    ASSERT_EQ(d.preguntas.size(), 4u);
+    EXPECT_EQ(d.preguntas[0],
               (Pregunta{"Viga: V-1\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted "
                         "Seguro?    ",
                         "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo,
                         IconoMensaje::Advertencia, 2}));
-    EXPECT_EQ(p.preguntas[1], (Pregunta{"Viga: V-1\n¿Esta Seguro de Eliminar la Viga?    ",
+    EXPECT_EQ(d.preguntas[1], (Pregunta{"Viga: V-1\n¿Esta Seguro de Eliminar la Viga?    ",
                                         "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo,
                                         IconoMensaje::Advertencia, 1}));
     EXPECT_EQ(estado.Respuesta, RespuestaSi);

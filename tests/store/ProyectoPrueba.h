@@ -19,12 +19,12 @@
 namespace trevalo::prueba {
 
 // A project file copied from Imagen/ImagenViga.kvl into a folder of its own, open, with
-// the beam list open and every message kept.
+// the beam list open.
 class ProyectoPrueba : public ::testing::Test {
   protected:
     void SetUp() override;
 
-    // Saves a beam as new under its name; fails the test on a message.
+    // Saves a beam as new under its name.
     void Guardar(VigaActual& v);
     // Moves the beam list to the row of that name (exact text).
     void Posicionar(const std::string& nombre);
@@ -32,11 +32,6 @@ class ProyectoPrueba : public ::testing::Test {
 
     CarpetaTemporal dir_; // outlives the open project
     EstadoProyecto estado_;
-    struct Aviso {
-        std::string texto, titulo;
-    };
-    std::vector<Aviso> avisos_;
-    MostrarAviso avisar_;
 };
 
 // A beam with random spans, joints, supports, springs, displaced joints, types, loads of

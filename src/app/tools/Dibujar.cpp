@@ -18,7 +18,7 @@
 #include "app/tools/VigaJson.h"
 #include "drawing/OperacionesVista.h"
 #include "drawing/Ploteos.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 #include "store/BaseDatos.h"
 
 namespace trevalo::calc {
@@ -125,17 +125,9 @@ int ComandoDibujar(const Argumentos& args, std::ostream&, std::ostream& errores)
         ResultadosViga resultados;
         CargarViga(o, proyecto, viga, resultados);
         EstadoPloteos estado = EstadoVista(o);
-        std::string falla;
         PintarEnArchivo(o.salida, o.ancho, o.alto, [&](Lienzo& lienzo) {
-            PlotearViga(lienzo, estado, proyecto, viga, resultados,
-                        [&falla](const std::string& texto, const std::string& titulo) {
-                            falla = titulo + ": " + texto;
-                        });
+            PlotearViga(lienzo, estado, proyecto, viga, resultados);
         });
-        if (!falla.empty()) {
-            errores << falla << "\n";
-            return 1;
-        }
         return 0;
     } catch (const ErrorTrevalo& e) {
         errores << "Error " << e.Numero() << ": " << e.Descripcion() << "\n";

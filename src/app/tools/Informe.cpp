@@ -11,6 +11,7 @@
 #include <random>
 
 #include "app/tools/Comandos.h"
+#include "app/tools/DialogosConsola.h"
 #include "output/BaseInforme.h"
 #include "output/EscritoresInforme.h"
 #include "output/PaginaInforme.h"
@@ -152,10 +153,8 @@ int Informe(const PedidoInforme& pedido, std::ostream& salida, std::ostream& err
     ResultadosViga resultados;
     EstadoPloteos vista;
     ModeloInforme modelo{estado, proyecto, viga, resultados, vista};
-    auto aviso = [&errores](const std::string& texto, const std::string& titulo) {
-        errores << titulo << ": " << texto << "\n";
-    };
-    auto pasos = PasosPrograma(modelo, aviso, aviso);
+    DialogosConsola dialogos(errores);
+    auto pasos = PasosPrograma(modelo, dialogos);
     pasos.Progreso = [&errores](const std::string& etiqueta, double valor) {
         errores << etiqueta << " (" << static_cast<int>(valor + 0.5) << " %)\n";
     };

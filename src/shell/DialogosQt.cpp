@@ -1,0 +1,140 @@
+#include "shell/DialogosQt.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/lienzos/LienzoQt.h"
+#include "shell/TextoQt.h"
+
+namespace trevalo {
+
+namespace {
+
+QMessageBox::Icon IconoQt(IconoMensaje icono) {
+    switch (icono) {
+    case IconoMensaje::Pregunta:
+        return QMessageBox::Question;
+    case IconoMensaje::Advertencia:
+        return QMessageBox::Warning;
+    case IconoMensaje::Informacion:
+        return QMessageBox::Information;
+    case IconoMensaje::Ninguno:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// The buttons of a box, in their order on screen, with the answer each gives.
+struct BotonMensaje {
+    QMessageBox::StandardButton boton;
+    int respuesta;
+};
+
+std::vector<BotonMensaje> BotonesQt(BotonesMensaje botones) {
+    switch (botones) {
+    case BotonesMensaje::SiNo:
+        return {{QMessageBox::Yes, RespuestaSi}, {QMessageBox::No, RespuestaNo}};
+    case BotonesMensaje::SiNoCancelar:
+        return {{QMessageBox::Yes, RespuestaSi},
+                {QMessageBox::No, RespuestaNo},
+                {QMessageBox::Cancel, RespuestaCancelar}};
+    case BotonesMensaje::Aceptar:
+        break;
+    }
+    return {{QMessageBox::Ok, RespuestaAceptar}};
+}
+
+// The extension that a name typed without one takes from the filter chosen: "*.trv" gives
+// "trv"; a pattern of several kinds or of any file gives none.
+QString SufijoDeFiltro(const std::string& filtro, int indice) {
+    const QStringList partes = Qs(filtro).split(QLatin1Char('|'));
+    const int i = 2 * indice - 1;
+    if (i < 1 || i >= partes.size()) return {};
+    const QString patron = partes[i].trimmed();
+    const QString sufijo = patron.mid(2);
+    if (!patron.startsWith(QStringLiteral("*.")) || sufijo.contains(QLatin1Char('*')) ||
+        sufijo.contains(QLatin1Char(';')))
+        return {};
+    return sufijo;
+}
+
+} // namespace
+
+QWidget* VentanaActiva() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return QApplication::activeWindow();
+}
+
+QStringList FiltrosQt(const std::string& filtro) {
+    const QStringList partes = Qs(filtro).split(QLatin1Char('|'));
+    QStringList filtros;
+    for (int i = 0; i + 1 < partes.size(); i += 2) {
+        const QString& palabras = partes[i];
+        const QString patron = QString(partes[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
+        // Words that already name the pattern in brackets are a filter as they stand.
+        filtros << (palabras.endsWith(QLatin1Char(')'))
+                        ? palabras
+                        : palabras + QStringLiteral(" (") + patron + QLatin1Char(')'));
+    }
+    return filtros;
+}
+
+int DialogosQt::Mensaje(const Pregunta& p) {
+    QMessageBox caja(IconoQt(p.Icono), Qs(p.Titulo), Qs(p.Texto), QMessageBox::NoButton,
+                     VentanaActiva());
+    const auto botones = BotonesQt(p.Botones);
+    for (const auto& b : botones) caja.addButton(b.boton);
+    const auto defecto = static_cast<std::size_t>(p.BotonDefecto - 1);
+    caja.setDefaultButton(botones[defecto < botones.size() ? defecto : 0].boton);
+    caja.exec();
+    const auto pulsado = caja.standardButton(caja.clickedButton());
+    for (const auto& b : botones)
+        if (b.boton == pulsado) return b.respuesta;
+    // Closed without a button: the box's cancel, or its only button.
+    return botones.size() == 1 ? botones.front().respuesta : RespuestaCancelar;
+}
+
+std::optional<std::string> DialogosQt::Entrada(const PedidoTexto& pedido) {
+    QInputDialog dialogo(VentanaActiva());
+    dialogo.setWindowTitle(Qs(pedido.Titulo));
+    dialogo.setLabelText(Qs(pedido.Texto));
+    dialogo.setTextValue(Qs(pedido.Defecto));
+    dialogo.setOkButtonText(QStringLiteral("Aceptar"));
+    dialogo.setCancelButtonText(QStringLiteral("Cancelar"));
+    if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
+    return Std(dialogo.textValue());
+}
+
+ArchivoElegido DialogosQt::Archivo(const DialogoArchivo& d) {
+    QFileDialog dialogo(VentanaActiva(), Qs(d.Titulo), Qs(d.Carpeta));
+    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    dialogo.setAcceptMode(d.Modo == ModoDialogo::Salvar ? QFileDialog::AcceptSave
+                                                        : QFileDialog::AcceptOpen);
+    dialogo.setFileMode(d.Modo == ModoDialogo::Salvar ? QFileDialog::AnyFile
+                                                      : QFileDialog::ExistingFile);
+    // The questions about an existing file are the program's own.
+    dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+    const QStringList filtros = FiltrosQt(d.Filtro);
+    dialogo.setNameFilters(filtros);
+    if (d.IndiceFiltro >= 1 && d.IndiceFiltro <= filtros.size())
+        dialogo.selectNameFilter(filtros[d.IndiceFiltro - 1]);
+    dialogo.setDefaultSuffix(SufijoDeFiltro(d.Filtro, d.IndiceFiltro));
+    if (!d.Nombre.empty()) dialogo.selectFile(Qs(d.Nombre));
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
+    const QString ruta = dialogo.selectedFiles().first();
+    return {false, Std(ruta), Std(QFileInfo(ruta).fileName())};
+}
+
+std::optional<std::int32_t> DialogosQt::Color(std::int32_t inicial) {
+    const QColor elegido = QColorDialog::getColor(ColorQt(inicial), VentanaActiva(), {},
+                                                  QColorDialog::DontUseNativeDialog);
+    if (!elegido.isValid()) return std::nullopt;
+    return ColorTrevalo(elegido);
+}
+
+} // namespace trevalo

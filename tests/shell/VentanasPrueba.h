@@ -1,0 +1,73 @@
+#pragma once
+// What every window journey needs: a program whose data folder is a fresh temporary folder
+// (made by the start-up as the program makes it, so the sample project is there), dialogs
+// answered from a script, and a way to act on a modal window once it is on screen.
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+#include "comun/Carpeta.h"
+#include "comun/DialogosGuion.h"
+#include "shell/Programa.h"
+#include "shell/TextoQt.h"
+
+namespace trevalo::prueba {
+
+class ProgramaPrueba {
+  public:
+    ProgramaPrueba() : programa(Nuevo(dialogos)) {
+        EntornoInicio entorno;
+        entorno.RutaAplicacion = TREVALO_RUTA_PROGRAMA;
+        entorno.CarpetaPersonal = carpeta.Ruta();
+        entorno.CarpetaDocumentos = carpeta / "Documentos";
+        entorno.Local = std::locale::classic();
+        DatosUsuario(entorno, programa.Carpetas);
+    }
+
+    CarpetaTemporal carpeta;
+    DialogosGuion* dialogos = nullptr; // owned by the program
+    Programa programa;
+
+  private:
+    static Programa Nuevo(DialogosGuion*& dialogos) {
+        auto d = std::make_unique<DialogosGuion>();
+        dialogos = d.get();
+        return Programa(std::move(d));
+    }
+};
+
+// Runs `accion` on the first modal window of type T that comes on screen (within five
+// seconds), from the event loop of whatever opened it. Returns at once; the action runs
+// while the caller is blocked in exec().
+template <typename T> void AlAbrirse(std::function<void(T&)> accion) {
+    auto* reloj = new QElapsedTimer;
+    reloj->start();
+    auto* sondeo = new QTimer;
+    sondeo->setInterval(10);
+    QObject::connect(sondeo, &QTimer::timeout, [sondeo, reloj, accion] {
+        auto* ventana = qobject_cast<T*>(QApplication::activeModalWidget());
+        if (!ventana && reloj->elapsed() < 5000) return;
+        sondeo->stop();
+        sondeo->deleteLater();
+        delete reloj;
+        if (!ventana) {
+            QTest::qFail("no se abrió la ventana esperada", __FILE__, __LINE__);
+            return;
+        }
+        accion(*ventana);
+    });
+    sondeo->start();
+}
+
+// The child of `ventana` whose accessible name or object name is `nombre`.
+template <typename T> T* Hijo(QWidget& ventana, const QString& nombre) {
+    for (T* w : ventana.findChildren<T*>())
+        if (w->objectName() == nombre || w->accessibleName() == nombre) return w;
+    return nullptr;
+}
+
+} // namespace trevalo::prueba
