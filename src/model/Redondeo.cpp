@@ -1,5 +1,6 @@
 #include "model/Redondeo.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -99,6 +100,17 @@ std::string Formato(double valor, const std::string& mascara, char separadorDeci
         s += frac;
     }
     return s;
+}
+
+double NumeroDeTexto(const std::string& texto, char separadorDecimal, char separadorMiles) {
+    std::string limpio;
+    for (char c : texto)
+        if (c != separadorMiles) limpio += c == separadorDecimal ? '.' : c;
+    const auto inicio = limpio.find_first_not_of(" +");
+    if (inicio == std::string::npos) return 0;
+    double valor = 0;
+    std::from_chars(limpio.data() + inicio, limpio.data() + limpio.size(), valor);
+    return valor;
 }
 
 } // namespace trevalo

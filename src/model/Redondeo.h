@@ -21,4 +21,10 @@ double RoundKorvel(double valor, int decimales);
 std::string Formato(double valor, const std::string& mascara, char separadorDecimal = '.',
                     char separadorMiles = ',');
 
+// A number read back from the text a mask made: thousands separators dropped, the decimal
+// separator read as the point, whatever the locale of the process. The leading number is
+// read and the rest ignored; a text with none (an empty field) reads 0.
+double NumeroDeTexto(const std::string& texto, char separadorDecimal = '.',
+                     char separadorMiles = ',');
+
 } // namespace trevalo

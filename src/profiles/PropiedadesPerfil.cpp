@@ -16,14 +16,6 @@ double Cubo(double x) {
     return x * x * x;
 }
 
-// A label's text as a number: thousands separators dropped, the decimal one read as a point.
-double NumeroDeEtiqueta(const std::string& texto, char separadorDecimal, char separadorMiles) {
-    std::string limpio;
-    for (char c : texto)
-        if (c != separadorMiles) limpio += c == separadorDecimal ? '.' : c;
-    return std::strtod(limpio.c_str(), nullptr);
-}
-
 } // namespace
 
 bool DimensionesCompletas(double d, double tw, double bf, double tf) {
@@ -83,7 +75,7 @@ bool CapturarSeccion(const std::string& nombre, double d, double tw, double bf, 
     const std::string recortado = Recortar(nombre);
     if (recortado.empty() || !DimensionesCompletas(d, tw, bf, tf)) return false;
     auto etiqueta = [&](long i) {
-        return NumeroDeEtiqueta(etiquetas.LSLabel(i), separadorDecimal, separadorMiles);
+        return NumeroDeTexto(etiquetas.LSLabel(i), separadorDecimal, separadorMiles);
     };
     captura = {recortado, {etiqueta(1), d, bf, tf, tw}};
     for (long i = 2; i <= 12; ++i) captura.Numeros.push_back(etiqueta(i));

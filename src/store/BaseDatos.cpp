@@ -48,20 +48,6 @@ Recordset FilasDeViga(BaseDatos& bd, const std::string& tabla, const std::string
     return rs;
 }
 
-BaseDatos& Proyecto(EstadoProyecto& estado) {
-    if (!estado.BDProyecto)
-        throw ErrorTrevalo(ErrObjetoNoEstablecido,
-                           "Variable de objeto o bloque With no establecido");
-    return *estado.BDProyecto;
-}
-
-Recordset& ListaVigas(EstadoProyecto& estado) {
-    if (!estado.RsGeneralViga)
-        throw ErrorTrevalo(ErrObjetoNoEstablecido,
-                           "Variable de objeto o bloque With no establecido");
-    return *estado.RsGeneralViga;
-}
-
 // --- LeerViga --------------------------------------------------------------------------------
 
 // The store's side of reading a beam: the rows of one table at a time, or the header's row.
@@ -185,8 +171,8 @@ void EscribirTablasHijas(BaseDatos& bd, const VigaActual& v, const FormaEscritur
 // with the file and raises the engine's error with the text the user reads.
 template <typename F> void EscribirViga(EstadoProyecto& estado, F escribir) {
     try {
-        Transaccion t(Proyecto(estado));
-        escribir(Proyecto(estado), ListaVigas(estado));
+        Transaccion t(ProyectoAbierto(estado));
+        escribir(ProyectoAbierto(estado), ListaVigasAbierta(estado));
         t.Confirmar();
     } catch (const ErrorTrevalo& e) {
         // The transaction is taken back by now; the list re-reads the rows it had touched.
@@ -203,8 +189,22 @@ template <typename F> void EscribirViga(EstadoProyecto& estado, F escribir) {
 
 // --- Public operations -----------------------------------------------------------------------
 
+BaseDatos& ProyectoAbierto(EstadoProyecto& estado) {
+    if (!estado.BDProyecto)
+        throw ErrorTrevalo(ErrObjetoNoEstablecido,
+                           "Variable de objeto o bloque With no establecido");
+    return *estado.BDProyecto;
+}
+
+Recordset& ListaVigasAbierta(EstadoProyecto& estado) {
+    if (!estado.RsGeneralViga)
+        throw ErrorTrevalo(ErrObjetoNoEstablecido,
+                           "Variable de objeto o bloque With no establecido");
+    return *estado.RsGeneralViga;
+}
+
 void AbrirRsGeneralViga(EstadoProyecto& estado, const std::string& sql) {
-    estado.RsGeneralViga.emplace(Proyecto(estado).AbrirRecordset(sql));
+    estado.RsGeneralViga.emplace(ProyectoAbierto(estado).AbrirRecordset(sql));
     if (estado.RsGeneralViga->RecordCount() > 0) {
         estado.RsGeneralViga->MoveLast();
         estado.RsGeneralViga->MoveFirst();
@@ -269,7 +269,7 @@ std::function<void(ProyectoActual&)> LectorGeneralProyecto(const BaseDatos& bd) 
 
 void LeerViga(EstadoProyecto& estado, VigaActual& v) {
     try {
-        BaseDatos& bd = Proyecto(estado);
+        BaseDatos& bd = ProyectoAbierto(estado);
         auto cabecera =
             bd.AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {v.NombreVigaActual});
         if (cabecera.RecordCount() == 0) {
@@ -318,8 +318,8 @@ bool ExisteViga(BaseDatos& bd, const std::string& nombre) {
 }
 
 void RenombrarViga(EstadoProyecto& estado) {
-    BaseDatos& bd = Proyecto(estado);
-    Recordset& lista = ListaVigas(estado);
+    BaseDatos& bd = ProyectoAbierto(estado);
+    Recordset& lista = ListaVigasAbierta(estado);
     Transaccion t(bd);
     for (const char* tabla : TablasViga) {
         const std::string viejo = lista.Campo("NombreViga").Texto();
@@ -330,8 +330,8 @@ void RenombrarViga(EstadoProyecto& estado) {
 }
 
 void EliminarViga(EstadoProyecto& estado, const std::string& nombre) {
-    BaseDatos& bd = Proyecto(estado);
-    Recordset& lista = ListaVigas(estado);
+    BaseDatos& bd = ProyectoAbierto(estado);
+    Recordset& lista = ListaVigasAbierta(estado);
     Transaccion t(bd);
     for (long i = 0; i < 8; ++i)
         bd.Ejecutar(std::string("DELETE FROM ") + TablasViga[i] + " WHERE NombreViga=?", {nombre});

@@ -22,6 +22,10 @@ namespace trevalo {
 // The tables that hold a beam by the key NombreViga, in the order of rename and delete.
 extern const char* const TablasViga[9];
 
+// The open project database and the beam list; error 91 while none is open.
+BaseDatos& ProyectoAbierto(EstadoProyecto& estado);
+Recordset& ListaVigasAbierta(EstadoProyecto& estado);
+
 // Opens RsGeneralViga on `sql` and, when it has rows, MoveLast then MoveFirst.
 void AbrirRsGeneralViga(EstadoProyecto& estado, const std::string& sql);
 inline const char* const ConsultaListaVigas = "SELECT * FROM GeneralViga ORDER BY NombreViga";

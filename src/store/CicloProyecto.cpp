@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include <unicode/unistr.h>
-
 #include "model/Errores.h"
+#include "store/BaseDatos.h"
+#include "store/Nombres.h"
 
 namespace trevalo {
 
@@ -34,21 +34,9 @@ template <typename Paso> void Ignorando(Paso paso) {
     }
 }
 
-std::string Recortado(const std::string& texto) {
-    const auto inicio = texto.find_first_not_of(' ');
-    if (inicio == std::string::npos) return "";
-    return texto.substr(inicio, texto.find_last_not_of(' ') - inicio + 1);
-}
-
-std::string Mayusculas(const std::string& texto) {
-    std::string resultado;
-    icu::UnicodeString::fromUTF8(texto).toUpper().toUTF8String(resultado);
-    return resultado;
-}
-
-int Preguntar(EstadoProyecto& estado, PlataformaProyecto& plataforma, const Pregunta& pregunta) {
+int Preguntar(EstadoProyecto& estado, Dialogos& dialogos, const Pregunta& pregunta) {
     estado.Mensaje = pregunta.Texto;
-    estado.Respuesta = plataforma.dialogos.Mensaje(pregunta);
+    estado.Respuesta = dialogos.Mensaje(pregunta);
     return estado.Respuesta;
 }
 
@@ -145,12 +133,13 @@ void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
     if (archivo.Cancelado) return;
 
     if (plataforma.ExisteArchivo(archivo.FileName)) {
-        if (Preguntar(estado, plataforma, PreguntaReemplazar(archivo.FileTitle)) != RespuestaSi)
+        if (Preguntar(estado, plataforma.dialogos, PreguntaReemplazar(archivo.FileTitle)) !=
+            RespuestaSi)
             return;
         const Pregunta segura =
             SiNo("Proyecto: " + archivo.FileTitle + "    \n\n¿Esta Seguro de Reemplazarlo?    ",
                  TituloCrear, IconoMensaje::Advertencia, 1);
-        if (Preguntar(estado, plataforma, segura) != RespuestaSi) return;
+        if (Preguntar(estado, plataforma.dialogos, segura) != RespuestaSi) return;
         Ignorando([&] { plataforma.BorrarArchivo(archivo.FileName); });
     }
 
@@ -213,7 +202,8 @@ void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
 
     // One question only, under the title of creating: kept as users know it.
     if (plataforma.ExisteArchivo(archivo.FileName)) {
-        if (Preguntar(estado, plataforma, PreguntaReemplazar(archivo.FileTitle)) != RespuestaSi)
+        if (Preguntar(estado, plataforma.dialogos, PreguntaReemplazar(archivo.FileTitle)) !=
+            RespuestaSi)
             return;
         Ignorando([&] { plataforma.BorrarArchivo(archivo.FileName); });
     }
@@ -237,11 +227,11 @@ void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     const Pregunta primera =
         SiNo("Eliminar el Proyecto: " + archivo.FileTitle + "...    \n\n¿Esta Usted Seguro?",
              TituloEliminar, IconoMensaje::Advertencia, 2);
-    if (Preguntar(estado, plataforma, primera) != RespuestaSi) return;
+    if (Preguntar(estado, plataforma.dialogos, primera) != RespuestaSi) return;
     const Pregunta segunda =
         SiNo(archivo.FileTitle + "...    \n\n¿Esta Usted Seguro de Eliminarlo?      ",
              TituloEliminar, IconoMensaje::Advertencia, 1);
-    if (Preguntar(estado, plataforma, segunda) != RespuestaSi) return;
+    if (Preguntar(estado, plataforma.dialogos, segunda) != RespuestaSi) return;
 
     try {
         plataforma.BorrarArchivo(archivo.FileName);
@@ -260,14 +250,20 @@ void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     }
 }
 
+BuscarViga BuscarEnProyecto(EstadoProyecto& estado) {
+    return [&estado](const std::string& nombre) {
+        return ExisteViga(ProyectoAbierto(estado), nombre);
+    };
+}
+
 bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
                            const std::function<std::string()>& leerSeleccionada,
-                           EstadoProyecto& estado, PlataformaProyecto& plataforma) {
+                           EstadoProyecto& estado, Dialogos& dialogos) {
     const std::string nombre = Recortado(texto);
     if (nombre.empty()) return false;
     if (existe(nombre)) {
         Preguntar(
-            estado, plataforma,
+            estado, dialogos,
             Aviso("La Viga: " + nombre + "       \nLa Viga ya Existe en el Proyecto...        ",
                   "Creando Nueva Viga"));
         return false;
@@ -277,19 +273,18 @@ bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
         SiNo("Salvar Como (Crear) la Viga: " + nombre +
                  "       \nA Partir de la Viga Seleccionada: " + origen + "       \n\n",
              "Salvar Como", IconoMensaje::Pregunta, 1);
-    if (Preguntar(estado, plataforma, pregunta) != RespuestaSi) return false;
+    if (Preguntar(estado, dialogos, pregunta) != RespuestaSi) return false;
     estado.NombreCopiaViga = nombre;
     estado.DialogoAceptado = true;
     return true;
 }
 
 bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
-                          const BuscarViga& existe, EstadoProyecto& estado,
-                          PlataformaProyecto& plataforma) {
+                          const BuscarViga& existe, EstadoProyecto& estado, Dialogos& dialogos) {
     const std::string nombre = Recortado(texto);
     if (nombre.empty()) return false;
     if (existe(nombre)) {
-        Preguntar(estado, plataforma,
+        Preguntar(estado, dialogos,
                   Aviso("Nombre: " + nombre +
                             "       \nEste Nombre ya Existe en las Vigas del Proyecto...       \n",
                         "Renombrar"));
@@ -298,7 +293,7 @@ bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
     const Pregunta pregunta = SiNo("Renombrar la Viga: " + actual + "   Por el Nombre: " + nombre +
                                        "       \n\nEsta Usted Seguro?       \n",
                                    "Renombrar", IconoMensaje::Pregunta, 1);
-    if (Preguntar(estado, plataforma, pregunta) != RespuestaSi) return false;
+    if (Preguntar(estado, dialogos, pregunta) != RespuestaSi) return false;
     estado.NombreRenombrar = nombre;
     estado.DialogoAceptado = true;
     return true;
@@ -311,10 +306,10 @@ bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,
         SiNo("Viga: " + nombre +
                  "\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
              titulo, IconoMensaje::Advertencia, 2);
-    if (Preguntar(estado, plataforma, primera) != RespuestaSi) return false;
+    if (Preguntar(estado, plataforma.dialogos, primera) != RespuestaSi) return false;
     const Pregunta segunda = SiNo("Viga: " + nombre + "\n¿Esta Seguro de Eliminar la Viga?    ",
                                   titulo, IconoMensaje::Advertencia, 1);
-    return Preguntar(estado, plataforma, segunda) == RespuestaSi;
+    return Preguntar(estado, plataforma.dialogos, segunda) == RespuestaSi;
 }
 
 } // namespace trevalo

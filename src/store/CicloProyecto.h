@@ -86,24 +86,28 @@ void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
 void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
                       PlataformaProyecto& plataforma);
 
-// The questions around a beam. `existe` is the engine's search for a name among the beams
-// of the project, which ignores case. Each returns true when the operation may go on; an
-// empty name returns false with no message (the dialog puts the focus back in its box).
+// The questions around a beam. The two dialogs of a name ask through `dialogos` alone.
+// `existe` is the engine's search for a name among the beams of the project, which ignores
+// case. Each returns true when the operation may go on; an empty name returns false with no
+// message (the dialog puts the focus back in its box).
 using BuscarViga = std::function<bool(const std::string& nombre)>;
+
+// The search among the beams of the open project (ExisteViga on BDProyecto; error 91 while
+// none is open).
+BuscarViga BuscarEnProyecto(EstadoProyecto& estado);
 
 // " Aceptar " of "Salvar Como...": `leerSeleccionada` moves to the beam selected in the
 // project window, loads it and gives its name. On yes, NombreCopiaViga takes the trimmed
 // name and DialogoAceptado becomes true; the caller then copies the beam.
 bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
                            const std::function<std::string()>& leerSeleccionada,
-                           EstadoProyecto& estado, PlataformaProyecto& plataforma);
+                           EstadoProyecto& estado, Dialogos& dialogos);
 
 // " Aceptar " of "Renombrar Vigas" for the beam `actual`. On yes, NombreRenombrar takes the
 // trimmed name and DialogoAceptado becomes true; the caller then renames the beam. A name
 // that differs from a taken one only in case is taken.
 bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
-                          const BuscarViga& existe, EstadoProyecto& estado,
-                          PlataformaProyecto& plataforma);
+                          const BuscarViga& existe, EstadoProyecto& estado, Dialogos& dialogos);
 
 // The two questions before the beam `nombre` is deleted; true when both were answered yes.
 bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,

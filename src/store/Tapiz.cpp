@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/Errores.h"
+#include "store/Nombres.h"
 
 namespace trevalo {
 
@@ -43,12 +44,6 @@ void PonerValor(Bytes& bytes, std::size_t pos, int ancho, std::uint32_t valor) {
 
 std::int16_t Entero16(const Bytes& bytes, int registro) {
     return static_cast<std::int16_t>(Valor(bytes, Inicio(registro), 2));
-}
-
-std::string Recortado(const std::string& texto) {
-    const auto inicio = texto.find_first_not_of(' ');
-    if (inicio == std::string::npos) return "";
-    return texto.substr(inicio, texto.find_last_not_of(' ') - inicio + 1);
 }
 
 bool ExisteArchivo(const std::string& ruta) {

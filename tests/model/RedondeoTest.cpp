@@ -54,3 +54,12 @@ TEST(Redondeo, Mascaras) {
         EXPECT_EQ(Formato(c.valor, c.mascara), c.esperado) << c.valor << " " << c.mascara;
     EXPECT_EQ(Formato(1234567.25, "#,##0.00", ',', '.'), "1.234.567,25");
 }
+
+TEST(Redondeo, NumeroDeTextoLeeLoQueMuestraLaMascara) {
+    EXPECT_EQ(NumeroDeTexto("1.234.567,25", ',', '.'), 1234567.25);
+    EXPECT_EQ(NumeroDeTexto("-0.05"), -0.05);
+    EXPECT_EQ(NumeroDeTexto("2 100 000,5", ',', ' '), 2100000.5);
+    EXPECT_EQ(NumeroDeTexto(""), 0);
+    EXPECT_EQ(NumeroDeTexto("-"), 0);
+    EXPECT_EQ(NumeroDeTexto("12 kgf"), 12);
+}

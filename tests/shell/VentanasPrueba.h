@@ -4,11 +4,13 @@
 // answered from a script, and a way to act on a modal window once it is on screen.
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <type_traits>
 
 #include "comun/Carpeta.h"
 #include "comun/DialogosGuion.h"
@@ -61,6 +63,26 @@ template <typename T> void AlAbrirse(std::function<void(T&)> accion) {
         accion(*ventana);
     });
     sondeo->start();
+}
+
+// Shows the modal window, runs `accion` on it once it is on screen and returns what exec()
+// gave. A window the action left open (a check failed half way) fails the test and is
+// closed, so that a failing journey ends instead of waiting.
+template <typename T>
+int Ejecutar(T& ventana, std::type_identity_t<std::function<void(T&)>> accion) {
+    AlAbrirse<T>([accion](T& v) {
+        accion(v);
+        if (!v.isVisible()) return;
+        QTest::qFail("la ventana quedó abierta", __FILE__, __LINE__);
+        v.done(QDialog::Rejected);
+    });
+    return ventana.exec();
+}
+
+// Types `texto` into `w` key by key, as keyClicks does, letters beyond ASCII (ñ, á) included.
+inline void Teclear(QWidget* w, const QString& texto) {
+    for (const QChar c : texto)
+        QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
 }
 
 // The child of `ventana` whose accessible name or object name is `nombre`.

@@ -283,10 +283,10 @@ class PreguntasViga : public Ciclo {
 };
 
 TEST_F(PreguntasViga, SalvarComo) {
-    EXPECT_FALSE(AceptarSalvarComoViga("   ", existe, leer, estado, p));
+    EXPECT_FALSE(AceptarSalvarComoViga("   ", existe, leer, estado, d));
     EXPECT_TRUE(d.preguntas.empty());
 
-    EXPECT_FALSE(AceptarSalvarComoViga(" v-1 ", existe, leer, estado, p));
+    EXPECT_FALSE(AceptarSalvarComoViga(" v-1 ", existe, leer, estado, d));
     EXPECT_EQ(
         d.preguntas.back(),
         (Pregunta{"La Viga: v-1       \nLa Viga ya Existe en el Proyecto...        ",
@@ -294,9 +294,9 @@ TEST_F(PreguntasViga, SalvarComo) {
     EXPECT_EQ(lecturas, 0);
 
     d.respuestas = {RespuestaNo, RespuestaSi};
-    EXPECT_FALSE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, p));
+    EXPECT_FALSE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, d));
     EXPECT_FALSE(estado.DialogoAceptado);
-    EXPECT_TRUE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, p));
+    EXPECT_TRUE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, d));
     EXPECT_EQ(d.preguntas.back(),
               (Pregunta{"Salvar Como (Crear) la Viga: V-2       \nA Partir de la Viga "
                         "Seleccionada: V-1       \n\n",
@@ -307,13 +307,13 @@ TEST_F(PreguntasViga, SalvarComo) {
 }
 
 TEST_F(PreguntasViga, Renombrar) {
-    EXPECT_FALSE(AceptarRenombrarViga("v-1", "V-1", existe, estado, p));
+    EXPECT_FALSE(AceptarRenombrarViga("v-1", "V-1", existe, estado, d));
     EXPECT_EQ(d.preguntas.back(),
               (Pregunta{"Nombre: v-1       \nEste Nombre ya Existe en las Vigas del "
                         "Proyecto...       \n",
                         "Renombrar", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
     d.respuestas = {RespuestaSi};
-    EXPECT_TRUE(AceptarRenombrarViga(" Eje B ", "V-1", existe, estado, p));
+    EXPECT_TRUE(AceptarRenombrarViga(" Eje B ", "V-1", existe, estado, d));
     EXPECT_EQ(
         d.preguntas.back().Texto,
         "Renombrar la Viga: V-1   Por el Nombre: Eje B       \n\nEsta Usted Seguro?       \n");
