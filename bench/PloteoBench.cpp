@@ -7,7 +7,7 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/Ploteos.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 namespace trevalo {
 namespace {

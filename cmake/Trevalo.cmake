@@ -1,6 +1,6 @@
 # trevalo_biblioteca(NAME DEPS...): one static library per folder, built from the folder's
-# sources; the folder's parent (src/) is the include root, so headers are named
-# "model/Viga.h", "analysis/AnalisisVigasP.h" ...
+# sources; src/ is the include root, so headers are named "model/Viga.h",
+# "platform/motor/MotorDatos.h" ...
 function(trevalo_biblioteca nombre)
   file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   if(fuentes)

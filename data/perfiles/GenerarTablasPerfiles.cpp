@@ -18,7 +18,7 @@
 #include <sstream>
 
 #include "model/Errores.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 #include "profiles/TablaPerfiles.h"
 
 namespace fs = std::filesystem;

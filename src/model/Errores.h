@@ -2,11 +2,9 @@
 // The program's one error type: a number and a Spanish description, shown by the windows as
 // the message box text with "Error: " and the number in the title.
 //
-// Runtime faults use the numbers the users know from the classic runtime:
-//   5 invalid procedure call (root of a negative), 6 overflow, 9 subscript out of range,
-//   11 division by zero, 13 type mismatch, 53 file not found, 58 file already exists,
-//   94 invalid use of Null, 32755 cancel of a dialog.
-// Engine errors keep the engine's own number and text.
+// Runtime faults use the numbers the users know from the classic runtime, database faults
+// those of the classic database engine; each number has one name below. Errors of the
+// program's engine keep the engine's own number and text.
 
 #include <stdexcept>
 #include <string>
@@ -34,14 +32,28 @@ class ErrorTrevalo : public std::runtime_error {
     std::string descripcion_;
 };
 
-inline constexpr long ErrLlamadaNoValida = 5;
-inline constexpr long ErrDesbordamiento = 6;
-inline constexpr long ErrSubindice = 9;
-inline constexpr long ErrDivisionPorCero = 11;
-inline constexpr long ErrTiposNoCoinciden = 13;
-inline constexpr long ErrUsoNull = 94;
-inline constexpr long ErrArchivoNoEncontrado = 53;
-inline constexpr long ErrArchivoYaExiste = 58;
-inline constexpr long ErrCancelado = 32755;
+// The classic runtime.
+inline constexpr long ErrLlamadaNoValida = 5;      // invalid procedure call or argument
+inline constexpr long ErrDesbordamiento = 6;       // overflow
+inline constexpr long ErrSubindice = 9;            // subscript out of range
+inline constexpr long ErrDivisionPorCero = 11;     // division by zero
+inline constexpr long ErrTiposNoCoinciden = 13;    // type mismatch
+inline constexpr long ErrArchivoNoEncontrado = 53; // file not found
+inline constexpr long ErrArchivoYaExiste = 58;     // file already exists
+inline constexpr long ErrLongitudRegistro = 59;    // bad record length
+inline constexpr long ErrPermisoDenegado = 70;     // permission denied
+inline constexpr long ErrAccesoArchivo = 75;       // path/file access error
+inline constexpr long ErrObjetoNoEstablecido = 91; // object variable or With block not set
+inline constexpr long ErrUsoNull = 94;             // invalid use of Null
+inline constexpr long ErrCancelado = 32755;        // cancel in a common dialog
+
+// The classic database engine.
+inline constexpr long ErrUpdateSinEdit = 3020;       // Update without AddNew or Edit
+inline constexpr long ErrSinRegistroActual = 3021;   // no current record
+inline constexpr long ErrSoloLectura = 3027;         // database or object is read-only
+inline constexpr long ErrTablaNoEncontrada = 3078;   // the engine cannot find the table
+inline constexpr long ErrNoEnColeccion = 3265;       // item not found in this collection
+inline constexpr long ErrFormatoNoReconocido = 3343; // unrecognized database format
+inline constexpr long ErrObjetoNoValido = 3420;      // object invalid or no longer set
 
 } // namespace trevalo

@@ -1,6 +1,6 @@
 #include "output/BaseInforme.h"
 
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 

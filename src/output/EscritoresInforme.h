@@ -11,13 +11,12 @@
 #include <optional>
 #include <string>
 
+#include "model/Errores.h"
 #include "output/ContenidoInforme.h"
 
 namespace trevalo {
 
 enum class ArchivoInforme { Pdf, Html, Hoja, Texto };
-
-inline constexpr long ErrAccesoArchivo = 75;
 
 // The kind of output of a file name by its extension (.pdf, .htm or .html, .xlsx, .rtf),
 // without regard to case; none for any other name.

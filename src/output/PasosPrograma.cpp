@@ -2,7 +2,7 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "output/GraficoPng.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 namespace trevalo {
 

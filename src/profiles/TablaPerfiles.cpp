@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "model/Errores.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 #include "profiles/Recorte.h"
 
 namespace fs = std::filesystem;

@@ -8,7 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "platform/LienzoQt.h"
+#include "platform/lienzos/LienzoQt.h"
 #include "shell/TextoQt.h"
 
 namespace trevalo {

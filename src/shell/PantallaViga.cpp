@@ -7,7 +7,7 @@
 
 #include "drawing/OperacionesVista.h"
 #include "drawing/Ploteos.h"
-#include "platform/LienzoQt.h"
+#include "platform/lienzos/LienzoQt.h"
 
 namespace trevalo {
 

@@ -1,5 +1,9 @@
 #include "store/BaseDatos.h"
 
+#include <optional>
+
+#include "store/ColumnasViga.h"
+
 namespace trevalo {
 
 const char* const TablasViga[9] = {
@@ -32,17 +36,6 @@ template <typename T> void Leer(const Recordset& rs, const std::string& campo, T
     destino = Convertir<T>(rs.Campo(campo));
 }
 
-// Reads slots 1..n of span t; the field of slot k is the base and k ("P3", "La6_2").
-template <typename T>
-void LeerRanuras(const Recordset& rs, const std::string& base, Arreglo2<T>& a, long t, long n) {
-    for (long k = 1; k <= n; ++k) Leer(rs, base + std::to_string(k), a(t, k));
-}
-
-template <typename T>
-void EscribirRanuras(Recordset& rs, const std::string& base, const Arreglo2<T>& a, long t, long n) {
-    for (long k = 1; k <= n; ++k) rs.Campo(base + std::to_string(k), Valor(a(t, k)));
-}
-
 // Opens the rows of one beam in a table, in the order of its key, with the count exact.
 Recordset FilasDeViga(BaseDatos& bd, const std::string& tabla, const std::string& orden,
                       const std::string& nombre) {
@@ -55,184 +48,48 @@ Recordset FilasDeViga(BaseDatos& bd, const std::string& tabla, const std::string
     return rs;
 }
 
-// --- LeerViga, table by table ------------------------------------------------------------
+// --- LeerViga --------------------------------------------------------------------------------
+
+// The store's side of reading a beam: the rows of one table at a time, or the header's row.
+class LectorTablas {
+  public:
+    LectorTablas(BaseDatos& bd, std::string nombre) : bd_(&bd), nombre_(std::move(nombre)) {}
+    explicit LectorTablas(Recordset& rs) : rs_(&rs) {}
+
+    long Abrir(const TablaViga& t) {
+        abierto_.emplace(FilasDeViga(*bd_, t.nombre, Clave(t), nombre_));
+        rs_ = &*abierto_;
+        return rs_->RecordCount();
+    }
+    // Past the last row, the next field read raises 3021.
+    void Ir(const TablaViga&, long fila, long) {
+        if (fila > 1) rs_->MoveNext();
+    }
+    template <typename C> void Leer(const std::string& columna, C celda) {
+        auto& destino = celda(); // the slot first: a count beyond the slots is error 9
+        trevalo::Leer(*rs_, columna, destino);
+    }
+    std::optional<double> LeerONulo(const std::string& columna) const {
+        const Valor& campo = rs_->Campo(columna);
+        if (campo.EsNulo()) return std::nullopt;
+        return campo.Doble();
+    }
+
+  private:
+    BaseDatos* bd_ = nullptr;
+    std::string nombre_;
+    std::optional<Recordset> abierto_;
+    Recordset* rs_ = nullptr;
+};
 
 void LeerCabecera(Recordset& rs, VigaActual& v) {
-    Leer(rs, "NT", v.NT);
-    Leer(rs, "OpcionConcreto", v.OpcionConcreto);
-    Leer(rs, "OpcionCarga", v.OpcionCarga);
-    Leer(rs, "FMayoracionTC", v.FMayoracionTC);
-    Leer(rs, "FMayoracion", v.FMayoracion);
+    LectorTablas lector(rs);
+    LeerFilaViga(lector, TablaGeneralViga, v, 1);
 }
 
-void LeerTramos(BaseDatos& bd, VigaActual& v) {
-    for (auto* a : {&v.LT, &v.VT, &v.FMayorTramo}) a->Redim(v.NT);
-    for (auto* a : {&v.CantW2, &v.CantW3, &v.CantW6, &v.CantW7, &v.CantW8}) a->Redim(v.NT);
-    v.TramoMarcado.Redim(v.NT);
-    v.LongTotal = 0;
-    auto rs = FilasDeViga(bd, "Tramos", "Tramo", v.NombreVigaActual);
-    if (rs.RecordCount() == 0) return;
-    for (long t = 1; t <= v.NT; ++t) {
-        Leer(rs, "LT", v.LT(t));
-        v.LongTotal += v.LT(t);
-        Leer(rs, "VT", v.VT(t));
-        v.FMayorTramo(t) = v.FMayoracion;
-        rs.MoveNext();
-    }
-}
-
-void LeerJuntas(BaseDatos& bd, VigaActual& v) {
-    v.NombreEje.Redim(v.NT + 1);
-    for (auto* a : {&v.LDer, &v.LIzq, &v.HC}) a->Redim(v.NT + 1);
-    auto rs = FilasDeViga(bd, "Juntas", "Numero", v.NombreVigaActual);
-    for (long j = 1; j <= v.NT + 1; ++j) {
-        if (rs.RecordCount() == 0) {
-            v.LDer(j) = 0.15;
-            v.LIzq(j) = 0.15;
-            v.HC(j) = 0.5;
-            continue;
-        }
-        Leer(rs, "NombreEje", v.NombreEje(j));
-        Leer(rs, "LDer", v.LDer(j));
-        Leer(rs, "LIzq", v.LIzq(j));
-        Leer(rs, "HC", v.HC(j));
-        rs.MoveNext();
-    }
-}
-
-// A list of joints or actions: a count, the arrays sized to it, the rows in key order.
-template <typename D, typename F>
-void LeerLista(BaseDatos& bd, const VigaActual& v, const std::string& tabla,
-               const std::string& clave, std::int16_t& cuenta, D dimensionar, F leerFila) {
-    auto rs = FilasDeViga(bd, tabla, clave, v.NombreVigaActual);
-    cuenta = Valor(rs.RecordCount()).Entero16();
-    dimensionar(cuenta);
-    for (long i = 1; i <= cuenta; ++i) {
-        leerFila(rs, i);
-        rs.MoveNext();
-    }
-}
-
-void LeerListas(BaseDatos& bd, VigaActual& v) {
-    LeerLista(
-        bd, v, "JuntasDesplazadas", "R3", v.NJDesp,
-        [&](long n) {
-            v.R3.Redim(n);
-            for (auto* a : {&v.XX, &v.YY}) a->Redim(n);
-        },
-        [&](Recordset& rs, long i) {
-            Leer(rs, "R3", v.R3(i));
-            Leer(rs, "XX", v.XX(i));
-            Leer(rs, "YY", v.YY(i));
-        });
-    LeerLista(
-        bd, v, "Juntasrestringidas", "R1", v.NJRest,
-        [&](long n) {
-            for (auto* a : {&v.R1, &v.Apoyo}) a->Redim(n);
-        },
-        [&](Recordset& rs, long i) {
-            Leer(rs, "R1", v.R1(i));
-            Leer(rs, "Apoyo", v.Apoyo(i));
-        });
-    LeerLista(
-        bd, v, "JuntasResortes", "R10", v.NJRes,
-        [&](long n) {
-            v.R10.Redim(n);
-            for (auto* a : {&v.SH10, &v.SV10, &v.SM10}) a->Redim(n);
-        },
-        [&](Recordset& rs, long i) {
-            Leer(rs, "R10", v.R10(i));
-            Leer(rs, "SH10", v.SH10(i));
-            Leer(rs, "SV10", v.SV10(i));
-            Leer(rs, "SM10", v.SM10(i));
-        });
-}
-
-void LeerAcciones(BaseDatos& bd, VigaActual& v) {
-    LeerLista(
-        bd, v, "AccionesNodales", "R2", v.NAcc,
-        [&](long n) {
-            v.R2.Redim(n);
-            for (auto* a : {&v.QC1, &v.QC2, &v.QC3}) a->Redim(n);
-        },
-        [&](Recordset& rs, long i) {
-            Leer(rs, "R2", v.R2(i));
-            Leer(rs, "QC1", v.QC1(i));
-            Leer(rs, "QC2", v.QC2(i));
-            Leer(rs, "QC3", v.QC3(i));
-        });
-}
-
-// A dimension of a type: the field if positive; else, for a concrete beam, the default.
-// A Null counts as not positive.
-double DimensionTipo(const Valor& campo, bool concreto, double defecto) {
-    if (!campo.EsNulo() && campo.Doble() > 0) return campo.Doble();
-    return concreto ? defecto : 0.0;
-}
-
-void LeerTipos(BaseDatos& bd, VigaActual& v) {
-    auto rs = FilasDeViga(bd, "TiposVigas", "Tipo", v.NombreVigaActual);
-    const bool concreto = v.OpcionConcreto == 0;
-    v.NTipos = rs.RecordCount() > 0 ? Valor(rs.RecordCount()).Entero16() : std::int16_t{1};
-    v.B1.Redim(v.NTipos);
-    v.T1.Redim(v.NTipos);
-    v.Designacion.Redim(v.NTipos);
-    if (rs.RecordCount() == 0) {
-        v.B1(1) = concreto ? 0.3 : 0.0;
-        v.T1(1) = concreto ? 0.5 : 0.0;
-        return;
-    }
-    for (long k = 1; k <= v.NTipos; ++k) {
-        Leer(rs, "Designacion", v.Designacion(k));
-        v.B1(k) = DimensionTipo(rs.Campo("B1"), concreto, 0.3);
-        v.T1(k) = DimensionTipo(rs.Campo("T1"), concreto, 0.5);
-        rs.MoveNext();
-    }
-}
-
-void DimensionarCargas(VigaActual& v) {
-    for (auto* a : {&v.W1, &v.W4, &v.W5}) a->Redim(v.NT);
-    v.Gravedad.Redim(v.NT);
-    v.la5.Redim(v.NT);
-    for (auto* a : {&v.P, &v.W3_}) a->Redim(v.NT, MaxCargas10);
-    for (auto* a : {&v.LP, &v.La3_, &v.Lb3_}) a->Redim(v.NT, MaxCargas10);
-    for (auto* a : {&v.W6_, &v.W7_, &v.WIzq8_, &v.WDer8_}) a->Redim(v.NT, MaxCargas5);
-    for (auto* a : {&v.La6_, &v.Lb6_, &v.La7_, &v.Lb7_, &v.La8_, &v.Lb8_})
-        a->Redim(v.NT, MaxCargas5);
-}
-
-void LeerCargas(BaseDatos& bd, VigaActual& v) {
-    DimensionarCargas(v);
-    auto rs = FilasDeViga(bd, "CargasTramos", "Tramo", v.NombreVigaActual);
-    if (rs.RecordCount() == 0) return;
-    for (long t = 1; t <= v.NT; ++t) {
-        Leer(rs, "W1", v.W1(t));
-        Leer(rs, "Gravedad", v.Gravedad(t));
-        Leer(rs, "CantW2", v.CantW2(t));
-        LeerRanuras(rs, "P", v.P, t, v.CantW2(t));
-        LeerRanuras(rs, "LP", v.LP, t, v.CantW2(t));
-        Leer(rs, "CantW3", v.CantW3(t));
-        LeerRanuras(rs, "W3_", v.W3_, t, v.CantW3(t));
-        LeerRanuras(rs, "La3_", v.La3_, t, v.CantW3(t));
-        LeerRanuras(rs, "Lb3_", v.Lb3_, t, v.CantW3(t));
-        Leer(rs, "W4", v.W4(t));
-        Leer(rs, "W5", v.W5(t));
-        Leer(rs, "la5", v.la5(t));
-        Leer(rs, "CantW6", v.CantW6(t));
-        LeerRanuras(rs, "W6_", v.W6_, t, v.CantW6(t));
-        LeerRanuras(rs, "La6_", v.La6_, t, v.CantW6(t));
-        LeerRanuras(rs, "Lb6_", v.Lb6_, t, v.CantW6(t));
-        Leer(rs, "CantW7", v.CantW7(t));
-        LeerRanuras(rs, "W7_", v.W7_, t, v.CantW7(t));
-        LeerRanuras(rs, "La7_", v.La7_, t, v.CantW7(t));
-        LeerRanuras(rs, "Lb7_", v.Lb7_, t, v.CantW7(t));
-        Leer(rs, "CantW8", v.CantW8(t));
-        LeerRanuras(rs, "WIzq8_", v.WIzq8_, t, v.CantW8(t));
-        LeerRanuras(rs, "WDer8_", v.WDer8_, t, v.CantW8(t));
-        LeerRanuras(rs, "La8_", v.La8_, t, v.CantW8(t));
-        LeerRanuras(rs, "Lb8_", v.Lb8_, t, v.CantW8(t));
-        rs.MoveNext();
-    }
+void LeerTablasHijas(BaseDatos& bd, VigaActual& v) {
+    LectorTablas lector(bd, v.NombreVigaActual);
+    LeerTablasViga(lector, v);
 }
 
 // --- SalvarViga and CopiarViga ---------------------------------------------------------------
@@ -243,12 +100,23 @@ struct FormaEscritura {
     bool copia; // every joint's dimensions written; W3_k receives P(t, k)
 };
 
+// The dimensions of a joint, written by SalvarViga only where it carries a vertical support.
+bool CotaJunta(const CampoViga& c) {
+    return c == CampoViga{&VigaActual::LDer} || c == CampoViga{&VigaActual::LIzq} ||
+           c == CampoViga{&VigaActual::HC};
+}
+
+// Sets the fields of a row from the beam; a joint's dimensions as 0 without `cotas`.
+void EscribirCampos(Recordset& rs, const TablaViga& t, const VigaActual& v, long fila,
+                    bool cotas = true) {
+    if (t.numero) rs.Campo(t.numero, Valor(static_cast<int>(fila)));
+    RecorrerFila(t, v, fila, [&](const ColumnaViga& c, const std::string& nombre, auto celda) {
+        rs.Campo(nombre, cotas || !CotaJunta(c.campo) ? Valor(celda()) : Valor(0.0));
+    });
+}
+
 void EscribirCabecera(Recordset& rs, const VigaActual& v) {
-    rs.Campo("NT", Valor(v.NT));
-    rs.Campo("OpcionConcreto", Valor(v.OpcionConcreto));
-    rs.Campo("OpcionCarga", Valor(v.OpcionCarga));
-    rs.Campo("FMayoracionTC", Valor(v.FMayoracionTC));
-    rs.Campo("FMayoracion", Valor(v.FMayoracion));
+    EscribirCampos(rs, TablaGeneralViga, v, 1);
     rs.Update();
 }
 
@@ -277,79 +145,26 @@ bool ApoyoVertical(const VigaActual& v, long j) {
     return false;
 }
 
-void EscribirCargas(Recordset& rs, const VigaActual& v, long t, bool copia) {
-    rs.Campo("Tramo", Valor(static_cast<int>(t)));
-    rs.Campo("W1", Valor(v.W1(t)));
-    rs.Campo("Gravedad", Valor(v.Gravedad(t)));
-    rs.Campo("CantW2", Valor(v.CantW2(t)));
-    EscribirRanuras(rs, "P", v.P, t, v.CantW2(t));
-    EscribirRanuras(rs, "LP", v.LP, t, v.CantW2(t));
-    rs.Campo("CantW3", Valor(v.CantW3(t)));
-    EscribirRanuras(rs, "W3_", copia ? v.P : v.W3_, t, v.CantW3(t)); // kept: users rely on it
-    EscribirRanuras(rs, "La3_", v.La3_, t, v.CantW3(t));
-    EscribirRanuras(rs, "Lb3_", v.Lb3_, t, v.CantW3(t));
-    rs.Campo("W4", Valor(v.W4(t)));
-    rs.Campo("W5", Valor(v.W5(t)));
-    rs.Campo("la5", Valor(v.la5(t)));
-    rs.Campo("CantW6", Valor(v.CantW6(t)));
-    EscribirRanuras(rs, "W6_", v.W6_, t, v.CantW6(t));
-    EscribirRanuras(rs, "La6_", v.La6_, t, v.CantW6(t));
-    EscribirRanuras(rs, "Lb6_", v.Lb6_, t, v.CantW6(t));
-    rs.Campo("CantW7", Valor(v.CantW7(t)));
-    EscribirRanuras(rs, "W7_", v.W7_, t, v.CantW7(t));
-    EscribirRanuras(rs, "La7_", v.La7_, t, v.CantW7(t));
-    EscribirRanuras(rs, "Lb7_", v.Lb7_, t, v.CantW7(t));
-    rs.Campo("CantW8", Valor(v.CantW8(t)));
-    EscribirRanuras(rs, "WIzq8_", v.WIzq8_, t, v.CantW8(t));
-    EscribirRanuras(rs, "WDer8_", v.WDer8_, t, v.CantW8(t));
-    EscribirRanuras(rs, "La8_", v.La8_, t, v.CantW8(t));
-    EscribirRanuras(rs, "Lb8_", v.Lb8_, t, v.CantW8(t));
+// The loads as the copy writes them: column W3_k receives P(t, k). Kept: users rely on it.
+const TablaViga& CargasDeCopia() {
+    static const TablaViga cargas = [] {
+        TablaViga t = TablaCargasTramos;
+        for (ColumnaViga& c : t.columnas)
+            if (c.campo == CampoViga{&VigaActual::W3_}) c.campo = &VigaActual::P;
+        return t;
+    }();
+    return cargas;
 }
 
 void EscribirTablasHijas(BaseDatos& bd, const VigaActual& v, const FormaEscritura& forma) {
-    const std::string& n = forma.nombre;
-    ReescribirTabla(bd, "Tramos", n, v.NT, [&](Recordset& rs, long t) {
-        rs.Campo("Tramo", Valor(static_cast<int>(t)));
-        rs.Campo("LT", Valor(v.LT(t)));
-        rs.Campo("VT", Valor(v.VT(t)));
-    });
-    ReescribirTabla(bd, "Juntas", n, v.NT + 1, [&](Recordset& rs, long j) {
-        const bool cotas = forma.copia || ApoyoVertical(v, j);
-        rs.Campo("Numero", Valor(static_cast<int>(j)));
-        rs.Campo("NombreEje", Valor(v.NombreEje(j)));
-        rs.Campo("LDer", Valor(cotas ? v.LDer(j) : 0.0));
-        rs.Campo("LIzq", Valor(cotas ? v.LIzq(j) : 0.0));
-        rs.Campo("HC", Valor(cotas ? v.HC(j) : 0.0));
-    });
-    ReescribirTabla(bd, "JuntasDesplazadas", n, v.NJDesp, [&](Recordset& rs, long i) {
-        rs.Campo("R3", Valor(v.R3(i)));
-        rs.Campo("XX", Valor(v.XX(i)));
-        rs.Campo("YY", Valor(v.YY(i)));
-    });
-    ReescribirTabla(bd, "Juntasrestringidas", n, v.NJRest, [&](Recordset& rs, long i) {
-        rs.Campo("R1", Valor(v.R1(i)));
-        rs.Campo("Apoyo", Valor(v.Apoyo(i)));
-    });
-    ReescribirTabla(bd, "JuntasResortes", n, v.NJRes, [&](Recordset& rs, long i) {
-        rs.Campo("R10", Valor(v.R10(i)));
-        rs.Campo("SH10", Valor(v.SH10(i)));
-        rs.Campo("SV10", Valor(v.SV10(i)));
-        rs.Campo("SM10", Valor(v.SM10(i)));
-    });
-    ReescribirTabla(bd, "TiposVigas", n, v.NTipos, [&](Recordset& rs, long k) {
-        rs.Campo("Tipo", Valor(static_cast<int>(k)));
-        rs.Campo("B1", Valor(v.B1(k)));
-        rs.Campo("T1", Valor(v.T1(k)));
-        rs.Campo("Designacion", Valor(v.Designacion(k)));
-    });
-    ReescribirTabla(bd, "CargasTramos", n, v.NT,
-                    [&](Recordset& rs, long t) { EscribirCargas(rs, v, t, forma.copia); });
-    ReescribirTabla(bd, "AccionesNodales", n, v.NAcc, [&](Recordset& rs, long i) {
-        rs.Campo("R2", Valor(v.R2(i)));
-        rs.Campo("QC1", Valor(v.QC1(i)));
-        rs.Campo("QC2", Valor(v.QC2(i)));
-        rs.Campo("QC3", Valor(v.QC3(i)));
-    });
+    for (const TablaViga* t : TablasHijas) {
+        const TablaViga& tabla = forma.copia && t == &TablaCargasTramos ? CargasDeCopia() : *t;
+        ReescribirTabla(
+            bd, tabla.nombre, forma.nombre, FilasViga(tabla, v), [&](Recordset& rs, long i) {
+                const bool cotas = forma.copia || t != &TablaJuntas || ApoyoVertical(v, i);
+                EscribirCampos(rs, tabla, v, i, cotas);
+            });
+    }
 }
 
 // Runs a write of the beam in one transaction; on failure brings the beam list back in line
@@ -376,13 +191,15 @@ template <typename F> void EscribirViga(EstadoProyecto& estado, F escribir) {
 
 BaseDatos& ProyectoAbierto(EstadoProyecto& estado) {
     if (!estado.BDProyecto)
-        throw ErrorTrevalo(91, "Variable de objeto o bloque With no establecido");
+        throw ErrorTrevalo(ErrObjetoNoEstablecido,
+                           "Variable de objeto o bloque With no establecido");
     return *estado.BDProyecto;
 }
 
 Recordset& ListaVigasAbierta(EstadoProyecto& estado) {
     if (!estado.RsGeneralViga)
-        throw ErrorTrevalo(91, "Variable de objeto o bloque With no establecido");
+        throw ErrorTrevalo(ErrObjetoNoEstablecido,
+                           "Variable de objeto o bloque With no establecido");
     return *estado.RsGeneralViga;
 }
 
@@ -461,12 +278,7 @@ void LeerViga(EstadoProyecto& estado, VigaActual& v) {
         }
         LeerCabecera(cabecera, v);
         cabecera.Close();
-        LeerTramos(bd, v);
-        LeerJuntas(bd, v);
-        LeerListas(bd, v);
-        LeerTipos(bd, v);
-        LeerCargas(bd, v);
-        LeerAcciones(bd, v);
+        LeerTablasHijas(bd, v);
     } catch (const ErrorTrevalo& e) {
         NuevaVigaDefecto(v);
         throw ErrorTrevalo(

@@ -83,10 +83,10 @@ bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpe
 
 ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
     if (ec == std::errc::no_such_file_or_directory)
-        return ErrorTrevalo(53, "No se encontró el archivo");
+        return ErrorTrevalo(ErrArchivoNoEncontrado, "No se encontró el archivo");
     if (ec == std::errc::permission_denied || ec == std::errc::operation_not_permitted)
-        return ErrorTrevalo(70, "Permiso denegado");
-    return ErrorTrevalo(75, "Error de acceso a la ruta o el archivo");
+        return ErrorTrevalo(ErrPermisoDenegado, "Permiso denegado");
+    return ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
 }
 
 } // namespace

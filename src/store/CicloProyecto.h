@@ -21,7 +21,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 #include "store/CarpetasPrograma.h"
 #include "store/Dialogos.h"
 #include "store/EstadoProyecto.h"

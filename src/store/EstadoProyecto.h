@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 

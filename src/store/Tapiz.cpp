@@ -74,7 +74,7 @@ ConfiguracionTapiz LeerRegistrosTapiz(const std::string& ruta) {
 void EscribirRegistrosTapiz(const std::string& ruta, const ConfiguracionTapiz& v,
                             const AnchosTapiz& anchos) {
     if (v.TapizArchivo.size() > MaxTextoTapiz)
-        throw ErrorTrevalo(59, "Longitud de registro incorrecta");
+        throw ErrorTrevalo(ErrLongitudRegistro, "Longitud de registro incorrecta");
     Bytes bytes = LeerBytes(ruta);
     PonerValor(bytes, 0, 2, static_cast<std::uint32_t>(v.TapizArchivo.size()));
     if (bytes.size() < 2 + v.TapizArchivo.size()) bytes.resize(2 + v.TapizArchivo.size(), 0);
@@ -89,7 +89,7 @@ void EscribirRegistrosTapiz(const std::string& ruta, const ConfiguracionTapiz& v
     std::ofstream archivo(ruta, std::ios::binary | std::ios::trunc);
     archivo.write(reinterpret_cast<const char*>(bytes.data()),
                   static_cast<std::streamsize>(bytes.size()));
-    if (!archivo) throw ErrorTrevalo(75, "Error de acceso a la ruta o el archivo");
+    if (!archivo) throw ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
 }
 
 ConfiguracionTapiz TapizDefecto(const CarpetasPrograma& carpetas) {

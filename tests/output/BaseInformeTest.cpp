@@ -11,7 +11,7 @@
 #include "VerificaError.h"
 #include "output/BaseInforme.h"
 #include "output/LlenarImpreDatos.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 namespace {

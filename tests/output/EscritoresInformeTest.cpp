@@ -217,7 +217,7 @@ TEST_F(EscritoresTest, AnUnwritableFileIsError75ForEveryKind) {
     const auto ruta = (carpeta / "no existe" / "r").string();
     for (auto tipo :
          {ArchivoInforme::Pdf, ArchivoInforme::Html, ArchivoInforme::Hoja, ArchivoInforme::Texto})
-        EXPECT_TREVALO_ERROR(EscribirInforme(Contenido(1), ruta, tipo), 75,
+        EXPECT_TREVALO_ERROR(EscribirInforme(Contenido(1), ruta, tipo), ErrAccesoArchivo,
                              "Error de acceso a la ruta o el archivo");
 }
 

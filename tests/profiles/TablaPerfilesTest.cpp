@@ -7,7 +7,7 @@
 
 #include "CarpetaTemporal.h"
 #include "VerificaError.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 #include "profiles/TablaPerfiles.h"
 
 namespace trevalo {
@@ -113,8 +113,8 @@ TEST_F(ArchivosDeTablas, CrearReemplazaLaTablaExistente) {
 }
 
 TEST_F(ArchivosDeTablas, SinPlantillaEsError53) {
-    EXPECT_TREVALO_ERROR(CrearTablaPerfiles(carpeta.Ruta(), F::DobleTee, carpeta.Archivo("A")), 53,
-                         "No se encontró el archivo");
+    EXPECT_TREVALO_ERROR(CrearTablaPerfiles(carpeta.Ruta(), F::DobleTee, carpeta.Archivo("A")),
+                         ErrArchivoNoEncontrado, "No se encontró el archivo");
 }
 
 TEST_F(ArchivosDeTablas, SalvarRenumeraDesdeElLugarDeLaFila) {
@@ -180,8 +180,8 @@ TEST_F(ArchivosDeTablas, FallaEnMedioDelGuardadoDejaElArchivoComoEstaba) {
         "Canales", 2530, {Fila(F::SeccionU, "C 1", 1), Fila(F::SeccionU, "C 2", 2)}};
     SalvarTablaPerfiles(ruta, F::SeccionU, original);
     EXPECT_TREVALO_ERROR(
-        SalvarTablaPerfiles(ruta, F::DobleTee, {"Otra", 1, {Fila(F::DobleTee, "I", 5)}}), 3265,
-        "Elemento no encontrado en esta colección.");
+        SalvarTablaPerfiles(ruta, F::DobleTee, {"Otra", 1, {Fila(F::DobleTee, "I", 5)}}),
+        ErrNoEnColeccion, "Elemento no encontrado en esta colección.");
     const TablaPerfiles leida = LeerTablaPerfiles(ruta, F::SeccionU);
     EXPECT_EQ(leida.DescripcionTabla, "Canales");
     ASSERT_EQ(leida.Filas.size(), 2u);
@@ -191,7 +191,7 @@ TEST_F(ArchivosDeTablas, FallaEnMedioDelGuardadoDejaElArchivoComoEstaba) {
 TEST_F(ArchivosDeTablas, ArchivoDeOtraFamiliaFallaAlLeerElCampo) {
     const std::string ruta = Nueva(F::TuboCuadrado, "A.pfl");
     SalvarTablaPerfiles(ruta, F::TuboCuadrado, {"T", 1, {Fila(F::TuboCuadrado, "T", 1)}});
-    EXPECT_TREVALO_ERROR(LeerTablaPerfiles(ruta, F::TuboRectangular), 3265,
+    EXPECT_TREVALO_ERROR(LeerTablaPerfiles(ruta, F::TuboRectangular), ErrNoEnColeccion,
                          "Elemento no encontrado en esta colección.");
 }
 

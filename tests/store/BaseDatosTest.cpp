@@ -218,12 +218,12 @@ struct CasoDanado {
 
 TEST_F(Almacen, DatosDanadosDanElMensajeYLaVigaPorDefecto) {
     const CasoDanado casos[] = {
-        {"span row missing", "DELETE FROM Tramos WHERE Tramo=2", 3021},
-        {"null axis name", "UPDATE Juntas SET NombreEje=NULL", 94},
-        {"text in a number", "UPDATE Tramos SET LT='largo'", 13},
-        {"count beyond slots", "UPDATE CargasTramos SET CantW6=6", 9},
-        {"count of a missing slot", "UPDATE CargasTramos SET CantW2=CantW2+1", 94},
-        {"type beyond 16 bits", "UPDATE GeneralViga SET NT=40000", 6},
+        {"span row missing", "DELETE FROM Tramos WHERE Tramo=2", ErrSinRegistroActual},
+        {"null axis name", "UPDATE Juntas SET NombreEje=NULL", ErrUsoNull},
+        {"text in a number", "UPDATE Tramos SET LT='largo'", ErrTiposNoCoinciden},
+        {"count beyond slots", "UPDATE CargasTramos SET CantW6=6", ErrSubindice},
+        {"count of a missing slot", "UPDATE CargasTramos SET CantW2=CantW2+1", ErrUsoNull},
+        {"type beyond 16 bits", "UPDATE GeneralViga SET NT=40000", ErrDesbordamiento},
     };
     std::mt19937 azar(6);
     for (const auto& c : casos) {
@@ -259,7 +259,8 @@ TEST_F(Almacen, DatosDanadosDanElMensajeYLaVigaPorDefecto) {
 TEST_F(Almacen, LosDatosGeneralesVanYVuelven) {
     BaseDatos& bd = *estado_.BDProyecto;
     ProyectoActual p;
-    EXPECT_TREVALO_ERROR(LeerGeneralProyecto(bd, p), 3021, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(LeerGeneralProyecto(bd, p), ErrSinRegistroActual,
+                         "No hay ningún registro activo.");
     p.Proyecto = "Edificio \"Los Álamos\"";
     p.Propietario = "Inversiones O'Higgins";
     p.ProyFecha = "21/11/2026";

@@ -178,7 +178,7 @@ TEST_F(ArchivoTapiz, RutaDeMasDe126BytesNoCabe) {
     EXPECT_NO_THROW(EscribirRegistrosTapiz(ruta, t, AnchosTapizDefecto));
     EXPECT_EQ(LeerRegistrosTapiz(ruta).TapizArchivo, t.TapizArchivo);
     t.TapizArchivo.push_back('b');
-    EXPECT_TREVALO_ERROR(EscribirRegistrosTapiz(ruta, t, AnchosTapizDefecto), 59,
+    EXPECT_TREVALO_ERROR(EscribirRegistrosTapiz(ruta, t, AnchosTapizDefecto), ErrLongitudRegistro,
                          "Longitud de registro incorrecta");
 }
 

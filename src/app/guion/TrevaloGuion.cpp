@@ -9,7 +9,7 @@
 #include <sstream>
 
 #include "model/Errores.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 int main(int argc, char** argv) {
     if (argc != 3) {

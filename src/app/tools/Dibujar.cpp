@@ -18,7 +18,7 @@
 #include "app/tools/VigaJson.h"
 #include "drawing/OperacionesVista.h"
 #include "drawing/Ploteos.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 #include "store/BaseDatos.h"
 
 namespace trevalo::calc {

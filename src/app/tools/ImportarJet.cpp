@@ -1,7 +1,7 @@
 #include <string>
 
 #include "app/tools/Comandos.h"
-#include "platform/ImportadorJet.h"
+#include "platform/jet/ImportadorJet.h"
 
 namespace trevalo::calc {
 

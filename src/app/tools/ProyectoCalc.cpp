@@ -8,11 +8,6 @@ namespace trevalo::calc {
 
 namespace {
 
-constexpr long ErrNoExiste = 53;
-constexpr long ErrNoEsProyecto = 3343;
-constexpr long ErrVigaDesconocida = 3265;
-constexpr long ErrFaltaGeneral = 3021;
-
 // A project holds GeneralProyecto and the nine tables of its beams.
 bool EsProyecto(BaseDatos& bd) {
     for (const char* tabla : TablasViga)
@@ -28,8 +23,8 @@ bool EsProyecto(BaseDatos& bd) {
 
 EstadoProyecto AbrirProyectoCalc(const std::string& ruta) {
     if (!std::filesystem::is_regular_file(ruta))
-        throw ErrorTrevalo(ErrNoExiste, "No existe el archivo: " + ruta);
-    const ErrorTrevalo noEsProyecto(ErrNoEsProyecto,
+        throw ErrorTrevalo(ErrArchivoNoEncontrado, "No existe el archivo: " + ruta);
+    const ErrorTrevalo noEsProyecto(ErrFormatoNoReconocido,
                                     "El archivo no es un proyecto de vigas: " + ruta);
     EstadoProyecto estado;
     estado.NombreProyecto = std::filesystem::path(ruta).filename().string();
@@ -37,8 +32,8 @@ EstadoProyecto AbrirProyectoCalc(const std::string& ruta) {
         estado.BDProyecto.emplace(BaseDatos::Abrir(ruta));
         if (!EsProyecto(*estado.BDProyecto)) throw noEsProyecto;
     } catch (const ErrorTrevalo& e) {
-        if (e.Numero() == ErrNoEsProyecto) throw;
-        throw ErrorTrevalo(ErrNoEsProyecto,
+        if (e.Numero() == ErrFormatoNoReconocido) throw;
+        throw ErrorTrevalo(ErrFormatoNoReconocido,
                            noEsProyecto.Descripcion() + " (" + e.Descripcion() + ")");
     }
     AbrirRsGeneralViga(estado, ConsultaListaVigas);
@@ -49,7 +44,7 @@ std::string NombreGuardado(EstadoProyecto& estado, const std::string& nombre) {
     auto rs =
         estado.BDProyecto->AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {nombre});
     if (rs.RecordCount() == 0)
-        throw ErrorTrevalo(ErrVigaDesconocida, "La viga no existe en el proyecto: " + nombre);
+        throw ErrorTrevalo(ErrNoEnColeccion, "La viga no existe en el proyecto: " + nombre);
     return rs.Campo("NombreViga").Texto();
 }
 
@@ -57,7 +52,7 @@ void CargarVigaCalc(EstadoProyecto& estado, const std::string& nombre, ProyectoA
                     VigaActual& viga) {
     viga.NombreVigaActual = NombreGuardado(estado, nombre);
     if (estado.BDProyecto->AbrirRecordset("GeneralProyecto").RecordCount() == 0)
-        throw ErrorTrevalo(ErrFaltaGeneral, "El proyecto no tiene datos generales.");
+        throw ErrorTrevalo(ErrSinRegistroActual, "El proyecto no tiene datos generales.");
     LeerGeneralProyecto(*estado.BDProyecto, proyecto);
     LeerViga(estado, viga);
 }

@@ -96,7 +96,7 @@ int ComandoImportar(const Argumentos& args, std::ostream& salida, std::ostream& 
         LeerVigaJsonArchivo(p.posicionales[1], proyecto, viga);
         if (p.opciones.count("--nombre")) viga.NombreVigaActual = p.opciones["--nombre"];
         if (viga.NombreVigaActual.empty())
-            throw ErrorTrevalo(ErrFaltaColumna, "La viga no tiene nombre: use --nombre.");
+            throw ErrorTrevalo(ErrNoEnColeccion, "La viga no tiene nombre: use --nombre.");
 
         BaseDatos& bd = *estado.BDProyecto;
         viga.VigaNueva = !ExisteViga(bd, viga.NombreVigaActual);

@@ -16,13 +16,13 @@
 // of every span is FMayoracion; only load slots up to their count are read.
 //
 // Errors (ErrorTrevalo, Spanish text naming the table and the column):
-//   ErrJsonNoValido   the text is not JSON, or the document or a table has the wrong shape
-//   ErrFaltaColumna   a column that is read is missing (also GeneralProyecto without a row)
-//   ErrFaltaFila      a table has fewer rows than the spans or joints need
-//   13                a value of the wrong type (text for a number ...)
-//   94                a null where a value is needed
-//   6                 an integer beyond its column's range
-//   53                the file cannot be opened
+//   3343  the text is not JSON, or the document or a table has the wrong shape
+//   3265  a column that is read is missing
+//   3021  a table has fewer rows than the spans or joints need (GeneralProyecto none)
+//   13    a value of the wrong type (text for a number ...)
+//   94    a null where a value is needed
+//   6     an integer beyond its column's range
+//   53    the file cannot be opened
 
 #include <iosfwd>
 #include <string>
@@ -33,15 +33,11 @@
 
 namespace trevalo::calc {
 
-inline constexpr long ErrFaltaFila = 3021;
-inline constexpr long ErrFaltaColumna = 3265;
-inline constexpr long ErrJsonNoValido = 3343;
-
 // Reads settings and beam from a parsed document.
 void LeerVigaJson(const nlohmann::ordered_json& documento, ProyectoActual& proyecto,
                   VigaActual& viga);
 
-// Parses the text and reads it (ErrJsonNoValido when it is not JSON).
+// Parses the text and reads it (3343 when it is not JSON).
 void LeerVigaJsonTexto(const std::string& texto, ProyectoActual& proyecto, VigaActual& viga);
 
 // Reads the file at `ruta` (53 when it cannot be opened).

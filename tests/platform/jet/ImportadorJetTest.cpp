@@ -13,8 +13,8 @@
 #include <unistd.h>
 
 #include "VerificaError.h"
-#include "platform/ImportadorJet.h"
-#include "platform/MotorDatos.h"
+#include "platform/jet/ImportadorJet.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 namespace {
@@ -163,7 +163,7 @@ TEST_F(ImportadorJet, ArchivoQueNoEsJetSeRechazaIntacto) {
         f << "Esto no es una base de datos, aunque su nombre lo diga.\n";
     }
     const std::string antes = Bytes(texto);
-    EXPECT_TREVALO_ERROR(ImportarJet(texto, Destino()), ErrNoEsJet,
+    EXPECT_TREVALO_ERROR(ImportarJet(texto, Destino()), ErrFormatoNoReconocido,
                          "El archivo \"" + texto + "\" no es una base de datos Jet 3 ni Jet 4.");
     EXPECT_EQ(Bytes(texto), antes);
 
@@ -171,7 +171,7 @@ TEST_F(ImportadorJet, ArchivoQueNoEsJetSeRechazaIntacto) {
     const std::string sqlite = Destino("nuevo.sqlite");
     BaseDatos::Crear(sqlite).Ejecutar("CREATE TABLE T (a INTEGER)");
     const std::string antesSqlite = Bytes(sqlite);
-    EXPECT_TREVALO_ERROR(ImportarJet(sqlite, Destino()), ErrNoEsJet,
+    EXPECT_TREVALO_ERROR(ImportarJet(sqlite, Destino()), ErrFormatoNoReconocido,
                          "El archivo \"" + sqlite + "\" no es una base de datos Jet 3 ni Jet 4.");
     EXPECT_EQ(Bytes(sqlite), antesSqlite);
 
@@ -203,13 +203,13 @@ TEST_F(ImportadorJet, FaltanArchivosOSobranDestinos) {
 
 TEST_F(ImportadorJet, FamiliaIncompleta) {
     EXPECT_TREVALO_ERROR(
-        ImportarJet(Jet("testV1997.mdb"), Destino(), FamiliaJet::Proyecto), ErrFaltaTabla,
+        ImportarJet(Jet("testV1997.mdb"), Destino(), FamiliaJet::Proyecto), ErrTablaNoEncontrada,
         "Al archivo \"" + Jet("testV1997.mdb") +
             "\" le faltan tablas de un proyecto: GeneralProyecto, GeneralViga, Tramos, Juntas, "
             "JuntasDesplazadas, Juntasrestringidas, JuntasResortes, TiposVigas, CargasTramos, "
             "AccionesNodales.");
     EXPECT_TREVALO_ERROR(ImportarJet(Jet("test2V2000.mdb"), Destino(), FamiliaJet::TablaPerfiles),
-                         ErrFaltaTabla,
+                         ErrTablaNoEncontrada,
                          "Al archivo \"" + Jet("test2V2000.mdb") +
                              "\" le faltan tablas de una tabla de perfiles: GeneralPerfil, "
                              "DatosPerfil.");

@@ -8,7 +8,7 @@
 
 #include "AplicacionQtPrueba.h"
 #include "VerificaError.h"
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 using namespace trevalo;
 
@@ -173,7 +173,7 @@ TEST_F(LienzoImagenTest, ArchivosVectoriales) {
     EXPECT_TRUE(contenido.contains("Tramo 1"));
     EXPECT_TRUE(contenido.contains("Liberation Sans"));
     EXPECT_EQ(QImage(QString::fromStdString(png.string())).size(), QSize(710, 810));
-    EXPECT_TREVALO_ERROR(PintarEnArchivo("/no/existe/x.png", 10, 10, pintar), 75,
+    EXPECT_TREVALO_ERROR(PintarEnArchivo("/no/existe/x.png", 10, 10, pintar), ErrAccesoArchivo,
                          "Error de acceso a la ruta o el archivo");
     std::filesystem::remove_all(dir);
 }

@@ -9,7 +9,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/LienzoQt.h"
+#include "platform/lienzos/LienzoQt.h"
 
 namespace trevalo {
 

@@ -10,10 +10,10 @@
 
 #include "AplicacionQtPrueba.h"
 #include "CompararImagenes.h"
-#include "VigasPrueba.h"
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/Ploteos.h"
-#include "platform/LienzosArchivo.h"
+#include "drawing/VigasPrueba.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 namespace trevalo::prueba {
 namespace {

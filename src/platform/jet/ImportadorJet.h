@@ -40,9 +40,6 @@ struct ResultadoImportacion {
     std::vector<std::pair<std::string, long>> Tablas; // name and rows copied, catalogue order
 };
 
-inline constexpr long ErrNoEsJet = 3343;
-inline constexpr long ErrFaltaTabla = 3078;
-
 // A date of the engine (days since 30 December 1899, the fraction the time of day) as the
 // import writes it for the family.
 std::string TextoFechaJet(double dias, FamiliaJet familia);

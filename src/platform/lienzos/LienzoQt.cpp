@@ -1,4 +1,4 @@
-#include "platform/LienzoQt.h"
+#include "platform/lienzos/LienzoQt.h"
 
 #include <QPainterPath>
 

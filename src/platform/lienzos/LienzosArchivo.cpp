@@ -1,4 +1,4 @@
-#include "platform/LienzosArchivo.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 #include <QPageSize>
 #include <QPdfWriter>
@@ -10,8 +10,6 @@
 namespace trevalo {
 
 namespace {
-
-inline constexpr long ErrAccesoArchivo = 75;
 
 ErrorTrevalo ErrorAcceso() {
     return ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");

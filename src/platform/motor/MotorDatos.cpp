@@ -1,4 +1,4 @@
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
@@ -22,12 +22,6 @@ struct ConexionDatos {
 };
 
 namespace {
-
-constexpr long ErrUpdateSinEdit = 3020;
-constexpr long ErrSinRegistro = 3021;
-constexpr long ErrSoloLectura = 3027;
-constexpr long ErrNoEnColeccion = 3265;
-constexpr long ErrObjetoNoValido = 3420;
 
 ErrorTrevalo ErrorMotor(const SQLite::Exception& e) {
     return {e.getExtendedErrorCode(), e.what()};
@@ -307,7 +301,8 @@ struct Recordset::Datos {
     long Cuenta() const { return static_cast<long>(filas.size()); }
     bool HayActual() const { return !borrada && pos >= 0 && pos < Cuenta(); }
     void ExigirActual() const {
-        if (!HayActual()) throw ErrorTrevalo(ErrSinRegistro, "No hay ningún registro activo.");
+        if (!HayActual())
+            throw ErrorTrevalo(ErrSinRegistroActual, "No hay ningún registro activo.");
     }
     void ExigirAbierto() const {
         if (!con)
@@ -367,7 +362,7 @@ struct Recordset::Datos {
 
     Fila ReleerFila(std::int64_t id) {
         auto r = LeerPorId(id);
-        if (r.empty()) throw ErrorTrevalo(ErrSinRegistro, "No hay ningún registro activo.");
+        if (r.empty()) throw ErrorTrevalo(ErrSinRegistroActual, "No hay ningún registro activo.");
         return r.front();
     }
 
@@ -459,7 +454,7 @@ long Recordset::AbsolutePosition() const {
 void Recordset::AbsolutePosition(long posicion) {
     d_->ExigirAbierto();
     if (posicion < 0 || posicion >= d_->Cuenta())
-        throw ErrorTrevalo(ErrSinRegistro, "No hay ningún registro activo.");
+        throw ErrorTrevalo(ErrSinRegistroActual, "No hay ningún registro activo.");
     d_->Mover(posicion);
 }
 
@@ -474,13 +469,13 @@ void Recordset::MoveLast() {
 void Recordset::MoveNext() {
     d_->ExigirAbierto();
     if (d_->borrada) return d_->Mover(d_->pos); // the row after the deleted one moved up
-    if (AlFinal()) throw ErrorTrevalo(ErrSinRegistro, "No hay ningún registro activo.");
+    if (AlFinal()) throw ErrorTrevalo(ErrSinRegistroActual, "No hay ningún registro activo.");
     d_->Mover(d_->pos + 1);
 }
 
 void Recordset::MovePrevious() {
     d_->ExigirAbierto();
-    if (AlPrincipio()) throw ErrorTrevalo(ErrSinRegistro, "No hay ningún registro activo.");
+    if (AlPrincipio()) throw ErrorTrevalo(ErrSinRegistroActual, "No hay ningún registro activo.");
     d_->Mover(d_->pos - 1);
 }
 

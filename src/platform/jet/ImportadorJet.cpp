@@ -1,4 +1,4 @@
-#include "platform/ImportadorJet.h"
+#include "platform/jet/ImportadorJet.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -9,7 +9,7 @@
 
 #include <mdbtools.h>
 
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 
@@ -115,7 +115,7 @@ class LectorTabla {
     }
 
     static ErrorTrevalo NoLegible(const std::string& tabla) {
-        return {ErrNoEsJet, "No se puede leer la tabla \"" + tabla + "\" del archivo."};
+        return {ErrFormatoNoReconocido, "No se puede leer la tabla \"" + tabla + "\" del archivo."};
     }
 
     unsigned Columnas() const { return tabla_->num_cols; }
@@ -242,8 +242,8 @@ void ComprobarFamilia(const std::vector<MdbCatalogEntry*>& tablas, FamiliaJet fa
     if (faltan.empty()) return;
     const std::string que =
         familia == FamiliaJet::Proyecto ? "un proyecto" : "una tabla de perfiles";
-    throw ErrorTrevalo(ErrFaltaTabla, "Al archivo \"" + origen + "\" le faltan tablas de " + que +
-                                          ": " + faltan + ".");
+    throw ErrorTrevalo(ErrTablaNoEncontrada, "Al archivo \"" + origen + "\" le faltan tablas de " +
+                                                 que + ": " + faltan + ".");
 }
 
 long CopiarTabla(MdbHandle* mdb, MdbCatalogEntry* entrada, FamiliaJet familia, BaseDatos& bd) {
@@ -286,8 +286,9 @@ Mdb AbrirJet(const std::string& origen) {
     std::error_code ec;
     if (!fs::is_regular_file(origen, ec))
         throw ErrorTrevalo(ErrArchivoNoEncontrado, "No se encontró el archivo \"" + origen + "\".");
-    const ErrorTrevalo noEsJet(ErrNoEsJet, "El archivo \"" + origen +
-                                               "\" no es una base de datos Jet 3 ni Jet 4.");
+    const ErrorTrevalo noEsJet(ErrFormatoNoReconocido,
+                               "El archivo \"" + origen +
+                                   "\" no es una base de datos Jet 3 ni Jet 4.");
     if (!PareceJet(origen)) throw noEsJet;
     Mdb mdb(mdb_open(origen.c_str(), MDB_NOFLAGS));
     if (!mdb) throw noEsJet;

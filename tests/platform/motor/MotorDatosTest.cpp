@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "VerificaError.h"
-#include "platform/MotorDatos.h"
+#include "platform/motor/MotorDatos.h"
 
 namespace trevalo {
 namespace {
@@ -95,12 +95,15 @@ TEST_F(MotorDatos, ElRecordsetSeMueveComoUnDynaset) {
     rs.MoveNext();
     EXPECT_TRUE(rs.AlFinal());
     EXPECT_EQ(rs.AbsolutePosition(), -1);
-    EXPECT_TREVALO_ERROR(rs.Campo("Nombre"), 3021, "No hay ningún registro activo.");
-    EXPECT_TREVALO_ERROR(rs.MoveNext(), 3021, "No hay ningún registro activo.");
-    EXPECT_TREVALO_ERROR(rs.AbsolutePosition(3), 3021, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(rs.Campo("Nombre"), ErrSinRegistroActual,
+                         "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(rs.MoveNext(), ErrSinRegistroActual, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(rs.AbsolutePosition(3), ErrSinRegistroActual,
+                         "No hay ningún registro activo.");
     rs.MoveFirst();
-    EXPECT_TREVALO_ERROR(rs.Campo("Apellido"), 3265, "Elemento no encontrado en esta colección.");
-    EXPECT_TREVALO_ERROR(rs.Campo("Nombre", Valor("z")), 3020,
+    EXPECT_TREVALO_ERROR(rs.Campo("Apellido"), ErrNoEnColeccion,
+                         "Elemento no encontrado en esta colección.");
+    EXPECT_TREVALO_ERROR(rs.Campo("Nombre", Valor("z")), ErrUpdateSinEdit,
                          "Update o CancelUpdate sin AddNew o Edit.");
 }
 
@@ -109,8 +112,8 @@ TEST_F(MotorDatos, UnRecordsetVacioNoTieneRegistroActivo) {
     EXPECT_EQ(rs.RecordCount(), 0);
     EXPECT_TRUE(rs.AlFinal());
     EXPECT_TRUE(rs.AlPrincipio());
-    EXPECT_TREVALO_ERROR(rs.MoveFirst(), 3021, "No hay ningún registro activo.");
-    EXPECT_TREVALO_ERROR(rs.Edit(), 3021, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(rs.MoveFirst(), ErrSinRegistroActual, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(rs.Edit(), ErrSinRegistroActual, "No hay ningún registro activo.");
 }
 
 TEST_F(MotorDatos, AddNewAnadeAlFinalYDejaLaPosicion) {
@@ -144,7 +147,8 @@ TEST_F(MotorDatos, EditYDeleteEscribenEnElArchivo) {
               20);
 
     rs.Delete();
-    EXPECT_TREVALO_ERROR(rs.Campo("Nombre"), 3021, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(rs.Campo("Nombre"), ErrSinRegistroActual,
+                         "No hay ningún registro activo.");
     EXPECT_EQ(rs.RecordCount(), 2);
     rs.MoveNext(); // the row after the deleted one
     EXPECT_EQ(rs.Campo("Nombre").Texto(), "c");
@@ -187,7 +191,7 @@ TEST_F(MotorDatos, UnaConsultaCompuestaEsDeSoloLectura) {
     auto rs = bd_->AbrirRecordset("SELECT Nombre, N * 2 AS Doble FROM Nombres");
     EXPECT_EQ(rs.Campo("Doble").Entero(), 2);
     EXPECT_TREVALO_ERROR(
-        rs.AddNew(), 3027,
+        rs.AddNew(), ErrSoloLectura,
         "No se puede actualizar. La base de datos o el objeto es de sólo lectura.");
 }
 
