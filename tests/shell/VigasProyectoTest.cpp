@@ -3,15 +3,21 @@
 // project with no beams, and a beam whose analysis faults.
 
 #include <QAction>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QWheelEvent>
 
 #include "VentanasPrueba.h"
 #include "drawing/OperacionesVista.h"
+#include "shell/NuevaViga.h"
 #include "shell/PantallaViga.h"
+#include "shell/Renombrar.h"
+#include "shell/VigaDatos.h"
+#include "shell/VigaSalvarComo.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
+#include "store/CicloProyecto.h"
 
 using namespace trevalo;
 using namespace trevalo::prueba;
@@ -29,6 +35,27 @@ bool HayDibujo(const PantallaViga& pantalla) {
             if (c != qRgb(255, 255, 255) && c != qRgb(0xD9, 0xE1, 0xEA)) return true;
         }
     return false;
+}
+
+// Types a name into the dialog's box and presses its accept button.
+template <typename T> void Nombrar(const QString& nombre, const char* aceptar) {
+    AlAbrirse<T>([nombre, aceptar](T& d) {
+        auto* texto = Hijo<QLineEdit>(d, QStringLiteral("Text1"));
+        texto->clear();
+        Teclear(texto, nombre);
+        QTest::mouseClick(Hijo<QPushButton>(d, QString::fromLatin1(aceptar)), Qt::LeftButton);
+    });
+}
+
+// The beams of the project file, in name order.
+std::vector<std::string> VigasEnArchivo(Programa& programa) {
+    EstadoProyecto otro;
+    otro.BDProyecto = BaseDatos::Abrir(RutaProyectoActual(programa.Carpetas, programa.Estado));
+    AbrirRsGeneralViga(otro, ConsultaListaVigas);
+    std::vector<std::string> nombres;
+    for (auto& rs = *otro.RsGeneralViga; !rs.AlFinal(); rs.MoveNext())
+        nombres.push_back(rs.Campo("NombreViga").Texto());
+    return nombres;
 }
 
 bool Habilitada(VigasProyecto& v, const char* clave) {
@@ -101,6 +128,82 @@ class VigasProyectoTest : public QObject {
         auto* lista = v.findChild<QTableWidget*>(QStringLiteral("Spread1"));
         lista->setCurrentCell(3, 0);
         QCOMPARE(p.programa.Viga.NombreVigaActual, nombres[3]);
+    }
+
+    void CreaCopiaRenombraYEliminaVigas() {
+        ProgramaPrueba p;
+        p.programa.Estado.NombreProyecto = Ejemplo;
+        VigasProyecto v(p.programa);
+        v.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&v));
+        auto* anterior = v.findChild<QPushButton*>(QStringLiteral("BtoMove0"));
+        auto* siguiente = v.findChild<QPushButton*>(QStringLiteral("BtoMove1"));
+
+        // A new beam goes on the last row although it sorts first, and opens in the editor.
+        Nombrar<NuevaViga>(QStringLiteral("a-1 \"Ñandú\" d'Ángel"), "Button1");
+        QString tituloEditor;
+        AlAbrirse<VigaDatos>([&](VigaDatos& e) {
+            tituloEditor = e.windowTitle();
+            e.reject();
+        });
+        QTest::mouseClick(v.Boton(QStringLiteral("LSButton3")), Qt::LeftButton);
+        const std::string nueva = "A-1 ''ÑANDÚ'' D'ÁNGEL";
+        QCOMPARE(tituloEditor, Qs("Datos Generales de la Viga: [ " + nueva + " ]"));
+        QCOMPARE(v.Filas(), 7);
+        QCOMPARE(v.NombresLista().back(), nueva);
+        QCOMPARE(v.FilaActiva(), 7);
+        QVERIFY(anterior->isEnabled() && !siguiente->isEnabled());
+        QCOMPARE(VigasEnArchivo(p.programa).front(), nueva);
+        QVERIFY(p.dialogos->preguntas.empty());
+
+        // A copy of the first beam, answered yes, also goes last.
+        v.FijarFilaActiva(1);
+        Nombrar<VigaSalvarComo>(QStringLiteral(" B-2 Copia "), "Command1");
+        QTest::mouseClick(v.Boton(QStringLiteral("LSButton20")), Qt::LeftButton);
+        QCOMPARE(p.dialogos->preguntas.back().Titulo, std::string("Salvar Como"));
+        QCOMPARE(v.Filas(), 8);
+        QCOMPARE(v.NombresLista().back(), std::string("B-2 Copia"));
+        QCOMPARE(p.programa.Viga.NombreVigaActual, std::string("B-2 Copia"));
+        QCOMPARE(v.Pestana(), 1);
+
+        // A rename sorts the list again and shows its first beam.
+        v.FijarFilaActiva(8);
+        Nombrar<Renombrar>(QStringLiteral("Z-9 Renombrada"), "Command2");
+        QTest::mouseClick(v.Boton(QStringLiteral("LSButton21")), Qt::LeftButton);
+        QCOMPARE(p.dialogos->preguntas.back().Titulo, std::string("Renombrar"));
+        auto nombres = v.NombresLista();
+        QVERIFY(std::is_sorted(nombres.begin(), nombres.end()));
+        QCOMPARE(nombres.back(), std::string("Z-9 Renombrada"));
+        QCOMPARE(nombres, VigasEnArchivo(p.programa));
+        QCOMPARE(v.FilaActiva(), 1);
+        QCOMPARE(p.programa.Viga.NombreVigaActual, nombres.front());
+
+        // The last row deleted after both questions: the new last row is the active one.
+        v.FijarFilaActiva(8);
+        p.dialogos->preguntas.clear();
+        p.dialogos->respuestas = {RespuestaSi, RespuestaSi};
+        QTest::mouseClick(v.Boton(QStringLiteral("LSButton22")), Qt::LeftButton);
+        QCOMPARE(p.dialogos->preguntas.size(), 2u);
+        QVERIFY(p.dialogos->preguntas[0] ==
+                (Pregunta{"Viga: Z-9 Renombrada\nLa Viga Seleccionada Será Eliminada!       \n"
+                          "¿Esta Usted Seguro?    ",
+                          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo,
+                          IconoMensaje::Advertencia, 2}));
+        QVERIFY(p.dialogos->preguntas[1] ==
+                (Pregunta{"Viga: Z-9 Renombrada\n¿Esta Seguro de Eliminar la Viga?    ",
+                          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo,
+                          IconoMensaje::Advertencia, 1}));
+        nombres.pop_back();
+        QCOMPARE(v.NombresLista(), nombres);
+        QCOMPARE(VigasEnArchivo(p.programa), nombres);
+        QCOMPARE(v.FilaActiva(), 7);
+        QCOMPARE(p.programa.Viga.NombreVigaActual, nombres.back());
+        QVERIFY(!siguiente->isEnabled());
+
+        // A "no" to the first question deletes nothing.
+        p.dialogos->respuestas = {RespuestaNo};
+        QTest::mouseClick(v.Boton(QStringLiteral("LSButton22")), Qt::LeftButton);
+        QCOMPARE(VigasEnArchivo(p.programa), nombres);
     }
 
     void ElLienzoSigueTeclasRuedaYHerramientas() {
