@@ -3,11 +3,11 @@
 // at. Run under a display (scripts/capturas uses Xvfb); the data folder is the user's.
 
 #include <QApplication>
-#include <clocale>
 #include <QDir>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <clocale>
 #include <functional>
 #include <iostream>
 
@@ -108,6 +108,8 @@ void Recorrido(Programa& programa) {
     Capturar(nueva, QStringLiteral("08_nueva_viga"));
     VigaSalvarComo salvarComo(programa, ventana.FilaActiva(), &ventana);
     Capturar(salvarComo, QStringLiteral("09_salvar_como"));
+    // As the project window does: the beam list on the selected beam first.
+    programa.Estado.RsGeneralViga->AbsolutePosition(ventana.FilaActiva() - 1);
     Renombrar renombrar(programa, &ventana);
     Capturar(renombrar, QStringLiteral("10_renombrar"));
     Sobre sobre(programa, &menu);
@@ -133,6 +135,7 @@ int main(int argc, char** argv) {
     // The toolkit takes the user's locale for the C library too; numbers are read and written
     // by the program's own rules with its separators, never by the C library's locale.
     std::setlocale(LC_NUMERIC, "C");
+    trevalo::TraducirAlEspanol();
     trevalo::carpeta = QString::fromLocal8Bit(argv[1]);
     QDir().mkpath(trevalo::carpeta);
     trevalo::Programa programa(std::make_unique<trevalo::DialogosQt>());

@@ -33,6 +33,7 @@ int main(int argc, char** argv) {
     // The toolkit takes the user's locale for the C library too; numbers are read and written
     // by the program's own rules with its separators, never by the C library's locale.
     std::setlocale(LC_NUMERIC, "C");
+    trevalo::TraducirAlEspanol();
     trevalo::Programa programa(std::make_unique<trevalo::DialogosQt>());
     auto* splash = new trevalo::Splash(programa, trevalo::EntornoDelSistema());
     splash->show();
