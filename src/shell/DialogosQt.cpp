@@ -5,8 +5,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTranslator>
 
 #include "platform/lienzos/LienzoQt.h"
 #include "shell/TextoQt.h"
@@ -29,24 +31,26 @@ QMessageBox::Icon IconoQt(IconoMensaje icono) {
     return QMessageBox::NoIcon;
 }
 
-// The buttons of a box, in their order on screen, with the answer each gives.
+// The buttons of a box, in their order on screen, with their caption and the answer each
+// gives.
 struct BotonMensaje {
     QMessageBox::StandardButton boton;
+    const char* titulo;
     int respuesta;
 };
 
 std::vector<BotonMensaje> BotonesQt(BotonesMensaje botones) {
+    const BotonMensaje si{QMessageBox::Yes, "&Sí", RespuestaSi};
+    const BotonMensaje no{QMessageBox::No, "&No", RespuestaNo};
     switch (botones) {
     case BotonesMensaje::SiNo:
-        return {{QMessageBox::Yes, RespuestaSi}, {QMessageBox::No, RespuestaNo}};
+        return {si, no};
     case BotonesMensaje::SiNoCancelar:
-        return {{QMessageBox::Yes, RespuestaSi},
-                {QMessageBox::No, RespuestaNo},
-                {QMessageBox::Cancel, RespuestaCancelar}};
+        return {si, no, {QMessageBox::Cancel, "Cancelar", RespuestaCancelar}};
     case BotonesMensaje::Aceptar:
         break;
     }
-    return {{QMessageBox::Ok, RespuestaAceptar}};
+    return {{QMessageBox::Ok, "Aceptar", RespuestaAceptar}};
 }
 
 // The extension that a name typed without one takes from the filter chosen: "*.trv" gives
@@ -64,6 +68,13 @@ QString SufijoDeFiltro(const std::string& filtro, int indice) {
 }
 
 } // namespace
+
+void TraducirAlEspanol() {
+    auto* traduccion = new QTranslator(QCoreApplication::instance());
+    if (traduccion->load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(traduccion);
+}
 
 QWidget* VentanaActiva() {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
@@ -88,7 +99,7 @@ int DialogosQt::Mensaje(const Pregunta& p) {
     QMessageBox caja(IconoQt(p.Icono), Qs(p.Titulo), Qs(p.Texto), QMessageBox::NoButton,
                      VentanaActiva());
     const auto botones = BotonesQt(p.Botones);
-    for (const auto& b : botones) caja.addButton(b.boton);
+    for (const auto& b : botones) caja.addButton(b.boton)->setText(QString::fromUtf8(b.titulo));
     const auto defecto = static_cast<std::size_t>(p.BotonDefecto - 1);
     caja.setDefaultButton(botones[defecto < botones.size() ? defecto : 0].boton);
     caja.exec();

@@ -18,6 +18,10 @@ class DialogosQt : public Dialogos {
     std::optional<std::int32_t> Color(std::int32_t inicial) override;
 };
 
+// The toolkit's own texts (file and colour dialogs, context menus) in Spanish, from its
+// installed translations; without them they stay as they are.
+void TraducirAlEspanol();
+
 // The window in front, over which a dialog opens.
 QWidget* VentanaActiva();
 

@@ -130,6 +130,11 @@ void PantallaViga::paintEvent(QPaintEvent*) {
         painter.drawImage(QPointF(0, 0), imagen_);
 }
 
+void PantallaViga::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    emit Redimensionado();
+}
+
 void PantallaViga::keyPressEvent(QKeyEvent* evento) {
     const int codigo = CodigoTecla(*evento);
     if (codigo == TeclaEscape) return ZoomExtents();

@@ -42,9 +42,12 @@ class PantallaViga : public QWidget {
 
   signals:
     void MenuContextual(const QPoint& global);
+    // The canvas has a new size: the window draws again.
+    void Redimensionado();
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;

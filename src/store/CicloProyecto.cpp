@@ -299,17 +299,16 @@ bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
     return true;
 }
 
-bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,
-                           PlataformaProyecto& plataforma) {
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado, Dialogos& dialogos) {
     const std::string titulo = "Eliminando Vigas del Proyecto";
     const Pregunta primera =
         SiNo("Viga: " + nombre +
                  "\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
              titulo, IconoMensaje::Advertencia, 2);
-    if (Preguntar(estado, plataforma.dialogos, primera) != RespuestaSi) return false;
+    if (Preguntar(estado, dialogos, primera) != RespuestaSi) return false;
     const Pregunta segunda = SiNo("Viga: " + nombre + "\n¿Esta Seguro de Eliminar la Viga?    ",
                                   titulo, IconoMensaje::Advertencia, 1);
-    return Preguntar(estado, plataforma.dialogos, segunda) == RespuestaSi;
+    return Preguntar(estado, dialogos, segunda) == RespuestaSi;
 }
 
 } // namespace trevalo

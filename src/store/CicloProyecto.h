@@ -110,7 +110,6 @@ bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
                           const BuscarViga& existe, EstadoProyecto& estado, Dialogos& dialogos);
 
 // The two questions before the beam `nombre` is deleted; true when both were answered yes.
-bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado,
-                           PlataformaProyecto& plataforma);
+bool ConfirmarEliminarViga(const std::string& nombre, EstadoProyecto& estado, Dialogos& dialogos);
 
 } // namespace trevalo

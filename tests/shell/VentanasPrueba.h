@@ -22,7 +22,6 @@ namespace trevalo::prueba {
 class ProgramaPrueba {
   public:
     ProgramaPrueba() : programa(Nuevo(dialogos)) {
-        EntornoInicio entorno;
         entorno.RutaAplicacion = TREVALO_RUTA_PROGRAMA;
         entorno.CarpetaPersonal = carpeta.Ruta();
         entorno.CarpetaDocumentos = carpeta / "Documentos";
@@ -31,6 +30,7 @@ class ProgramaPrueba {
     }
 
     CarpetaTemporal carpeta;
+    EntornoInicio entorno;             // the machine as the start-up sees it
     DialogosGuion* dialogos = nullptr; // owned by the program
     Programa programa;
 

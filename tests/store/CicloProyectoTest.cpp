@@ -323,8 +323,8 @@ TEST_F(PreguntasViga, Renombrar) {
 
 TEST_F(PreguntasViga, Eliminar) {
     d.respuestas = {RespuestaSi, RespuestaNo, RespuestaSi, RespuestaSi};
-    EXPECT_FALSE(ConfirmarEliminarViga("V-1", estado, p));
-    EXPECT_TRUE(ConfirmarEliminarViga("V-1", estado, p));
+    EXPECT_FALSE(ConfirmarEliminarViga("V-1", estado, d));
+    EXPECT_TRUE(ConfirmarEliminarViga("V-1", estado, d));
     ASSERT_EQ(d.preguntas.size(), 4u);
     EXPECT_EQ(d.preguntas[0],
               (Pregunta{"Viga: V-1\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted "

@@ -1,0 +1,115 @@
+// The project window as a person feels it: its opening on the sample project, a click on a
+// tab (solve and paint) on a beam of 20 spans with every load kind, and one step of a pan
+// with the mouse on a canvas of 1600 x 900.
+
+#include <benchmark/benchmark.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+
+#include "VigaBanco.h"
+#include "analysis/AnalisisVigasP.h"
+#include "shell/DialogosQt.h"
+#include "shell/PantallaViga.h"
+#include "shell/TextoQt.h"
+#include "shell/VigasProyecto.h"
+#include "store/BaseDatos.h"
+#include "store/CicloProyecto.h"
+
+namespace trevalo {
+namespace {
+
+QApplication& Aplicacion() {
+    static int argc = 1;
+    static char nombre[] = "banco";
+    static char* argv[] = {nombre, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication app(argc, argv);
+    return app;
+}
+
+// A program over a data folder of its own, holding the sample project and a project with
+// the 20-span beam.
+struct ProgramaBanco {
+    ProgramaBanco() : programa(std::make_unique<DialogosQt>()) {
+        Aplicacion();
+        EntornoInicio entorno;
+        entorno.RutaAplicacion = TREVALO_RUTA_PROGRAMA;
+        entorno.CarpetaPersonal = Std(carpeta.path());
+        entorno.CarpetaDocumentos = entorno.CarpetaPersonal;
+        DatosUsuario(entorno, programa.Carpetas);
+        EstadoProyecto estado;
+        const std::string ejemplo = programa.Carpetas.RutaProyectos + "/Ejemplo Demostrativo.trv";
+        const std::string veinte = programa.Carpetas.RutaProyectos + "/Veinte.trv";
+        std::filesystem::copy_file(ejemplo, veinte);
+        estado.BDProyecto = BaseDatos::Abrir(veinte);
+        AbrirRsGeneralViga(estado, ConsultaListaVigas);
+        VigaActual viga = VigaTodasLasCargas(20);
+        viga.NombreVigaActual = "A-20 Veinte Tramos"; // first in the list
+        viga.VigaNueva = true;
+        SalvarViga(estado, viga);
+    }
+    QTemporaryDir carpeta;
+    Programa programa;
+};
+
+void AbrirVentanaProyecto(benchmark::State& estado) {
+    ProgramaBanco p;
+    p.programa.Estado.NombreProyecto = "Ejemplo Demostrativo.trv";
+    for (auto _ : estado) {
+        VigasProyecto ventana(p.programa);
+        ventana.show();
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(ventana.Lienzo().Imagen().constBits());
+    }
+}
+BENCHMARK(AbrirVentanaProyecto)->Unit(benchmark::kMillisecond);
+
+// range(0): the tab clicked, 2 diagrams, 3 design sheet, 4 reactions.
+void ClicPestana(benchmark::State& estado) {
+    ProgramaBanco p;
+    p.programa.Estado.NombreProyecto = "Veinte.trv";
+    VigasProyecto ventana(p.programa);
+    ventana.showNormal();
+    ventana.resize(1600 + 300, 900 + 120);
+    QApplication::processEvents();
+    const int pestana = static_cast<int>(estado.range(0));
+    for (auto _ : estado) ventana.ElegirPestana(pestana);
+    estado.counters["tramos"] = p.programa.Viga.NT;
+    estado.counters["ancho"] = ventana.Lienzo().width();
+}
+BENCHMARK(ClicPestana)->DenseRange(2, 4)->Unit(benchmark::kMillisecond);
+
+// One move of the mouse with the pan tool pressed, on the force diagrams.
+void PasoPan(benchmark::State& estado) {
+    ProgramaBanco p;
+    auto& programa = p.programa;
+    programa.Viga = VigaTodasLasCargas(20);
+    AnalizarViga([](ProyectoActual&) {}, programa.Proyecto, programa.Viga, programa.Resultados);
+    programa.Vista.VerDiagramas = true;
+    PantallaViga lienzo(programa, true);
+    lienzo.resize(1600, 900);
+    QAction pan;
+    pan.setCheckable(true);
+    lienzo.FijarHerramientaPan(&pan);
+    pan.setChecked(true);
+    lienzo.show();
+    lienzo.Pintar();
+    QMouseEvent presion(QEvent::MouseButtonPress, QPointF(800, 450), QPointF(800, 450),
+                        Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&lienzo, &presion);
+    double x = 800;
+    for (auto _ : estado) {
+        x += 1;
+        QMouseEvent mover(QEvent::MouseMove, QPointF(x, 450), QPointF(x, 450), Qt::NoButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&lienzo, &mover);
+    }
+    if (programa.Vista.PanX != x - 800) estado.SkipWithError("the pan did not follow the mouse");
+}
+BENCHMARK(PasoPan)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace trevalo

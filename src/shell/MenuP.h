@@ -1,0 +1,70 @@
+#pragma once
+// The main window: the menu and the icon bar of the program's commands, the wallpaper behind
+// them and the bottom panel that shows each command's hint. It does no engineering itself:
+// every command opens a modal window, so it is the root of the window stack. The title
+// names the current project; "SALVAR EL PROYECTO COMO..." is enabled only while one is
+// chosen.
+
+#include <QMainWindow>
+#include <QPixmap>
+#include <map>
+#include <memory>
+
+#include "shell/Programa.h"
+#include "store/CicloProyecto.h"
+
+class QLabel;
+class QFrame;
+
+namespace trevalo {
+
+class ToolTipTrevalo;
+
+// Where the wallpaper goes in an inner area of `interior` with a bottom panel of height
+// `altoPanel`, for a picture of `imagen`: its natural size at the alignment of the settings,
+// or, fitted, a picture larger than the area scaled down keeping its proportions and centred
+// above the panel (a smaller one is centred and not enlarged).
+QRect GeometriaTapiz(QSize interior, int altoPanel, QSize imagen, const ConfiguracionTapiz& tapiz);
+
+class MenuP : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit MenuP(Programa& programa);
+    ~MenuP() override;
+
+    // The command of a tool by its key, compared as exact text; an unknown key does nothing.
+    void Despachar(const QString& clave);
+    QAction* Accion(const QString& clave) const;
+
+    // Reads Tapiz.kvl and the help file's place, and disables "save as" (no project yet).
+    void ConfigurarPantalla1();
+    // Places the wallpaper by its settings.
+    void ColoqueImagen();
+    // Lays the controls out.
+    void ConfigurarPantalla();
+
+    PlataformaProyecto& Plataforma();
+    ToolTipTrevalo& ToolTip() { return *toolTip_; }
+
+  protected:
+    void resizeEvent(QResizeEvent* evento) override;
+
+  private:
+    void CrearMenus();
+    void ExploradorWindows();
+    void ManualPrograma();
+    void AyudaTemas();
+
+    Programa& programa_;
+    std::unique_ptr<PlataformaProyecto> plataforma_;
+    ToolTipTrevalo* toolTip_;
+    std::map<QString, QAction*> acciones_;
+    QWidget* area_;
+    QLabel* imagen_;
+    QFrame* linea_;
+    QPixmap tapiz_;
+    bool yaConfigurado_ = false;
+};
+
+} // namespace trevalo

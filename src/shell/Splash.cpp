@@ -1,0 +1,64 @@
+#include "shell/Splash.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLabel>
+#include <QPixmap>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+#include "shell/MenuP.h"
+#include "shell/TextoQt.h"
+
+namespace trevalo {
+
+EntornoInicio EntornoDelSistema() {
+    EntornoInicio entorno;
+    entorno.RutaAplicacion = Std(QCoreApplication::applicationDirPath());
+    entorno.CarpetaPersonal = Std(QDir::homePath());
+    entorno.CarpetaDocumentos =
+        Std(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    entorno.Local = LocalDeLaMaquina();
+    return entorno;
+}
+
+Splash::Splash(Programa& programa, const EntornoInicio& entorno) : programa_(programa) {
+    setObjectName(QStringLiteral("Splash"));
+    setWindowTitle(QStringLiteral("TREVALO 6.0"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    DatosUsuario(entorno, programa_.Carpetas);
+    setWindowTitle(Qs("Trevalo versión: " + programa_.Carpetas.VersionPrograma));
+
+    auto* capas = new QVBoxLayout(this);
+    capas->setContentsMargins(0, 0, 0, 0);
+    capas->setSpacing(0);
+    auto* franja = new QLabel(Qs("  Trevalo " + programa_.Carpetas.VersionPrograma +
+                                 "  ·  Análisis y Diseño de Vigas Continuas"),
+                              this);
+    franja->setObjectName(QStringLiteral("LSLabel2"));
+    franja->setStyleSheet(QStringLiteral(
+        "background: #122c52; color: white; font-size: 13pt; font-weight: bold; padding: 8px;"));
+    capas->addWidget(franja);
+    auto* imagen = new QLabel(this);
+    imagen->setObjectName(QStringLiteral("Image1"));
+    const QPixmap tapiz(Qs(programa_.Carpetas.RutaPrograma + "/Imagen/TapizKorvel.jpg"));
+    if (!tapiz.isNull()) imagen->setPixmap(tapiz.scaledToWidth(640, Qt::SmoothTransformation));
+    capas->addWidget(imagen);
+
+    timer1_.setSingleShot(true);
+    timer1_.setInterval(2800);
+    connect(&timer1_, &QTimer::timeout, this, &Splash::AbrirMenu);
+}
+
+void Splash::showEvent(QShowEvent* evento) {
+    QWidget::showEvent(evento);
+    if (!menu_) timer1_.start();
+}
+
+void Splash::AbrirMenu() {
+    menu_ = new MenuP(programa_);
+    menu_->show();
+    close();
+}
+
+} // namespace trevalo

@@ -1,0 +1,715 @@
+#include "shell/VigasProyecto.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "analysis/AnalisisVigasP.h"
+#include "drawing/OperacionesVista.h"
+#include "shell/Iconos.h"
+#include "shell/NuevaViga.h"
+#include "shell/PantallaViga.h"
+#include "shell/Renombrar.h"
+#include "shell/TextoQt.h"
+#include "shell/ToolTipTrevalo.h"
+#include "shell/VigaDatos.h"
+#include "shell/VigaSalvarComo.h"
+#include "store/BaseDatos.h"
+#include "store/CicloProyecto.h"
+
+namespace trevalo {
+
+namespace {
+
+const char* const Pestanas[] = {
+    "1.- Geometría y Cargas en la Viga", "2.- Diagramas de Cortes y Momentos",
+    "3.- Análisis y Diseño de la Viga", "4.- Desplazamientos de las Juntas"};
+
+// A tool of the window: key, caption, and whether it stays pressed.
+struct Herramienta {
+    const char* clave;
+    const char* titulo;
+    bool presionable;
+};
+
+const Herramienta Herramientas[] = {
+    {"ID_Abrir", "Abrir un Proyecto Existente", false},
+    {"ID_Cuadricula", "Cuadrícula de Fondo", true},
+    {"ID_ZoomIN", "Acercar", false},
+    {"ID_ZoomOut", "Alejar", false},
+    {"ID_ZoomExtents", "Ver Toda la Viga", false},
+    {"ID_PanRealtime", "Desplazar el Dibujo", true},
+    {"ID_Aumentar", "Aumentar las Estaciones", false},
+    {"ID_Disminuir", "Disminuir las Estaciones", false},
+    {"ID_LetraMas", "Aumentar el Tamaño del Texto", false},
+    {"ID_LetraMenos", "Disminuir el Tamaño del Texto", false},
+    {"ID_LetraR", "Tamaño Normal del Texto", false},
+    {"ID_Editar", "Editar la Viga Seleccionada", false},
+    {"ID_KorvelCAD", "Exportar a Korvel-CAD Estructural 8.0", false},
+};
+
+// The commands of the window: object name, caption, tip title, tip text.
+struct Orden {
+    const char* nombre;
+    const char* titulo;
+    const char* tipTitulo;
+    const char* tipTexto;
+};
+
+const Orden Ordenes[] = {
+    {"LSButton3", " Crear Nueva Viga ", "Crear Viga", "Crear una nueva viga en el proyecto. "},
+    {"LSButton19", " Editar la Viga Seleccionada ", "Editar Viga", "Editar la viga seleccionada. "},
+    {"LSButton20", " Crear Viga a partir de la Seleccionada ", "Crear Viga",
+     "Crear Viga a partir de la seleccionada. "},
+    {"LSButton21", " Renombrar la Viga Seleccionada ", "Renombrar Viga",
+     "Renombrar la viga seleccionada. "},
+    {"LSButton22", " Eliminar la Viga Seleccionada ", "Eliminar Viga",
+     "Eliminar la viga seleccionada. "},
+    {"LSButton15", " Exportar Resultados del Análisis y Diseño ", "Exportar Resultados",
+     "Exportar Resultados del Análisis y Diseño. "},
+    {"KorvelButton1", " Exportar a Korvel-CAD Estructural 8.0 ", "Exportar a Korvel-CAD",
+     " Exportar las vigas al programa\nKorvel-CAD Estructural 8.0 "},
+    {"LSButton2", " Retorno ", "", ""},
+};
+
+// Writes "No" in the corner of the list, over the column of row numbers.
+class EsquinaNo : public QObject {
+  public:
+    using QObject::QObject;
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() != QEvent::Paint) return false;
+        auto* esquina = static_cast<QWidget*>(objeto);
+        esquina->removeEventFilter(this);
+        QApplication::sendEvent(esquina, evento);
+        esquina->installEventFilter(this);
+        QPainter p(esquina);
+        p.drawText(esquina->rect(), Qt::AlignCenter, QStringLiteral("No"));
+        return true;
+    }
+};
+
+} // namespace
+
+VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
+    : QDialog(parent), programa_(programa), toolTip_(new ToolTipTrevalo(this)) {
+    setObjectName(QStringLiteral("VigasProyecto"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    setWindowFlag(Qt::WindowMinimizeButtonHint);
+
+    spread1_ = new QTableWidget(this);
+    spread1_->setObjectName(QStringLiteral("Spread1"));
+    spread1_->setAccessibleName(QStringLiteral("Vigas del Proyecto"));
+    lblNombre_ = new QLabel(this);
+    lblNombre_->setObjectName(QStringLiteral("LblNombre"));
+    tab1_ = new QTabBar(this);
+    tab1_->setObjectName(QStringLiteral("Tab1"));
+    for (const char* t : Pestanas) tab1_->addTab(QString::fromUtf8(t));
+    pantalla_ = new PantallaViga(programa_, true, this);
+    pantalla_->setObjectName(QStringLiteral("Picture1"));
+
+    auto* izquierda = new QVBoxLayout;
+    izquierda->addWidget(spread1_, 1);
+    auto* mover = new QHBoxLayout;
+    for (int i = 0; i < 2; ++i) {
+        btoMove_[i] = new QPushButton(i == 0 ? QStringLiteral("◀") : QStringLiteral("▶"), this);
+        btoMove_[i]->setObjectName(QStringLiteral("BtoMove%1").arg(i));
+        btoMove_[i]->setAccessibleName(i == 0 ? QStringLiteral("Viga Anterior")
+                                              : QStringLiteral("Viga Siguiente"));
+        btoMove_[i]->setToolTip(btoMove_[i]->accessibleName());
+        connect(btoMove_[i], &QPushButton::clicked, this, [this, i] { BtoMove_Click(i); });
+        mover->addWidget(btoMove_[i]);
+    }
+    izquierda->addLayout(mover);
+    izquierda->addWidget(CrearBotones());
+
+    auto* derecha = new QVBoxLayout;
+    derecha->addWidget(CrearHerramientas());
+    auto* nombre = new QHBoxLayout;
+    nombre->addWidget(tab1_, 1);
+    nombre->addWidget(lblNombre_);
+    derecha->addLayout(nombre);
+    derecha->addWidget(pantalla_, 1);
+
+    lsPanelP_ = new QWidget(this);
+    lsPanelP_->setObjectName(QStringLiteral("LSPanelP"));
+    auto* progreso = new QHBoxLayout(lsPanelP_);
+    lsLabel4_ = new QLabel(lsPanelP_);
+    lsLabel4_->setObjectName(QStringLiteral("LSLabel4"));
+    progressBar1_ = new QProgressBar(lsPanelP_);
+    progressBar1_->setObjectName(QStringLiteral("ProgressBar1"));
+    progreso->addWidget(lsLabel4_);
+    progreso->addWidget(progressBar1_, 1);
+    lsPanelP_->hide();
+    derecha->addWidget(lsPanelP_);
+
+    auto* todo = new QHBoxLayout(this);
+    todo->addLayout(izquierda);
+    todo->addLayout(derecha, 1);
+
+    idPantalla_ = new QMenu(this);
+    idPantalla_->setObjectName(QStringLiteral("ID_Pantalla"));
+    for (const char* clave : {"ID_Editar", "", "ID_KorvelCAD", "", "ID_ZoomIN", "ID_ZoomOut", "",
+                              "ID_PanRealtime", "", "ID_ZoomExtents"}) {
+        if (*clave == '\0')
+            idPantalla_->addSeparator();
+        else
+            idPantalla_->addAction(Accion(QString::fromUtf8(clave)));
+    }
+
+    connect(tab1_, &QTabBar::currentChanged, this, [this](int i) { ClickPestana(i + 1); });
+    connect(spread1_, &QTableWidget::currentCellChanged, this,
+            [this](int fila, int, int anterior, int) {
+                if (fila != anterior && fila >= 0) CambioFila(fila + 1);
+            });
+    connect(pantalla_, &PantallaViga::MenuContextual, this, &VigasProyecto::MostrarMenuContextual);
+    connect(pantalla_, &PantallaViga::Redimensionado, this, &VigasProyecto::Redimensionado);
+
+    // The load of the window.
+    InicializarToolTips();
+    toolTip_->Configurar(programa_.Tapiz);
+    ConfigurarSpread();
+    auto& estado = programa_.Estado;
+    setWindowTitle(Qs("Trevalo 5.0  Proyecto:[" + estado.NombreProyecto + "]"));
+    try {
+        estado.BDProyecto = BaseDatos::Abrir(RutaProyectoActual(programa_.Carpetas, estado));
+        AbrirRsGeneralViga(estado, ConsultaListaVigas);
+        LeerGeneralProyecto(*estado.BDProyecto, programa_.Proyecto);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    ColoquePantalla();
+    if (Filas() > 0) {
+        FijarFilaActiva(1);
+        Tomar(1);
+    }
+    Botones();
+    auto& vista = programa_.Vista;
+    Vista();
+    vista.ModoEditor = false;
+    vista.EstacionesDiseno = 2;
+    vista.VerJuntas = false;
+    ElegirPestana(1);
+
+    if (const QScreen* pantalla = screen()) {
+        const QRect zona = pantalla->availableGeometry();
+        resize(zona.width() * 95 / 100, zona.height() * 9 / 10);
+        move(zona.center() - rect().center());
+    }
+    setWindowState(Qt::WindowMaximized);
+    cargando_ = false;
+}
+
+VigasProyecto::~VigasProyecto() = default;
+
+QToolBar* VigasProyecto::CrearHerramientas() {
+    auto* barra = new QToolBar(this);
+    barra->setObjectName(QStringLiteral("ToolBar1"));
+    barra->setIconSize(QSize(24, 24));
+    for (const Herramienta& h : Herramientas) {
+        const QString clave = QString::fromUtf8(h.clave);
+        QAction* a = barra->addAction(IconoHerramienta(clave), QString::fromUtf8(h.titulo));
+        a->setObjectName(clave);
+        a->setCheckable(h.presionable);
+        if (clave == QStringLiteral("ID_PanRealtime"))
+            pantalla_->FijarHerramientaPan(a);
+        else
+            connect(a, &QAction::triggered, this, [this, clave] { Despachar(clave); });
+        acciones_[clave] = a;
+        if (clave == QStringLiteral("ID_Abrir") || clave == QStringLiteral("ID_PanRealtime") ||
+            clave == QStringLiteral("ID_LetraR"))
+            barra->addSeparator();
+    }
+    return barra;
+}
+
+QWidget* VigasProyecto::CrearBotones() {
+    auto* panel = new QWidget(this);
+    auto* capas = new QVBoxLayout(panel);
+    capas->setContentsMargins(0, 0, 0, 0);
+    for (const Orden& o : Ordenes) {
+        const QString nombre = QString::fromUtf8(o.nombre);
+        auto* b = new QPushButton(QString::fromUtf8(o.titulo), panel);
+        b->setObjectName(nombre);
+        b->setAutoDefault(false);
+        botones_[nombre] = b;
+        if (nombre == QStringLiteral("LSButton2")) capas->addSpacing(12);
+        capas->addWidget(b);
+    }
+    connect(botones_[QStringLiteral("LSButton3")], &QPushButton::clicked, this,
+            &VigasProyecto::CrearViga);
+    connect(botones_[QStringLiteral("LSButton19")], &QPushButton::clicked, this,
+            &VigasProyecto::EditarViga);
+    connect(botones_[QStringLiteral("LSButton20")], &QPushButton::clicked, this,
+            &VigasProyecto::CopiarVigaSeleccionada);
+    connect(botones_[QStringLiteral("LSButton21")], &QPushButton::clicked, this,
+            &VigasProyecto::RenombrarSeleccionada);
+    connect(botones_[QStringLiteral("LSButton22")], &QPushButton::clicked, this,
+            &VigasProyecto::EliminarVigaSeleccionada);
+    connect(botones_[QStringLiteral("LSButton15")], &QPushButton::clicked, this,
+            [this] { Pendiente(QStringLiteral("Exportar Resultados")); });
+    connect(botones_[QStringLiteral("KorvelButton1")], &QPushButton::clicked, this,
+            [this] { Despachar(QStringLiteral("ID_KorvelCAD")); });
+    connect(botones_[QStringLiteral("LSButton2")], &QPushButton::clicked, this, &QDialog::reject);
+    return panel;
+}
+
+void VigasProyecto::InicializarToolTips() {
+    for (const Orden& o : Ordenes) {
+        if (*o.tipTexto == '\0') continue;
+        QPushButton* b = Boton(QString::fromUtf8(o.nombre));
+        b->setProperty("Tag", QString::fromUtf8(o.tipTitulo));
+        b->setToolTip(QString::fromUtf8(o.tipTexto));
+    }
+}
+
+void VigasProyecto::ConfigurarSpread() {
+    spread1_->setColumnCount(1);
+    spread1_->setHorizontalHeaderLabels({QStringLiteral("Nombre de la Viga")});
+    spread1_->horizontalHeader()->setStretchLastSection(true);
+    spread1_->verticalHeader()->setDefaultSectionSize(18);
+    spread1_->horizontalHeader()->setFixedHeight(22);
+    spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
+    spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    spread1_->setMinimumWidth(240);
+    if (auto* esquina = spread1_->findChild<QAbstractButton*>())
+        esquina->installEventFilter(new EsquinaNo(spread1_));
+    for (const char* clave :
+         {"ID_Aumentar", "ID_Disminuir", "ID_LetraMas", "ID_LetraMenos", "ID_LetraR"})
+        Accion(QString::fromUtf8(clave))->setEnabled(false);
+    Accion(QStringLiteral("ID_Cuadricula"))->setChecked(programa_.Vista.VerCuadricula);
+}
+
+QAction* VigasProyecto::Accion(const QString& clave) const {
+    const auto i = acciones_.find(clave);
+    return i == acciones_.end() ? nullptr : i->second;
+}
+
+QPushButton* VigasProyecto::Boton(const QString& nombre) const {
+    const auto i = botones_.find(nombre);
+    return i == botones_.end() ? nullptr : i->second;
+}
+
+int VigasProyecto::FilaActiva() const {
+    return Filas() == 0 ? 0 : spread1_->currentRow() + 1;
+}
+
+int VigasProyecto::Filas() const {
+    return spread1_->rowCount();
+}
+
+void VigasProyecto::FijarFilaActiva(int fila) {
+    const QSignalBlocker bloqueo(spread1_);
+    spread1_->setCurrentCell(fila - 1, 0);
+}
+
+std::vector<std::string> VigasProyecto::NombresLista() const {
+    std::vector<std::string> nombres;
+    for (int r = 0; r < spread1_->rowCount(); ++r)
+        nombres.push_back(Std(spread1_->item(r, 0)->text()));
+    return nombres;
+}
+
+int VigasProyecto::Pestana() const {
+    return tab1_->currentIndex() + 1;
+}
+
+void VigasProyecto::ElegirPestana(int pestana) {
+    if (Pestana() == pestana)
+        ClickPestana(pestana);
+    else
+        tab1_->setCurrentIndex(pestana - 1);
+}
+
+// --- The rule of load, analysis and drawing -----------------------------------------------
+
+void VigasProyecto::ColoquePantalla() {
+    const QSignalBlocker bloqueo(spread1_);
+    const int activa = spread1_->currentRow();
+    spread1_->setRowCount(0);
+    auto& lista = programa_.Estado.RsGeneralViga;
+    if (!lista || lista->RecordCount() == 0) return;
+    spread1_->setRowCount(lista->RecordCount());
+    int r = 0;
+    for (lista->MoveFirst(); !lista->AlFinal(); lista->MoveNext())
+        spread1_->setItem(r++, 0, new QTableWidgetItem(Qs(lista->Campo("NombreViga").Texto())));
+    if (activa >= 0 && activa < spread1_->rowCount()) spread1_->setCurrentCell(activa, 0);
+}
+
+void VigasProyecto::Tomar(int fila) {
+    auto& estado = programa_.Estado;
+    estado.RsGeneralViga->AbsolutePosition(fila - 1);
+    programa_.Viga.NombreVigaActual = estado.RsGeneralViga->Campo("NombreViga").Texto();
+    lblNombre_->setText(Qs(programa_.Viga.NombreVigaActual));
+    try {
+        LeerViga(estado, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+}
+
+bool VigasProyecto::Resolver() {
+    if (Pestana() <= 1) return true;
+    try {
+        AnalizarViga(LectorGeneralProyecto(*programa_.Estado.BDProyecto), programa_.Proyecto,
+                     programa_.Viga, programa_.Resultados);
+        return true;
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeFalla(e));
+        return false;
+    }
+}
+
+void VigasProyecto::Botones() {
+    const int n = Filas(), p = FilaActiva() - 1;
+    btoMove_[0]->setEnabled(n > 1 && p > 0);
+    btoMove_[1]->setEnabled(n > 1 && p < n - 1);
+}
+
+void VigasProyecto::Vista() {
+    auto& vista = programa_.Vista;
+    vista.FactorZoom = 1.0;
+    vista.PanX = vista.PanY = 0.0;
+    vista.EstacionesDiagrama = 10;
+    vista.EnPantalla = true;
+    vista.FactorLetra = 1.0;
+}
+
+void VigasProyecto::Pintar() {
+    if (Filas() == 0)
+        pantalla_->Limpiar();
+    else
+        pantalla_->Pintar();
+}
+
+void VigasProyecto::ResolverYPintar() {
+    if (Resolver()) return Pintar();
+    // No view shows the results of a run that failed: the elevation alone.
+    auto& vista = programa_.Vista;
+    const bool diagramas = vista.VerDiagramas, diseno = vista.VerDiseno,
+               reacciones = vista.VerReacciones;
+    vista.VerDiagramas = vista.VerDiseno = vista.VerReacciones = false;
+    Pintar();
+    vista.VerDiagramas = diagramas;
+    vista.VerDiseno = diseno;
+    vista.VerReacciones = reacciones;
+}
+
+void VigasProyecto::CambioFila(int fila) {
+    Tomar(fila);
+    Botones();
+    Vista();
+    ResolverYPintar();
+}
+
+void VigasProyecto::HabilitarHerramientas(int pestana) {
+    for (const char* clave : {"ID_Aumentar", "ID_Disminuir"})
+        Accion(QString::fromUtf8(clave))->setEnabled(pestana == 2 || pestana == 3);
+    for (const char* clave : {"ID_LetraMas", "ID_LetraMenos", "ID_LetraR"})
+        Accion(QString::fromUtf8(clave))->setEnabled(pestana == 3);
+}
+
+void VigasProyecto::ClickPestana(int pestana) {
+    trevalo::ElegirPestana(programa_.Vista, pestana);
+    HabilitarHerramientas(pestana);
+    if (Filas() > 0)
+        ResolverYPintar();
+    else
+        Pintar();
+    if (!cargando_) pantalla_->setFocus();
+}
+
+void VigasProyecto::Redimensionado() {
+    if (cargando_) return;
+    if (Filas() > 0) {
+        programa_.Vista.EnPantalla = true;
+        try {
+            LeerViga(programa_.Estado, programa_.Viga);
+        } catch (const ErrorTrevalo& e) {
+            programa_.Dialogo().Mensaje(MensajeError(e));
+        }
+    }
+    Pintar();
+}
+
+void VigasProyecto::BtoMove_Click(int indice) {
+    programa_.Vista.ModoEditor = false;
+    const int fila = FilaActiva() + (indice == 1 ? 1 : -1);
+    if (fila < 1 || fila > Filas()) return;
+    FijarFilaActiva(fila);
+    Botones();
+    ColoqueVigasSpread(fila);
+    if (!programa_.Vista.ModoEditor && !programa_.SinFocoCanvas) pantalla_->setFocus();
+}
+
+void VigasProyecto::ColoqueVigasSpread(int fila) {
+    Tomar(fila);
+    const bool resuelta = Resolver();
+    ColoquePantalla();
+    Vista();
+    if (resuelta)
+        Pintar();
+    else
+        ResolverYPintar();
+}
+
+// --- Tools ---------------------------------------------------------------------------------
+
+void VigasProyecto::Despachar(const QString& clave) {
+    auto& vista = programa_.Vista;
+    const int pestana = Pestana();
+    if (clave == QStringLiteral("ID_Abrir")) return AbrirProyectoVentana();
+    if (clave == QStringLiteral("ID_Editar")) return EditarViga();
+    if (clave == QStringLiteral("ID_KorvelCAD"))
+        return Pendiente(QStringLiteral("Exportar a Korvel-CAD"));
+    if (clave == QStringLiteral("ID_ZoomIN")) return Filas() > 0 ? pantalla_->ZoomIn() : Pintar();
+    if (clave == QStringLiteral("ID_ZoomOut")) return Filas() > 0 ? pantalla_->ZoomOut() : Pintar();
+    if (clave == QStringLiteral("ID_ZoomExtents"))
+        return Filas() > 0 ? pantalla_->ZoomExtents() : Pintar();
+    if (clave == QStringLiteral("ID_Cuadricula"))
+        vista.VerCuadricula = Accion(clave)->isChecked();
+    else if (clave == QStringLiteral("ID_Aumentar"))
+        AumentarEstaciones(vista, pestana);
+    else if (clave == QStringLiteral("ID_Disminuir"))
+        DisminuirEstaciones(vista, pestana);
+    else if (clave == QStringLiteral("ID_LetraMas"))
+        LetraMas(vista);
+    else if (clave == QStringLiteral("ID_LetraMenos"))
+        LetraMenos(vista);
+    else if (clave == QStringLiteral("ID_LetraR"))
+        LetraR(vista);
+    else
+        return;
+    Pintar();
+    pantalla_->setFocus();
+}
+
+void VigasProyecto::MostrarMenuContextual(const QPoint& lugar) {
+    idPantalla_->popup(lugar);
+}
+
+void VigasProyecto::Pendiente(const QString& titulo) {
+    programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
+                                 Std(titulo), BotonesMensaje::Aceptar, IconoMensaje::Informacion,
+                                 1});
+    pantalla_->setFocus();
+}
+
+// --- Beam commands -------------------------------------------------------------------------
+
+void VigasProyecto::MostrarEditor() {
+    VigaDatos editor(programa_, this);
+    editor.exec();
+}
+
+void VigasProyecto::RestaurarVigaActiva(bool pestanaUno) {
+    auto& vista = programa_.Vista;
+    Tomar(FilaActiva());
+    vista.ModoEditor = false;
+    Vista();
+    vista.VerJuntas = false;
+    programa_.SinFocoCanvas = false;
+    if (pestanaUno) {
+        vista.VerDiagramas = vista.VerDiseno = false;
+        ElegirPestana(1);
+    }
+    pantalla_->ZoomExtents();
+}
+
+void VigasProyecto::CrearViga() {
+    auto& estado = programa_.Estado;
+    programa_.Viga.VigaNueva = true;
+    {
+        NuevaViga dialogo(
+            programa_, FilaActiva(), NombresLista(),
+            [this](int fila) {
+                FijarFilaActiva(fila);
+                CambioFila(fila);
+            },
+            this);
+        dialogo.exec();
+    }
+    if (!estado.BeamNuevo) return pantalla_->setFocus();
+    // The new beam is the last record, and goes on the last row although the list is sorted.
+    AgregarUltimaFila();
+    programa_.Viga.VigaNueva = true;
+    MostrarEditor();
+    RestaurarVigaActiva(true);
+    estado.BeamNuevo = false;
+}
+
+void VigasProyecto::AgregarUltimaFila() {
+    auto& lista = *programa_.Estado.RsGeneralViga;
+    lista.MoveLast();
+    programa_.Viga.NombreVigaActual = lista.Campo("NombreViga").Texto();
+    {
+        const QSignalBlocker bloqueo(spread1_);
+        spread1_->setRowCount(lista.RecordCount());
+        spread1_->setItem(spread1_->rowCount() - 1, 0,
+                          new QTableWidgetItem(Qs(programa_.Viga.NombreVigaActual)));
+    }
+    FijarFilaActiva(Filas());
+    lblNombre_->setText(Qs(programa_.Viga.NombreVigaActual));
+    Botones();
+    programa_.Vista.FactorZoom = 1.0;
+    programa_.Vista.PanX = programa_.Vista.PanY = 0.0;
+    try {
+        LeerViga(programa_.Estado, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    programa_.Viga.TramoMarcado.Redim(programa_.Viga.NT);
+    pantalla_->ZoomExtents();
+}
+
+void VigasProyecto::EditarViga() {
+    if (Filas() == 0) return;
+    auto& vista = programa_.Vista;
+    programa_.Viga.VigaNueva = false;
+    Tomar(FilaActiva());
+    Vista();
+    vista.ModoEditor = false;
+    Pintar();
+    vista.ModoEditor = true;
+    vista.VerDiagramas = vista.VerDiseno = false;
+    MostrarEditor();
+    // What the editor left in the model is dropped: the beam is read again from the file.
+    vista.ModoEditor = false;
+    try {
+        LeerViga(programa_.Estado, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    Vista();
+    vista.VerJuntas = false;
+    programa_.SinFocoCanvas = false;
+    // The flags of the tab in front; on tab 4 they stay as they were before the editor.
+    const int pestana = Pestana();
+    if (pestana == 2) vista.VerDiagramas = true;
+    if (pestana == 3) {
+        vista.VerDiseno = true;
+        vista.FactorLetra = 1.0;
+        vista.EstacionesDiagrama = 10;
+        vista.EstacionesDiseno = 2;
+    }
+    if (!Resolver()) vista.VerDiagramas = vista.VerDiseno = vista.VerReacciones = false;
+    pantalla_->ZoomExtents();
+}
+
+void VigasProyecto::CopiarVigaSeleccionada() {
+    if (Filas() == 0) return;
+    {
+        VigaSalvarComo dialogo(programa_, FilaActiva(), this);
+        dialogo.exec();
+    }
+    if (programa_.Estado.DialogoAceptado) {
+        AgregarUltimaFila();
+        RestaurarVigaActiva(true);
+        programa_.Estado.DialogoAceptado = false;
+    }
+    pantalla_->setFocus();
+}
+
+void VigasProyecto::RenombrarSeleccionada() {
+    if (Filas() == 0) return;
+    auto& estado = programa_.Estado;
+    estado.RsGeneralViga->AbsolutePosition(FilaActiva() - 1);
+    {
+        Renombrar dialogo(programa_, this);
+        dialogo.exec();
+    }
+    if (estado.DialogoAceptado) {
+        RenombrarVigaSeleccionada();
+        estado.DialogoAceptado = false;
+    }
+    pantalla_->setFocus();
+}
+
+void VigasProyecto::RenombrarVigaSeleccionada() {
+    auto& estado = programa_.Estado;
+    try {
+        RenombrarViga(estado);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    AbrirRsGeneralViga(estado, ConsultaListaVigas);
+    ColoquePantalla();
+    // The list is in name order again, and the first beam is the one shown.
+    FijarFilaActiva(1);
+    Tomar(1);
+    Botones();
+    ResolverYPintar();
+}
+
+void VigasProyecto::EliminarVigaSeleccionada() {
+    if (Filas() == 0) return;
+    auto& estado = programa_.Estado;
+    const int fila = FilaActiva();
+    programa_.Viga.NombreVigaActual = Std(spread1_->item(fila - 1, 0)->text());
+    if (!ConfirmarEliminarViga(programa_.Viga.NombreVigaActual, estado, programa_.Dialogo()))
+        return pantalla_->setFocus();
+    try {
+        estado.RsGeneralViga->AbsolutePosition(fila - 1);
+        EliminarViga(estado, programa_.Viga.NombreVigaActual);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+        return pantalla_->setFocus();
+    }
+    lblNombre_->clear();
+    {
+        const QSignalBlocker bloqueo(spread1_);
+        spread1_->removeRow(fila - 1);
+    }
+    if (Filas() > 0) {
+        const int activa = std::min(fila, Filas());
+        FijarFilaActiva(activa);
+        Tomar(activa);
+        Botones();
+        Vista();
+        ElegirPestana(1);
+    } else {
+        Botones();
+        Pintar();
+    }
+    pantalla_->setFocus();
+}
+
+void VigasProyecto::AbrirProyectoVentana() {
+    auto& estado = programa_.Estado;
+    const ArchivoElegido archivo =
+        programa_.Dialogo().Archivo({"Abrir un Proyecto Existente", ModoDialogo::Abrir,
+                                     FiltroProyectos, 1, programa_.Carpetas.RutaProyectos, ""});
+    if (archivo.Cancelado) return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    estado.NombreProyecto = archivo.FileTitle;
+    setWindowTitle(Qs("Trevalo 5.0  Proyecto:[" + estado.NombreProyecto + "]"));
+    // Kept as users know it: the list is filled again from the beams of the database opened
+    // when the window was loaded; the new name takes effect at the next opening.
+    ColoquePantalla();
+    if (Filas() > 0) {
+        FijarFilaActiva(1);
+        Tomar(1);
+    }
+    Botones();
+    Vista();
+    programa_.Vista.ModoEditor = false;
+    programa_.Vista.EstacionesDiseno = 2;
+    programa_.Vista.VerJuntas = false;
+    ElegirPestana(1);
+    QApplication::restoreOverrideCursor();
+}
+
+} // namespace trevalo

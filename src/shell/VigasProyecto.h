@@ -1,0 +1,114 @@
+#pragma once
+// The project window: on the left the list of the project's beams, on the right the drawing
+// of the selected beam on one of four tabs, and around them the commands that create, edit,
+// copy, rename and delete beams and lead to reports and export.
+//
+// It owns the rule that joins store, analysis and drawing: choosing a beam loads it; a tab
+// other than the first solves it; every change of beam or tab solves anew, nothing is kept
+// between two of these events. A fault of the load, the analysis or the drawing is shown as
+// its message and the beam is drawn without results.
+
+#include <QDialog>
+#include <map>
+
+#include "shell/Programa.h"
+
+class QLabel;
+class QMenu;
+class QProgressBar;
+class QPushButton;
+class QTabBar;
+class QTableWidget;
+class QToolBar;
+
+namespace trevalo {
+
+class PantallaViga;
+class ToolTipTrevalo;
+
+class VigasProyecto : public QDialog {
+    Q_OBJECT
+
+  public:
+    VigasProyecto(Programa& programa, QWidget* parent = nullptr);
+    ~VigasProyecto() override;
+
+    // Moves to the previous (0) or next (1) beam of the list.
+    void BtoMove_Click(int indice);
+    // Fills the list from RsGeneralViga.
+    void ColoquePantalla();
+    // Loads and shows the beam of row r.
+    void ColoqueVigasSpread(int fila);
+    // The active row of the list (1-based; 0 when the list is empty) and its count.
+    int FilaActiva() const;
+    int Filas() const;
+    void FijarFilaActiva(int fila);
+    // The names the list shows, row by row.
+    std::vector<std::string> NombresLista() const;
+
+    // The tool with that key, and the dispatcher of the tools.
+    QAction* Accion(const QString& clave) const;
+    void Despachar(const QString& clave);
+    int Pestana() const;
+    void ElegirPestana(int pestana);
+
+    PantallaViga& Lienzo() { return *pantalla_; }
+    QPushButton* Boton(const QString& nombre) const;
+    ToolTipTrevalo& ToolTip() { return *toolTip_; }
+
+  private:
+    void ConfigurarSpread();
+    void InicializarToolTips();
+    QToolBar* CrearHerramientas();
+    QWidget* CrearBotones();
+
+    // The steps of the rule of load, analysis and drawing.
+    void Tomar(int fila);
+    bool Resolver();
+    void Botones();
+    void Vista();
+    void Pintar();
+    // Solves when the tab needs results, then paints; a failed solve paints the elevation.
+    void ResolverYPintar();
+    // The tool states of a tab: the station tools on tabs 2 and 3, the text tools on tab 3.
+    void HabilitarHerramientas(int pestana);
+    void ClickPestana(int pestana);
+    void CambioFila(int fila);
+    void Redimensionado();
+    void MostrarMenuContextual(const QPoint& lugar);
+
+    // The beam commands.
+    void CrearViga();
+    void EditarViga();
+    void CopiarVigaSeleccionada();
+    void RenombrarSeleccionada();
+    void EliminarVigaSeleccionada();
+    void AbrirProyectoVentana();
+    void Pendiente(const QString& titulo);
+    // The editor over the beam in the model.
+    void MostrarEditor();
+    // The new beam, last record of the list, on a last row of its own, loaded and shown.
+    void AgregarUltimaFila();
+    // The nine updates of a rename, then the list in name order on its first beam.
+    void RenombrarVigaSeleccionada();
+    // Back from the editor or a dialog: the beam of the active row read again, the view reset.
+    void RestaurarVigaActiva(bool pestanaUno);
+
+    Programa& programa_;
+    bool cargando_ = true;
+    bool enPestana_ = false; // a tab change made by the program, not by the user
+    QTableWidget* spread1_;
+    QLabel* lblNombre_;
+    QTabBar* tab1_;
+    PantallaViga* pantalla_;
+    QPushButton* btoMove_[2];
+    std::map<QString, QPushButton*> botones_;
+    std::map<QString, QAction*> acciones_;
+    QMenu* idPantalla_;
+    QProgressBar* progressBar1_;
+    QLabel* lsLabel4_;
+    QWidget* lsPanelP_;
+    ToolTipTrevalo* toolTip_;
+};
+
+} // namespace trevalo
