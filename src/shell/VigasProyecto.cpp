@@ -184,8 +184,7 @@ VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
     auto& estado = programa_.Estado;
     setWindowTitle(Qs("Trevalo 5.0  Proyecto:[" + estado.NombreProyecto + "]"));
     try {
-        estado.BDProyecto = BaseDatos::Abrir(RutaProyectoActual(programa_.Carpetas, estado));
-        AbrirRsGeneralViga(estado, ConsultaListaVigas);
+        AbrirProyectoArchivo(RutaProyectoActual(programa_.Carpetas, estado), estado);
         LeerGeneralProyecto(*estado.BDProyecto, programa_.Proyecto);
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));

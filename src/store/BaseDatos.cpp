@@ -1,5 +1,6 @@
 #include "store/BaseDatos.h"
 
+#include <filesystem>
 #include <optional>
 
 #include "store/ColumnasViga.h"
@@ -203,6 +204,40 @@ Recordset& ListaVigasAbierta(EstadoProyecto& estado) {
     return *estado.RsGeneralViga;
 }
 
+namespace {
+
+// A project holds the tables of its beams, GeneralViga among them.
+bool EsProyecto(BaseDatos& bd) {
+    for (const char* tabla : TablasViga)
+        if (bd.AbrirRecordset("SELECT * FROM sqlite_master WHERE type='table' AND name=? "
+                              "COLLATE NOCASE",
+                              {tabla})
+                .RecordCount() == 0)
+            return false;
+    return true;
+}
+
+} // namespace
+
+void AbrirProyectoArchivo(const std::string& ruta, EstadoProyecto& estado) {
+    if (!std::filesystem::is_regular_file(ruta))
+        throw ErrorTrevalo(ErrArchivoNoEncontrado, "No existe el archivo: " + ruta);
+    const ErrorTrevalo noEsProyecto(ErrFormatoNoReconocido,
+                                    "El archivo no es un proyecto de vigas: " + ruta);
+    std::optional<BaseDatos> bd;
+    try {
+        bd.emplace(BaseDatos::Abrir(ruta));
+        if (!EsProyecto(*bd)) throw noEsProyecto;
+    } catch (const ErrorTrevalo& e) {
+        if (e.Numero() == ErrFormatoNoReconocido) throw;
+        throw ErrorTrevalo(ErrFormatoNoReconocido,
+                           noEsProyecto.Descripcion() + " (" + e.Descripcion() + ")");
+    }
+    estado.BDProyecto = std::move(bd);
+    estado.NombreProyecto = std::filesystem::path(ruta).filename().string();
+    AbrirRsGeneralViga(estado, ConsultaListaVigas);
+}
+
 void AbrirRsGeneralViga(EstadoProyecto& estado, const std::string& sql) {
     estado.RsGeneralViga.emplace(ProyectoAbierto(estado).AbrirRecordset(sql));
     if (estado.RsGeneralViga->RecordCount() > 0) {
@@ -315,6 +350,13 @@ void CopiarViga(EstadoProyecto& estado, const VigaActual& v) {
 bool ExisteViga(BaseDatos& bd, const std::string& nombre) {
     return bd.AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {nombre})
                .RecordCount() > 0;
+}
+
+std::string NombreVigaGuardado(BaseDatos& bd, const std::string& nombre) {
+    auto rs = bd.AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {nombre});
+    if (rs.RecordCount() == 0)
+        throw ErrorTrevalo(ErrNoEnColeccion, "La viga no existe en el proyecto: " + nombre);
+    return rs.Campo("NombreViga").Texto();
 }
 
 void RenombrarViga(EstadoProyecto& estado) {

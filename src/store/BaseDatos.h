@@ -30,6 +30,14 @@ Recordset& ListaVigasAbierta(EstadoProyecto& estado);
 void AbrirRsGeneralViga(EstadoProyecto& estado, const std::string& sql);
 inline const char* const ConsultaListaVigas = "SELECT * FROM GeneralViga ORDER BY NombreViga";
 
+// Opens the project file at `ruta` into `estado`: NombreProyecto its file name, BDProyecto
+// its database, RsGeneralViga the beam list. A missing file raises 53 ("No existe el
+// archivo: " + ruta); a file that is no project (not a database, or lacking one of the
+// tables of a beam) raises 3343 ("El archivo no es un proyecto de vigas: " + ruta, with the
+// engine's text in brackets when the engine refused it). A refused file leaves `estado` as
+// it was.
+void AbrirProyectoArchivo(const std::string& ruta, EstadoProyecto& estado);
+
 // Reads the one row of GeneralProyecto. No row: error 3021. A Null text: error 94.
 void LeerGeneralProyecto(BaseDatos& bd, ProyectoActual& proyecto);
 // Replaces the row of GeneralProyecto with the settings, every column written.
@@ -60,6 +68,9 @@ void CopiarViga(EstadoProyecto& estado, const VigaActual& viga);
 
 // Whether GeneralViga holds a beam of that name (case ignored).
 bool ExisteViga(BaseDatos& bd, const std::string& nombre);
+// The name of that beam as GeneralViga stores it; 3265 ("La viga no existe en el proyecto: "
+// + nombre) if there is none.
+std::string NombreVigaGuardado(BaseDatos& bd, const std::string& nombre);
 
 // Renames the beam of the current row of RsGeneralViga to estado.NombreRenombrar in the
 // nine tables, GeneralViga last. The caller requeries the list.

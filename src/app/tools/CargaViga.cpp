@@ -3,6 +3,7 @@
 #include "analysis/AnalisisVigasP.h"
 #include "app/tools/ProyectoCalc.h"
 #include "app/tools/VigaJson.h"
+#include "store/BaseDatos.h"
 
 namespace trevalo::calc {
 
@@ -15,7 +16,8 @@ VigaCargada CargarYResolver(const std::string& archivo, const std::string& nombr
     if (EsArchivoJson(archivo)) {
         LeerVigaJsonArchivo(archivo, c.proyecto, c.viga);
     } else {
-        EstadoProyecto estado = AbrirProyectoCalc(archivo);
+        EstadoProyecto estado;
+        AbrirProyectoArchivo(archivo, estado);
         CargarVigaCalc(estado, nombreViga, c.proyecto, c.viga);
     }
     // The settings were read with the beam: the analysis has nothing to read again.

@@ -103,7 +103,8 @@ void CargarViga(const OrdenDibujo& o, ProyectoActual& proyecto, VigaActual& viga
         if (o.vista > 1) AnalizarViga([](ProyectoActual&) {}, proyecto, viga, resultados);
         return;
     }
-    EstadoProyecto estado = AbrirProyectoCalc(o.archivo);
+    EstadoProyecto estado;
+    AbrirProyectoArchivo(o.archivo, estado);
     CargarVigaCalc(estado, o.viga, proyecto, viga);
     if (o.vista > 1)
         AnalizarViga(LectorGeneralProyecto(*estado.BDProyecto), proyecto, viga, resultados);

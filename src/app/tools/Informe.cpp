@@ -1,6 +1,7 @@
 // trevalo-calc informe: the whole road of a report without windows. The project's beams are
-// loaded, solved and painted into a fresh copy of the installation's report database, which
-// is then written to the file by its extension. Progress goes to `errores`, a line a beam.
+// loaded, solved and painted by the program's own walk (LlenarInformePrograma) into a fresh
+// report database in a working folder of its own, which is then written to the file by its
+// extension. Progress goes to `errores`, a line a beam.
 
 #include <QGuiApplication>
 
@@ -15,7 +16,7 @@
 #include "output/BaseInforme.h"
 #include "output/EscritoresInforme.h"
 #include "output/PaginaInforme.h"
-#include "output/PasosPrograma.h"
+#include "output/ProgramaInforme.h"
 #include "store/BaseDatos.h"
 
 namespace trevalo::calc {
@@ -93,33 +94,6 @@ struct CarpetaTrabajo {
     fs::path ruta;
 };
 
-// The beams of the project window's list, in its order.
-std::vector<std::string> ListaVigas(EstadoProyecto& estado) {
-    AbrirRsGeneralViga(estado, ConsultaListaVigas);
-    std::vector<std::string> vigas;
-    for (auto& rs = *estado.RsGeneralViga; !rs.AlFinal(); rs.MoveNext())
-        vigas.push_back(rs.Campo("NombreViga").Texto());
-    return vigas;
-}
-
-// The 1-based place in the list of the beam called `nombre`, compared as the project
-// compares names (case ignored); 0 if there is none.
-std::int16_t PosicionViga(BaseDatos& bd, const std::vector<std::string>& vigas,
-                          const std::string& nombre) {
-    auto rs = bd.AbrirRecordset("SELECT NombreViga FROM GeneralViga WHERE NombreViga=?", {nombre});
-    if (rs.AlFinal()) return 0;
-    const auto guardado = rs.Campo("NombreViga").Texto();
-    for (std::size_t i = 0; i < vigas.size(); ++i)
-        if (vigas[i] == guardado) return static_cast<std::int16_t>(i + 1);
-    return 0;
-}
-
-std::string Usuario() {
-    for (const char* variable : {"USER", "LOGNAME"})
-        if (const char* valor = std::getenv(variable)) return valor;
-    return {};
-}
-
 int Informe(const PedidoInforme& pedido, std::ostream& salida, std::ostream& errores) {
     if (!fs::is_regular_file(pedido.proyecto)) {
         errores << "No existe el proyecto: " << pedido.proyecto << "\n";
@@ -130,14 +104,14 @@ int Informe(const PedidoInforme& pedido, std::ostream& salida, std::ostream& err
     estado.NombreProyecto = fs::path(pedido.proyecto).filename().string();
     ProyectoActual proyecto;
     LeerGeneralProyecto(*estado.BDProyecto, proyecto);
-    const auto vigas = ListaVigas(estado);
+    const auto vigas = ListaVigasInforme(estado);
     if (vigas.empty()) {
         errores << "El proyecto no tiene vigas: " << pedido.proyecto << "\n";
         return 1;
     }
     auto opciones = pedido.opciones;
     if (pedido.viga) {
-        opciones.VigaReporte = PosicionViga(*estado.BDProyecto, vigas, *pedido.viga);
+        opciones.VigaReporte = PosicionVigaInforme(*estado.BDProyecto, vigas, *pedido.viga);
         if (opciones.VigaReporte == 0) {
             errores << "No existe la viga " << *pedido.viga << " en el proyecto.\n";
             return 1;
@@ -147,19 +121,16 @@ int Informe(const PedidoInforme& pedido, std::ostream& salida, std::ostream& err
     AsegurarAplicacion();
     const CarpetaTrabajo trabajo;
     const auto temporal = (trabajo.ruta / "Temporal.mdb").string();
-    fs::copy_file(RutaPrograma() / "Imagen" / "Temporal.kvl", temporal);
-
     VigaActual viga;
     ResultadosViga resultados;
     EstadoPloteos vista;
     ModeloInforme modelo{estado, proyecto, viga, resultados, vista};
     DialogosConsola dialogos(errores);
-    auto pasos = PasosPrograma(modelo, dialogos);
-    pasos.Progreso = [&errores](const std::string& etiqueta, double valor) {
-        errores << etiqueta << " (" << static_cast<int>(valor + 0.5) << " %)\n";
-    };
-    LlenarImpreDatos(temporal, FilaGeneralesDe(proyecto, Usuario(), TREVALO_VERSION), vigas,
-                     opciones, pasos);
+    LlenarInformePrograma(modelo, dialogos, opciones, RutaPrograma().string(), temporal,
+                          TREVALO_VERSION, [&errores](const std::string& etiqueta, double valor) {
+                              errores << etiqueta << " (" << static_cast<int>(valor + 0.5)
+                                      << " %)\n";
+                          });
 
     const auto contenido = LeerBaseInforme(temporal);
     errores << "Escribiendo el informe: " << pedido.salida << "\n";

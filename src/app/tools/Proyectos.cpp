@@ -59,7 +59,8 @@ int ComandoVigas(const Argumentos& args, std::ostream& salida, std::ostream& err
     Palabras p;
     if (!LeerPalabras(args, 1, {}, p, errores)) return Uso("vigas", errores);
     try {
-        auto estado = AbrirProyectoCalc(p.posicionales[0]);
+        EstadoProyecto estado;
+        AbrirProyectoArchivo(p.posicionales[0], estado);
         auto& rs = *estado.RsGeneralViga;
         for (; !rs.AlFinal(); rs.MoveNext()) salida << rs.Campo("NombreViga").Texto() << "\n";
         return 0;
@@ -73,7 +74,8 @@ int ComandoExportar(const Argumentos& args, std::ostream& salida, std::ostream& 
     if (!LeerPalabras(args, 1, {"--viga"}, p, errores) || !p.opciones.count("--viga"))
         return Uso("exportar", errores);
     try {
-        auto estado = AbrirProyectoCalc(p.posicionales[0]);
+        EstadoProyecto estado;
+        AbrirProyectoArchivo(p.posicionales[0], estado);
         ProyectoActual proyecto;
         VigaActual viga;
         CargarVigaCalc(estado, p.opciones["--viga"], proyecto, viga);
@@ -90,7 +92,8 @@ int ComandoImportar(const Argumentos& args, std::ostream& salida, std::ostream& 
     Palabras p;
     if (!LeerPalabras(args, 2, {"--nombre"}, p, errores)) return Uso("importar", errores);
     try {
-        auto estado = AbrirProyectoCalc(p.posicionales[0]);
+        EstadoProyecto estado;
+        AbrirProyectoArchivo(p.posicionales[0], estado);
         ProyectoActual proyecto;
         VigaActual viga;
         LeerVigaJsonArchivo(p.posicionales[1], proyecto, viga);
@@ -101,7 +104,7 @@ int ComandoImportar(const Argumentos& args, std::ostream& salida, std::ostream& 
         BaseDatos& bd = *estado.BDProyecto;
         viga.VigaNueva = !ExisteViga(bd, viga.NombreVigaActual);
         if (!viga.VigaNueva) {
-            viga.NombreVigaActual = NombreGuardado(estado, viga.NombreVigaActual);
+            viga.NombreVigaActual = NombreVigaGuardado(bd, viga.NombreVigaActual);
             auto& rs = *estado.RsGeneralViga;
             while (rs.Campo("NombreViga").Texto() != viga.NombreVigaActual) rs.MoveNext();
         }

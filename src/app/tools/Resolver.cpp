@@ -10,6 +10,7 @@
 #include "app/tools/VigaJson.h"
 #include "design/TablaDiseno.h"
 #include "drawing/GeometriaPlot.h"
+#include "store/BaseDatos.h"
 
 namespace trevalo::calc {
 
@@ -130,7 +131,8 @@ int ComandoResolver(const Argumentos& args, std::ostream& salida, std::ostream& 
     VigaActual viga;
     try {
         if (nombreViga) {
-            auto estado = AbrirProyectoCalc(archivo);
+            EstadoProyecto estado;
+            AbrirProyectoArchivo(archivo, estado);
             CargarVigaCalc(estado, *nombreViga, proyecto, viga);
         } else {
             LeerVigaJsonArchivo(archivo, proyecto, viga);
