@@ -64,15 +64,24 @@ void PantallaViga::PintarCon(const std::function<void(LienzoQt&)>& pintura) {
 }
 
 void PantallaViga::Pintar() {
+    // A solve that failed leaves no results, and no view shows results that are not there:
+    // the elevation alone, with the view the user chose kept for the next solve.
+    auto& vista = programa_.Vista;
+    const bool sinResultados = programa_.Resultados.NJuntas == 0;
+    const bool diagramas = vista.VerDiagramas, diseno = vista.VerDiseno,
+               reacciones = vista.VerReacciones;
+    if (sinResultados) vista.VerDiagramas = vista.VerDiseno = vista.VerReacciones = false;
     std::optional<ErrorTrevalo> falla;
     PintarCon([&](LienzoQt& lienzo) {
         try {
-            PlotearViga(lienzo, programa_.Vista, programa_.Proyecto, programa_.Viga,
-                        programa_.Resultados);
+            PlotearViga(lienzo, vista, programa_.Proyecto, programa_.Viga, programa_.Resultados);
         } catch (const ErrorTrevalo& e) {
             falla = e;
         }
     });
+    vista.VerDiagramas = diagramas;
+    vista.VerDiseno = diseno;
+    vista.VerReacciones = reacciones;
     // The message comes after the picture is shown, as the user sees what was drawn.
     if (falla) programa_.Dialogo().Mensaje(MensajeFalla(*falla));
 }
@@ -147,12 +156,11 @@ void PantallaViga::wheelEvent(QWheelEvent* evento) {
     if (!hasFocus()) return evento->ignore();
     const int giro = evento->angleDelta().y();
     if (giro == 0) return evento->ignore();
-    // A turn away from the user zooms in; one notch is one step, redrawn once more after it.
+    // A turn away from the user zooms in; one notch is one step.
     if (giro > 0)
         ZoomIn();
     else
         ZoomOut();
-    Pintar();
 }
 
 void PantallaViga::mousePressEvent(QMouseEvent* evento) {

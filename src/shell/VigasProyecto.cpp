@@ -361,15 +361,13 @@ void VigasProyecto::Tomar(int fila) {
     }
 }
 
-bool VigasProyecto::Resolver() {
-    if (Pestana() <= 1) return true;
+void VigasProyecto::Resolver() {
+    if (Pestana() <= 1) return;
     try {
         AnalizarViga(LectorGeneralProyecto(*programa_.Estado.BDProyecto), programa_.Proyecto,
                      programa_.Viga, programa_.Resultados);
-        return true;
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeFalla(e));
-        return false;
     }
 }
 
@@ -396,16 +394,8 @@ void VigasProyecto::Pintar() {
 }
 
 void VigasProyecto::ResolverYPintar() {
-    if (Resolver()) return Pintar();
-    // No view shows the results of a run that failed: the elevation alone.
-    auto& vista = programa_.Vista;
-    const bool diagramas = vista.VerDiagramas, diseno = vista.VerDiseno,
-               reacciones = vista.VerReacciones;
-    vista.VerDiagramas = vista.VerDiseno = vista.VerReacciones = false;
+    Resolver();
     Pintar();
-    vista.VerDiagramas = diagramas;
-    vista.VerDiseno = diseno;
-    vista.VerReacciones = reacciones;
 }
 
 void VigasProyecto::CambioFila(int fila) {
@@ -457,13 +447,10 @@ void VigasProyecto::BtoMove_Click(int indice) {
 
 void VigasProyecto::ColoqueVigasSpread(int fila) {
     Tomar(fila);
-    const bool resuelta = Resolver();
+    Resolver();
     ColoquePantalla();
     Vista();
-    if (resuelta)
-        Pintar();
-    else
-        ResolverYPintar();
+    Pintar();
 }
 
 // --- Tools ---------------------------------------------------------------------------------
@@ -605,7 +592,7 @@ void VigasProyecto::EditarViga() {
         vista.EstacionesDiagrama = 10;
         vista.EstacionesDiseno = 2;
     }
-    if (!Resolver()) vista.VerDiagramas = vista.VerDiseno = vista.VerReacciones = false;
+    Resolver();
     pantalla_->ZoomExtents();
 }
 

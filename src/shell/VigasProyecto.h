@@ -6,7 +6,8 @@
 // It owns the rule that joins store, analysis and drawing: choosing a beam loads it; a tab
 // other than the first solves it; every change of beam or tab solves anew, nothing is kept
 // between two of these events. A fault of the load, the analysis or the drawing is shown as
-// its message and the beam is drawn without results.
+// its message and the beam is drawn without results (the canvas shows no view of results
+// that a failed solve cleared).
 
 #include <QDialog>
 #include <map>
@@ -64,11 +65,11 @@ class VigasProyecto : public QDialog {
 
     // The steps of the rule of load, analysis and drawing.
     void Tomar(int fila);
-    bool Resolver();
+    // The analysis when the tab needs results; a fault is shown and leaves no results.
+    void Resolver();
     void Botones();
     void Vista();
     void Pintar();
-    // Solves when the tab needs results, then paints; a failed solve paints the elevation.
     void ResolverYPintar();
     // The tool states of a tab: the station tools on tabs 2 and 3, the text tools on tab 3.
     void HabilitarHerramientas(int pestana);
