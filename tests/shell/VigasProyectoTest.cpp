@@ -58,6 +58,16 @@ std::vector<std::string> VigasEnArchivo(Programa& programa) {
     return nombres;
 }
 
+// The project window on a project of the data folder, on screen.
+std::unique_ptr<VigasProyecto> Abrir(ProgramaPrueba& p, const std::string& proyecto) {
+    p.programa.Estado.NombreProyecto = proyecto;
+    auto v = std::make_unique<VigasProyecto>(p.programa);
+    v->show();
+    if (!QTest::qWaitForWindowExposed(v.get()))
+        QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
+    return v;
+}
+
 bool Habilitada(VigasProyecto& v, const char* clave) {
     return v.Accion(QString::fromUtf8(clave))->isEnabled();
 }
@@ -70,10 +80,8 @@ class VigasProyectoTest : public QObject {
   private slots:
     void RecorreLasVigasYLasPestanas() {
         ProgramaPrueba p;
-        p.programa.Estado.NombreProyecto = Ejemplo;
-        VigasProyecto v(p.programa);
-        v.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&v));
+        auto ventana = Abrir(p, Ejemplo);
+        VigasProyecto& v = *ventana;
 
         QCOMPARE(v.windowTitle(),
                  QStringLiteral("Trevalo 5.0  Proyecto:[Ejemplo Demostrativo.trv]"));
@@ -132,10 +140,8 @@ class VigasProyectoTest : public QObject {
 
     void CreaCopiaRenombraYEliminaVigas() {
         ProgramaPrueba p;
-        p.programa.Estado.NombreProyecto = Ejemplo;
-        VigasProyecto v(p.programa);
-        v.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&v));
+        auto ventana = Abrir(p, Ejemplo);
+        VigasProyecto& v = *ventana;
         auto* anterior = v.findChild<QPushButton*>(QStringLiteral("BtoMove0"));
         auto* siguiente = v.findChild<QPushButton*>(QStringLiteral("BtoMove1"));
 
@@ -208,10 +214,8 @@ class VigasProyectoTest : public QObject {
 
     void ElLienzoSigueTeclasRuedaYHerramientas() {
         ProgramaPrueba p;
-        p.programa.Estado.NombreProyecto = Ejemplo;
-        VigasProyecto v(p.programa);
-        v.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&v));
+        auto ventana = Abrir(p, Ejemplo);
+        VigasProyecto& v = *ventana;
         auto& vista = p.programa.Vista;
         PantallaViga& lienzo = v.Lienzo();
 
@@ -275,10 +279,8 @@ class VigasProyectoTest : public QObject {
         const std::string vacio = p.programa.Carpetas.RutaProyectos + "/Vacío.trv";
         QVERIFY(QFile::copy(Qs(p.programa.Carpetas.RutaPrograma + "/Imagen/ImagenViga.kvl"),
                             Qs(vacio)));
-        p.programa.Estado.NombreProyecto = "Vacío.trv";
-        VigasProyecto v(p.programa);
-        v.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&v));
+        auto ventana = Abrir(p, "Vacío.trv");
+        VigasProyecto& v = *ventana;
         QCOMPARE(v.Filas(), 0);
         QVERIFY(!HayDibujo(v.Lienzo()));
         QVERIFY(!v.findChild<QPushButton*>(QStringLiteral("BtoMove0"))->isEnabled());
@@ -299,10 +301,8 @@ class VigasProyectoTest : public QObject {
         BaseDatos::Abrir(ruta).Ejecutar(
             "UPDATE JuntasRestringidas SET R1=99 WHERE NombreViga=? AND R1=1",
             {std::string("V-101 Entrepiso Eje B")});
-        p.programa.Estado.NombreProyecto = Ejemplo;
-        VigasProyecto v(p.programa);
-        v.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&v));
+        auto ventana = Abrir(p, Ejemplo);
+        VigasProyecto& v = *ventana;
         v.BtoMove_Click(1); // V-101: its support on a joint it lacks faults the drawing too
         const Pregunta falla{"El subíndice está fuera del intervalo    ", "Error Número: 9",
                              BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1};
