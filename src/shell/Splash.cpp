@@ -32,9 +32,9 @@ Splash::Splash(Programa& programa, const EntornoInicio& entorno) : programa_(pro
     auto* capas = new QVBoxLayout(this);
     capas->setContentsMargins(0, 0, 0, 0);
     capas->setSpacing(0);
-    auto* franja = new QLabel(Qs("  Trevalo " + programa_.Carpetas.VersionPrograma +
-                                 "  ·  Análisis y Diseño de Vigas Continuas"),
-                              this);
+    // The picture carries the program's name; the strip says what the pause is for.
+    auto* franja = new QLabel(
+        QStringLiteral("  Preparando las carpetas y los archivos del programa..."), this);
     franja->setObjectName(QStringLiteral("LSLabel2"));
     franja->setStyleSheet(QStringLiteral(
         "background: #122c52; color: white; font-size: 13pt; font-weight: bold; padding: 8px;"));
