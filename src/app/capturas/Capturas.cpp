@@ -11,6 +11,7 @@
 #include <functional>
 #include <iostream>
 
+#include "app/capturas/Capturas.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
@@ -28,7 +29,6 @@
 #include "store/CicloProyecto.h"
 
 namespace trevalo {
-namespace {
 
 QString carpeta;
 
@@ -62,6 +62,8 @@ void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString
     });
     programa.Dialogo().Mensaje(pregunta);
 }
+
+namespace {
 
 void Recorrido(Programa& programa) {
     auto* splash = new Splash(programa, EntornoDelSistema());
@@ -99,6 +101,7 @@ void Recorrido(Programa& programa) {
 
     VigaDatos editor(programa, &ventana);
     Capturar(editor, QStringLiteral("06_editor"));
+    CapturasCargas(programa, editor);
     programa.Vista.ModoEditor = false;
 
     DatosG datos(programa, &menu);
