@@ -27,25 +27,6 @@ using namespace trevalo::prueba;
 
 namespace {
 
-template <typename T = QLineEdit> T* Control(QWidget& ventana, const char* nombre) {
-    T* w = Hijo<T>(ventana, QString::fromLatin1(nombre));
-    if (!w) qFatal("falta el control %s", nombre);
-    return w;
-}
-
-// Replaces the text of a field as a person does: into the field, all selected, typed over.
-void Escribir(QWidget& ventana, const char* campo, const QString& texto) {
-    QLineEdit* w = Control(ventana, campo);
-    w->setFocus();
-    w->selectAll();
-    QTest::keyClick(w, Qt::Key_Backspace);
-    Teclear(w, texto);
-}
-
-void Pulsar(QWidget& ventana, const char* boton) {
-    QTest::mouseClick(Control<QPushButton>(ventana, boton), Qt::LeftButton);
-}
-
 // The caption of a field: the label whose buddy it is.
 QString Etiqueta(QWidget& ventana, const char* campo) {
     for (QLabel* l : ventana.findChildren<QLabel*>())
@@ -98,11 +79,7 @@ template <typename T>
 bool Abrir(Programa& programa, std::initializer_list<long> marcados,
            std::function<void(T&)> recorrido) {
     T dialogo(programa, Marcas(programa.Viga.NT, marcados));
-    Ejecutar(dialogo, [&recorrido](T& d) {
-        // Focus moves, and the ends of entries with it, only in the active window.
-        if (!QTest::qWaitForWindowActive(&d)) QFAIL("la ventana no se activó");
-        recorrido(d);
-    });
+    Ejecutar(dialogo, std::move(recorrido));
     return dialogo.CargaAceptada();
 }
 
