@@ -72,6 +72,8 @@ void CargaLista::ConfigurarSpread() {
         return true;
     });
     EsquinaNo(*spread1_);
+    // Tab leaves the list for the buttons; the arrows and Return move between its cells.
+    spread1_->setTabKeyNavigation(false);
     const int ancho = 15 * spread1_->fontMetrics().averageCharWidth();
     for (int c = 0; c < columnas; ++c) spread1_->setColumnWidth(c, ancho);
     // Every column in sight, and room for the rows of a list of ten.

@@ -277,7 +277,9 @@ class CargasTramos : public QObject {
             QVERIFY(p->dialogos->preguntas.empty());
             QCOMPARE(Lista(d).rowCount(), 7);
             for (int r = 1; r <= 7; ++r) EscribirCelda(d, r, 2, QString::number(100 * r));
-            Pulsar(d, "LSButton1");
+            QTest::keyClick(&Lista(d), Qt::Key_Tab);
+            QCOMPARE(d.focusWidget(), Control<QPushButton>(d, "LSButton1"));
+            QTest::keyClick(d.focusWidget(), Qt::Key_Return);
             QCOMPARE(Control(d, "Long1")->text(), QStringLiteral("5"));
         });
         QCOMPARE(p->dialogos->preguntas, std::vector<Pregunta>{Limite(5)});
