@@ -19,6 +19,7 @@
 #include "profiles/Recorte.h"
 #include "profiles/TablaPerfiles.h"
 #include "shell/CampoNumero.h"
+#include "shell/DelegadosCelda.h"
 #include "shell/DobleTee.h"
 #include "shell/EncabezadoPerfil.h"
 #include "shell/EsquinaNo.h"
@@ -269,7 +270,6 @@ void TablaPerfil::CrearControles() {
     connect(text1_, &QLineEdit::textEdited, this, cambio);
     connect(long2_, &QLineEdit::textEdited, this, cambio);
     connect(spread1_, &QTableWidget::itemChanged, this, cambio);
-    connect(spread1_, &QTableWidget::itemChanged, this, &TablaPerfil::Entrada);
     connect(long1_, &QLineEdit::textEdited, this, [this] {
         totalCambiado_ = true;
         tablaCambiada_ = true;
@@ -322,8 +322,14 @@ void TablaPerfil::ConfigurarPantalla() {
     spread1_->verticalHeader()->setDefaultSectionSize(18);
     spread1_->verticalHeader()->setMinimumWidth(28);
     EsquinaNo(*spread1_);
-    for (int c = 1; c <= Columnas(familia_); ++c)
+    auto* delegado = new DelegadoNumero(programa_, *spread1_);
+    for (int c = 1; c <= Columnas(familia_); ++c) {
+        const Columna& columna = d.columnas[static_cast<std::size_t>(c - 1)];
+        if (columna.decimales != ColumnaTexto)
+            delegado->Formato(c, -1, c, -1, columna.decimales, false);
+        if (columna.centrada) delegado->Centrar(c);
         spread1_->setColumnWidth(c - 1, c == d.designacion ? 150 : 72);
+    }
     if (familia_ == FamiliaPerfil::DobleTee) spread1_->setColumnHidden(0, true);
 }
 
@@ -520,38 +526,13 @@ void TablaPerfil::ColocarEmergente() {
     lsFrame3_->move(x, y);
 }
 
-// The cells. A numeric cell shows its column's decimals and is read back from what it shows.
+// The cells, through the grid's numeric delegate: a numeric cell keeps what it shows.
 void TablaPerfil::ColocarNumero(int fila, int columna, double valor) {
-    const Columna& c = DisenoDe(familia_).columnas[static_cast<std::size_t>(columna - 1)];
-    const std::string mascara =
-        c.decimales > 0 ? "0." + std::string(static_cast<std::size_t>(c.decimales), '0') : "0";
-    colocando_ = true;
-    ColocarTexto(fila, columna, Qs(Formato(valor, mascara, programa_.Carpetas.SeparadorDecimal)));
-    QTableWidgetItem* item = spread1_->item(fila - 1, columna - 1);
-    item->setData(Qt::UserRole, Numero(fila, columna));
-    item->setTextAlignment(c.centrada ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
-    colocando_ = false;
-}
-
-// An entry in a numeric cell shows the column's decimals; a text that is no number, or a
-// negative one, puts the old value back.
-void TablaPerfil::Entrada(QTableWidgetItem* item) {
-    const int columna = item->column() + 1;
-    if (cargando_ || colocando_ ||
-        DisenoDe(familia_).columnas[static_cast<std::size_t>(columna - 1)].decimales ==
-            ColumnaTexto)
-        return;
-    QString texto = item->text().trimmed();
-    texto.replace(QLatin1Char(programa_.Carpetas.SeparadorDecimal), QLatin1Char('.'));
-    bool numero = false;
-    const double valor = texto.toDouble(&numero);
-    ColocarNumero(item->row() + 1, columna,
-                  numero && valor >= 0 ? valor : item->data(Qt::UserRole).toDouble());
+    Delegado(*spread1_).ColocarValor(fila, columna, valor);
 }
 
 double TablaPerfil::Numero(int fila, int columna) const {
-    return NumeroDeTexto(Std(Texto(fila, columna)), programa_.Carpetas.SeparadorDecimal,
-                         programa_.Carpetas.SeparadorMiles);
+    return ValorCelda(*spread1_, fila, columna);
 }
 
 QString TablaPerfil::Texto(int fila, int columna) const {
@@ -560,12 +541,7 @@ QString TablaPerfil::Texto(int fila, int columna) const {
 }
 
 void TablaPerfil::ColocarTexto(int fila, int columna, const QString& texto) {
-    QTableWidgetItem* item = spread1_->item(fila - 1, columna - 1);
-    if (!item) {
-        item = new QTableWidgetItem;
-        spread1_->setItem(fila - 1, columna - 1, item);
-    }
-    item->setText(texto);
+    ColocarTextoCelda(*spread1_, fila, columna, texto);
 }
 
 } // namespace trevalo

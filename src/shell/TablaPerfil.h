@@ -22,7 +22,6 @@ class QFrame;
 class QLabel;
 class QLineEdit;
 class QTableWidget;
-class QTableWidgetItem;
 class QWidget;
 
 namespace trevalo {
@@ -71,7 +70,6 @@ class TablaPerfil : public QDialog {
     void MostrarEmergente();
     void ColocarEmergente();
     FilaPerfil FilaDelGrid(int fila) const;
-    void Entrada(QTableWidgetItem* item);
 
     // Cells by the forms' numbering: rows and columns from 1.
     void ColocarNumero(int fila, int columna, double valor);
@@ -96,7 +94,6 @@ class TablaPerfil : public QDialog {
     bool tablaCambiada_ = false;
     bool totalCambiado_ = false;
     bool cargando_ = true;
-    bool colocando_ = false;
     bool popupActivo_ = false;
     QPoint popup_;
     int filaEmergente_ = 0;

@@ -13,6 +13,7 @@
 
 #include "platform/lienzos/LienzosArchivo.h"
 #include "profiles/DibujosSeccion.h"
+#include "shell/DelegadosCelda.h"
 #include "shell/OpcionPerfil.h"
 #include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
@@ -74,6 +75,7 @@ void VigasMetalicas::CrearControles() {
     spread1_->setColumnWidth(2, 110);
     spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
     spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    (new DelegadoNumero(programa_, *spread1_))->Formato(2, -1, 3, -1, 2, false);
     spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     auto* dentro = new QVBoxLayout(marco_);
     dentro->addWidget(fpList1_);
@@ -115,18 +117,12 @@ void VigasMetalicas::CrearControles() {
 // The last table loaded, and the picture it was loaded for (the first before any).
 void VigasMetalicas::ColoquePantalla() {
     ListaPerfiles& lista = programa_.ListaPerfil;
-    const auto& c = programa_.Carpetas;
     const int n = lista.ListaPerfilesN;
     spread1_->setRowCount(n);
     for (int r = 1; r <= n; ++r) {
-        const auto numero = [&](double v) {
-            auto* item = new QTableWidgetItem(Qs(Formato(v, "0.00", c.SeparadorDecimal)));
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            return item;
-        };
-        spread1_->setItem(r - 1, 0, new QTableWidgetItem(Qs(lista.ListaDesignacion(r))));
-        spread1_->setItem(r - 1, 1, numero(lista.ListaArea(r)));
-        spread1_->setItem(r - 1, 2, numero(lista.ListaInercia(r)));
+        ColocarTextoCelda(*spread1_, r, 1, Qs(lista.ListaDesignacion(r)));
+        Delegado(*spread1_).ColocarValor(r, 2, lista.ListaArea(r));
+        Delegado(*spread1_).ColocarValor(r, 3, lista.ListaInercia(r));
     }
     if (lista.ListaFamilia == 0) lista.ListaFamilia = 1;
     ElegirItem(lista.ListaFamilia);

@@ -18,6 +18,7 @@
 #include "comun/Vigas.h"
 #include "profiles/TablaPerfiles.h"
 #include "shell/CampoNumero.h"
+#include "shell/DelegadosCelda.h"
 #include "shell/DobleTee.h"
 #include "shell/OpcionPerfil.h"
 #include "shell/TablaPerfil.h"
@@ -49,17 +50,22 @@ void Escribir(QWidget& ventana, const char* campo, const QString& texto) {
 }
 
 // A cell by the forms' numbering (row and column from 1), as the grid shows it.
-QString Celda(TablaPerfil& t, int fila, int columna) {
-    const QTableWidgetItem* item = t.Grid().item(fila - 1, columna - 1);
-    return item ? item->text() : QString();
+QString Mostrado(QTableWidget& grid, int fila, int columna) {
+    const QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
+    if (!item) return {};
+    const QVariant valor = item->data(Qt::EditRole);
+    return valor.typeId() == QMetaType::Double
+               ? Delegado(grid).Texto(fila, columna, valor.toDouble())
+               : item->text();
 }
 
-// A value typed into a cell.
-void Teclar(TablaPerfil& t, int fila, int columna, const QString& texto) {
-    QTableWidget& grid = t.Grid();
-    if (!grid.item(fila - 1, columna - 1))
-        grid.setItem(fila - 1, columna - 1, new QTableWidgetItem);
-    grid.item(fila - 1, columna - 1)->setText(texto);
+QString Muestra(TablaPerfil& t, int fila, int columna) {
+    return Mostrado(t.Grid(), fila, columna);
+}
+
+// A value typed into a cell; whether the cell took it.
+bool Teclar(TablaPerfil& t, int fila, int columna, const QString& texto) {
+    return Delegado(t.Grid()).Aplicar(fila, columna, texto);
 }
 
 ArchivoElegido Elegido(const std::string& carpeta, const std::string& nombre) {
@@ -137,12 +143,16 @@ class Perfiles : public QObject {
                     Escribir(t, "Long1", QStringLiteral("3"));
                     QTest::keyClick(Control(t, "Long1"), Qt::Key_Return);
                     QCOMPARE(t.Grid().rowCount(), 3);
-                    QCOMPARE(Celda(t, 3, 2),
+                    QCOMPARE(Muestra(t, 3, 2),
                              c.designacion == 2 ? QStringLiteral("0") : QStringLiteral("0.00"));
                     // The double-tee count fills one column short of the last.
-                    QCOMPARE(Celda(t, 3, c.columnas).isEmpty(), c.familia == F::DobleTee);
-                    Teclar(t, 2, c.designacion, QStringLiteral(" P 200 "));
-                    Teclar(t, 2, c.designacion + 1, QStringLiteral("12.345"));
+                    QCOMPARE(Muestra(t, 3, c.columnas).isEmpty(), c.familia == F::DobleTee);
+                    QVERIFY(Teclar(t, 2, c.designacion, QStringLiteral(" P 200 ")));
+                    QVERIFY(Teclar(t, 2, c.designacion + 1, QStringLiteral("12.345")));
+                    // Text or a negative value in a numeric cell: the old value back.
+                    QVERIFY(!Teclar(t, 2, c.designacion + 2, QStringLiteral("abc")));
+                    QVERIFY(!Teclar(t, 2, c.designacion + 2, QStringLiteral("-5")));
+                    QCOMPARE(Muestra(t, 2, c.designacion + 2), Muestra(t, 3, c.designacion + 2));
                     Escribir(t, "Text1", QStringLiteral("  Mi tabla  "));
                     Escribir(t, "Long2", QStringLiteral("2530"));
                     Pulsar(t, "LSButton4");
@@ -172,8 +182,8 @@ class Perfiles : public QObject {
             Editar(c.familia, c.archivo, [&](TablaPerfil& t) {
                 QCOMPARE(Control(t, "Text1")->text(), QStringLiteral("Mi tabla"));
                 QCOMPARE(Control(t, "Long1")->text(), QStringLiteral("3"));
-                QCOMPARE(Celda(t, 2, c.designacion), QStringLiteral("P 200"));
-                QCOMPARE(Celda(t, 2, c.designacion + 1), QStringLiteral("12.35"));
+                QCOMPARE(Muestra(t, 2, c.designacion), QStringLiteral("P 200"));
+                QCOMPARE(Muestra(t, 2, c.designacion + 1), QStringLiteral("12.35"));
                 QVERIFY(!t.Cambiada());
                 QTest::keyClick(&t, Qt::Key_Escape);
             });
@@ -250,12 +260,12 @@ class Perfiles : public QObject {
             QCOMPARE(t.Grid().rowCount(), 1);
             // The capture writes one column to the left of the table's fields: the name in
             // the hidden reference, the area under the designation, and so on.
-            QCOMPARE(Celda(t, 1, 1), QStringLiteral("IG 300"));
-            QCOMPARE(Celda(t, 1, 2), QStringLiteral("58.08"));
-            QCOMPARE(Celda(t, 1, 3), QStringLiteral("300.00"));
-            QCOMPARE(Celda(t, 1, 7), QStringLiteral("8871")); // Ix in a column of no decimals
-            QCOMPARE(Celda(t, 1, 8), QStringLiteral("591.40"));
-            QCOMPARE(Celda(t, 1, 18), QString());
+            QCOMPARE(Muestra(t, 1, 1), QStringLiteral("IG 300"));
+            QCOMPARE(Muestra(t, 1, 2), QStringLiteral("58.08"));
+            QCOMPARE(Muestra(t, 1, 3), QStringLiteral("300.00"));
+            QCOMPARE(Muestra(t, 1, 7), QStringLiteral("8871")); // Ix in a column of no decimals
+            QCOMPARE(Muestra(t, 1, 8), QStringLiteral("591.40"));
+            QCOMPARE(Muestra(t, 1, 18), QString());
             Pulsar(t, "LSButton4");
             QTest::keyClick(&t, Qt::Key_Escape);
         });
@@ -397,9 +407,9 @@ class Perfiles : public QObject {
             lista->setCurrentRow(1);
             emit lista->itemClicked(lista->item(1));
             QCOMPARE(grid->rowCount(), 1);
-            QCOMPARE(grid->item(0, 0)->text(), QStringLiteral("2 IPE 300"));
-            QCOMPARE(grid->item(0, 1)->text(), QStringLiteral("116.16"));
-            QCOMPARE(grid->item(0, 2)->text(), QStringLiteral("17741.80"));
+            QCOMPARE(Mostrado(*grid, 1, 1), QStringLiteral("2 IPE 300"));
+            QCOMPARE(Mostrado(*grid, 1, 2), QStringLiteral("116.16"));
+            QCOMPARE(Mostrado(*grid, 1, 3), QStringLiteral("17741.80"));
             grid->setCurrentCell(0, 0);
             Pulsar(v, "LSButton4");
         });
