@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
+#include <QHeaderView>
 #include <QPainter>
 #include <QTableView>
 
@@ -10,8 +11,8 @@ namespace trevalo {
 
 namespace {
 
-// Paints the corner as the grid does, then the text over it.
-class TextoEsquina : public QObject {
+// Paints the corner button as it is, then "No" over it.
+class PintorNo : public QObject {
   public:
     using QObject::QObject;
 
@@ -31,8 +32,9 @@ class TextoEsquina : public QObject {
 } // namespace
 
 void EsquinaNo(QTableView& grid) {
+    grid.verticalHeader()->setMinimumWidth(28);
     if (auto* esquina = grid.findChild<QAbstractButton*>())
-        esquina->installEventFilter(new TextoEsquina(&grid));
+        esquina->installEventFilter(new PintorNo(&grid));
 }
 
 } // namespace trevalo

@@ -1,5 +1,6 @@
 #pragma once
-// "No" written in the corner of a grid, over the column of row numbers.
+// The corner of a grid over its column of row numbers reads "No", as every list of the
+// program heads its numbers; the row numbers' column is widened to hold it.
 
 class QTableView;
 

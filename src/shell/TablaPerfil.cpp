@@ -320,7 +320,6 @@ void TablaPerfil::ConfigurarPantalla() {
     spread1_->setHorizontalHeader(encabezado);
     encabezado->setFixedHeight(encabezado->sizeHint().height());
     spread1_->verticalHeader()->setDefaultSectionSize(18);
-    spread1_->verticalHeader()->setMinimumWidth(28);
     EsquinaNo(*spread1_);
     auto* delegado = new DelegadoNumero(programa_, *spread1_);
     for (int c = 1; c <= Columnas(familia_); ++c) {

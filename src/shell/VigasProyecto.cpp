@@ -1,12 +1,10 @@
 #include "shell/VigasProyecto.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -262,7 +260,6 @@ void VigasProyecto::ConfigurarSpread() {
     spread1_->setHorizontalHeaderLabels({QStringLiteral("Nombre de la Viga")});
     spread1_->horizontalHeader()->setStretchLastSection(true);
     spread1_->verticalHeader()->setDefaultSectionSize(18);
-    spread1_->verticalHeader()->setMinimumWidth(28); // room for "No" in the corner
     spread1_->horizontalHeader()->setFixedHeight(22);
     spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
     spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);

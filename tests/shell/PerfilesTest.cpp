@@ -31,24 +31,6 @@ using F = FamiliaPerfil;
 
 namespace {
 
-template <typename T = QLineEdit> T* Control(QWidget& ventana, const char* nombre) {
-    T* w = Hijo<T>(ventana, QString::fromLatin1(nombre));
-    if (!w) qFatal("falta el control %s", nombre);
-    return w;
-}
-
-void Pulsar(QWidget& ventana, const char* boton) {
-    QTest::mouseClick(Control<QPushButton>(ventana, boton), Qt::LeftButton);
-}
-
-void Escribir(QWidget& ventana, const char* campo, const QString& texto) {
-    QLineEdit* w = Control(ventana, campo);
-    w->setFocus();
-    w->selectAll();
-    QTest::keyClick(w, Qt::Key_Backspace);
-    Teclear(w, texto);
-}
-
 // A cell by the forms' numbering (row and column from 1), as the grid shows it.
 QString Mostrado(QTableWidget& grid, int fila, int columna) {
     const QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
