@@ -173,6 +173,27 @@ class Perfiles : public QObject {
         QVERIFY(dialogos().preguntas.empty());
     }
 
+    // The sketch of a row comes up while the left button is held on it, beside the mouse,
+    // and goes when the button is let go.
+    void CroquisBajoElRaton() {
+        std::vector<double> valores(16, 5.0);
+        valores[1] = 300; // d
+        Tabla(F::DobleTee, "DobleTee_P.pfl", {"Vigas", 2530, {{1, "IPE 300", valores}}});
+        Editar(F::DobleTee, "DobleTee_P.pfl", [&](TablaPerfil& t) {
+            QWidget* vista = t.Grid().viewport();
+            const QPoint celda = t.Grid().visualRect(t.Grid().model()->index(0, 3)).center();
+            QTest::mousePress(vista, Qt::LeftButton, Qt::NoModifier, celda);
+            QTRY_VERIFY_WITH_TIMEOUT(t.Emergente()->isVisible(), 2000);
+            QCOMPARE(Control<QLabel>(*t.Emergente(), "LabelV6")->text(), QStringLiteral("IPE 300"));
+            const QPoint raton = vista->mapTo(&t, celda);
+            QVERIFY(t.Emergente()->geometry().left() > raton.x());
+            QVERIFY(t.Emergente()->geometry().top() > raton.y());
+            QTest::mouseRelease(vista, Qt::LeftButton, Qt::NoModifier, celda);
+            QVERIFY(!t.Emergente()->isVisible());
+            QTest::keyClick(&t, Qt::Key_Escape);
+        });
+    }
+
     // An existing name is asked about, No being the default; Yes replaces the table.
     void CrearSobreUnaTablaExistentePregunta() {
         Tabla(F::DobleTee, "DobleTee_A.pfl", {"Vieja", 1, {}});
