@@ -475,27 +475,21 @@ QWidget* TablaPerfil::Emergente() const {
 }
 
 bool TablaPerfil::eventFilter(QObject* objeto, QEvent* evento) {
-    if (objeto != spread1_->viewport()) return false;
+    const auto tipo = evento->type();
+    if (objeto != spread1_->viewport() ||
+        (tipo != QEvent::MouseButtonPress && tipo != QEvent::MouseButtonRelease &&
+         tipo != QEvent::MouseMove))
+        return false;
     const auto* raton = static_cast<QMouseEvent*>(evento);
-    switch (evento->type()) {
-    case QEvent::MouseButtonPress:
-        if (raton->button() == Qt::LeftButton) {
-            popup_ = raton->position().toPoint();
-            popupActivo_ = true;
-        }
-        break;
-    case QEvent::MouseButtonRelease:
-        if (raton->button() == Qt::LeftButton) {
-            popupActivo_ = false;
+    if (tipo == QEvent::MouseMove) {
+        if (raton->buttons() == Qt::NoButton) lsFrame3_->hide();
+    } else if (raton->button() == Qt::LeftButton) {
+        popupActivo_ = tipo == QEvent::MouseButtonPress;
+        popup_ = raton->position().toPoint();
+        if (!popupActivo_) {
             timer1_.stop();
             lsFrame3_->hide();
         }
-        break;
-    case QEvent::MouseMove:
-        if (raton->buttons() == Qt::NoButton) lsFrame3_->hide();
-        break;
-    default:
-        break;
     }
     return false;
 }
