@@ -194,27 +194,36 @@ class Perfiles : public QObject {
         });
     }
 
-    // An existing name is asked about, No being the default; Yes replaces the table.
+    // An existing name is asked about, No being the default; Yes replaces the table. The new
+    // table closed at once offers to save: Yes without a description stays on it, No leaves.
     void CrearSobreUnaTablaExistentePregunta() {
         Tabla(F::DobleTee, "DobleTee_A.pfl", {"Vieja", 1, {}});
+        const Pregunta existe{"La Tabla: \"DobleTee_A.pfl\" Ya Existe en el Programa...      "
+                              "\nDesea Reemplazarla?      ",
+                              "Crear Nueva Tabla", BotonesMensaje::SiNo, IconoMensaje::Advertencia,
+                              2};
         for (const int respuesta : {RespuestaNo, RespuestaSi}) {
+            dialogos().preguntas.clear();
             dialogos().archivos.push_back(Elegido(Carpeta(), "DobleTee_A.pfl"));
-            dialogos().respuestas.push_back(respuesta);
+            dialogos().respuestas = {respuesta, RespuestaSi, RespuestaNo};
             OpcionPerfil opcion(programa());
             Ejecutar(opcion, [&](OpcionPerfil& o) {
                 if (respuesta == RespuestaSi)
                     AlAbrirse<TablaPerfil>([](TablaPerfil& t) {
                         QCOMPARE(Control(t, "Text1")->text(), QString());
-                        t.done(QDialog::Rejected);
+                        QTest::keyClick(&t, Qt::Key_Escape);
+                        QVERIFY(t.isVisible());
+                        QCOMPARE(t.focusWidget(), static_cast<QWidget*>(Control(t, "Text1")));
+                        QTest::keyClick(&t, Qt::Key_Escape);
                     });
                 Pulsar(o, "LSButton3");
                 Pulsar(o, "LSButton1");
             });
-            const Pregunta esperada{"La Tabla: \"DobleTee_A.pfl\" Ya Existe en el Programa...      "
-                                    "\nDesea Reemplazarla?      ",
-                                    "Crear Nueva Tabla", BotonesMensaje::SiNo,
-                                    IconoMensaje::Advertencia, 2};
-            QCOMPARE(dialogos().preguntas.back(), esperada);
+            const std::vector<Pregunta> esperadas =
+                respuesta == RespuestaNo
+                    ? std::vector<Pregunta>{existe}
+                    : std::vector<Pregunta>{existe, PreguntaSalvar, PreguntaSalvar};
+            QCOMPARE(dialogos().preguntas, esperadas);
         }
         QCOMPARE(LeerTablaPerfiles(Carpeta() + "/DobleTee_A.pfl", F::DobleTee).DescripcionTabla,
                  std::string());
