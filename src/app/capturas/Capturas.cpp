@@ -45,12 +45,13 @@ void Guardar(QWidget& ventana, const QString& nombre) {
     std::cout << Std(ruta) << "\n";
 }
 
-// Shows a dialog without its own loop, takes its picture and closes it.
 void Capturar(QDialog& dialogo, const QString& nombre) {
     dialogo.show();
     Guardar(dialogo, nombre);
     dialogo.hide();
 }
+
+namespace {
 
 // A message box as the program shows it, captured while it waits for an answer.
 void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre) {
@@ -122,6 +123,7 @@ void Recorrido(Programa& programa) {
         {"Viga: V-101\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
+    CapturasPerfiles(programa, ventana);
     ventana.hide();
     menu.close();
 }

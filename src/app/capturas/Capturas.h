@@ -24,4 +24,9 @@ void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString
 // The eight load dialogs over the beam editor, on the sample beam with spans marked.
 void CapturasCargas(Programa& programa, QWidget& editor);
 
+// The steel profile windows: the family chooser, each table window on a shipped table with
+// the sketch of a section under the mouse, the generator on a computed section and the
+// steel beam window on a loaded table.
+void CapturasPerfiles(Programa& programa, QWidget& padre);
+
 } // namespace trevalo
