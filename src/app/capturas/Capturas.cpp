@@ -51,9 +51,6 @@ void Capturar(QDialog& dialogo, const QString& nombre) {
     dialogo.hide();
 }
 
-namespace {
-
-// A message box as the program shows it, captured while it waits for an answer.
 void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre) {
     QTimer::singleShot(300, [nombre] {
         if (QWidget* caja = QApplication::activeModalWidget()) {
