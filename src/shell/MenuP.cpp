@@ -13,6 +13,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "shell/ConfigurarPrograma.h"
 #include "shell/DatosG.h"
 #include "shell/Iconos.h"
 #include "shell/Sobre.h"
@@ -234,8 +235,10 @@ void MenuP::Despachar(const QString& clave) {
     else if (clave == QStringLiteral("ID_Acerca")) {
         Sobre sobre(programa_, this);
         sobre.exec();
-    } else if (clave == QStringLiteral("ID_ConfigurarPantalla") ||
-               clave == QStringLiteral("ID_BaseDatos_Perfiles") ||
+    } else if (clave == QStringLiteral("ID_ConfigurarPantalla")) {
+        ConfigurarPrograma configurar(programa_, this);
+        if (configurar.exec() == QDialog::Accepted) ColocarTapiz(configurar.Imagen());
+    } else if (clave == QStringLiteral("ID_BaseDatos_Perfiles") ||
                clave == QStringLiteral("ID_Mantenimiento_Reparar")) {
         programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
                                      Std(Accion(clave)->text().remove(QLatin1Char('&'))),
@@ -265,6 +268,13 @@ void MenuP::ColoqueImagen() {
             ? tapiz_
             : tapiz_.scaled(lugar.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     imagen_->setGeometry(lugar);
+}
+
+void MenuP::ColocarTapiz(const QPixmap& imagen) {
+    setUpdatesEnabled(false);
+    tapiz_ = imagen;
+    ColoqueImagen();
+    setUpdatesEnabled(true);
 }
 
 void MenuP::ConfigurarPantalla() {
