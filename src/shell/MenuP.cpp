@@ -13,6 +13,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "shell/Compactar1.h"
 #include "shell/ConfigurarPrograma.h"
 #include "shell/DatosG.h"
 #include "shell/Iconos.h"
@@ -238,8 +239,10 @@ void MenuP::Despachar(const QString& clave) {
     } else if (clave == QStringLiteral("ID_ConfigurarPantalla")) {
         ConfigurarPrograma configurar(programa_, this);
         if (configurar.exec() == QDialog::Accepted) ColocarTapiz(configurar.Imagen());
-    } else if (clave == QStringLiteral("ID_BaseDatos_Perfiles") ||
-               clave == QStringLiteral("ID_Mantenimiento_Reparar")) {
+    } else if (clave == QStringLiteral("ID_Mantenimiento_Reparar")) {
+        Compactar1 compactar(programa_, this);
+        compactar.exec();
+    } else if (clave == QStringLiteral("ID_BaseDatos_Perfiles")) {
         programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
                                      Std(Accion(clave)->text().remove(QLatin1Char('&'))),
                                      BotonesMensaje::Aceptar, IconoMensaje::Informacion, 1});
