@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QFile>
 #include <QFrame>
 #include <QLabel>
 #include <QMenuBar>
@@ -13,6 +12,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "shell/Ayuda.h"
 #include "shell/Compactar1.h"
 #include "shell/ConfigurarPrograma.h"
 #include "shell/DatosG.h"
@@ -159,6 +159,7 @@ MenuP::MenuP(Programa& programa)
     statusBar()->setObjectName(QStringLiteral("LSPanel1"));
     statusBar()->setSizeGripEnabled(false);
     CrearMenus();
+    InstalarTeclaAyuda(programa_, *this);
 
     toolTip_->Configurar(programa_.Tapiz);
     setWindowTitle(Qs(TituloMenu(programa_.Estado.NombreProyecto)));
@@ -305,10 +306,7 @@ void MenuP::ManualPrograma() {
 }
 
 void MenuP::AyudaTemas() {
-    if (!QFile::exists(Qs(programa_.ArchivoAyuda)))
-        programa_.Dialogo().Mensaje(
-            {"No se encuentra el archivo de ayuda: " + programa_.ArchivoAyuda + "      ",
-             "Temas de Ayuda", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1});
+    AbrirAyuda(programa_, QString(), this);
 }
 
 } // namespace trevalo

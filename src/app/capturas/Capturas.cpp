@@ -28,6 +28,10 @@
 #include "store/CicloProyecto.h"
 
 namespace trevalo {
+
+void CapturasAjustes(Programa& programa, MenuP& menu,
+                     const std::function<void(QWidget&, const QString&)>& guardar);
+
 namespace {
 
 QString carpeta;
@@ -120,6 +124,7 @@ void Recorrido(Programa& programa) {
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
     ventana.hide();
+    CapturasAjustes(programa, menu, Guardar);
     menu.close();
 }
 
