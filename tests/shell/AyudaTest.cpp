@@ -1,5 +1,6 @@
 // A person asks for help: the topics from the menu with their contents, index and search;
-// F1 in each window opens that window's own topic; every window has a topic in the help file.
+// F1 in each window opens that window's own topic; every window has a topic in the help file
+// and the manual was printed from them.
 
 #include <QHelpContentWidget>
 #include <QHelpEngine>
@@ -103,7 +104,7 @@ class AyudaTest : public QObject {
         menu.close();
     }
 
-    void CadaVentanaTieneSuTema() {
+    void CadaVentanaTieneSuTemaYElManualExiste() {
         ProgramaPrueba p;
         MenuP menu(p.programa);
         VentanaAyuda* ayuda = AbrirAyuda(p.programa, QString(), &menu);
@@ -113,6 +114,11 @@ class AyudaTest : public QObject {
             QVERIFY2(html.contains("<h1>"), qPrintable(clase + QStringLiteral(": ") + tema));
         }
         ayuda->close();
+
+        QFile manual(Qs(p.programa.Carpetas.RutaPrograma + "/Manual/AyudaTrevalo6.pdf"));
+        QVERIFY(manual.open(QIODevice::ReadOnly));
+        QVERIFY(manual.read(5) == "%PDF-");
+        QVERIFY(manual.size() > 20000);
     }
 };
 
