@@ -34,10 +34,20 @@ Compactar1::Compactar1(Programa& programa, QWidget* padre) : QDialog(padre), pro
 
     modelo_ = new QFileSystemModel(this);
     modelo_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
-    modelo_->setRootPath(QDir::rootPath());
+    // The user's own folders, unless the data lie elsewhere.
+    const QString raiz = Qs(programa_.Carpetas.RutaBase).startsWith(QDir::homePath())
+                             ? QDir::homePath()
+                             : QDir::rootPath();
+    modelo_->setRootPath(raiz);
     folderView1_ = new QTreeView(this);
     folderView1_->setObjectName(QStringLiteral("FolderView1"));
     folderView1_->setModel(modelo_);
+    folderView1_->setRootIndex(modelo_->index(raiz));
+    // The folders are read in the background: the current one is brought into view as its
+    // parents come in.
+    connect(modelo_, &QFileSystemModel::directoryLoaded, this, [this](const QString& carpeta) {
+        if (dirActual_.startsWith(carpeta)) folderView1_->scrollTo(folderView1_->currentIndex());
+    });
     for (int c = 1; c < modelo_->columnCount(); ++c) folderView1_->hideColumn(c);
     folderView1_->header()->hide();
     fileView1_ = new QListWidget(this);

@@ -157,7 +157,7 @@ QWidget* ConfigurarPrograma::CrearPestanaToolTip() {
 
     fondo_ = Muestra(QStringLiteral("LSLabel1"), TipFondoDefecto);
     auto* rotuloFondo = new QLabel(QStringLiteral("Color de Fondo:"), pagina);
-    auto* lcolor = Boton(QStringLiteral("LColor"), "...", pagina);
+    auto* lcolor = Boton(QStringLiteral("LColor"), " Seleccionar un Color de Fondo ", pagina);
     lcolor->setToolTip(QStringLiteral(" Seleccionar un Color de Fondo "));
     connect(lcolor, &QPushButton::clicked, this, [this] { ElegirColor(fondo_); });
     auto* muestras = new QHBoxLayout;

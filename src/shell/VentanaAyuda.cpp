@@ -71,6 +71,9 @@ VentanaAyuda::VentanaAyuda(const QString& archivo, const QString& coleccion, QWi
 
     connect(motor_->contentWidget(), &QHelpContentWidget::linkActivated, this,
             &VentanaAyuda::Mostrar);
+    // The contents are read in the background: the topic shown is marked once they are in.
+    connect(motor_->contentModel(), &QHelpContentModel::contentsCreated, this,
+            [this] { Mostrar(Actual()); });
     connect(motor_->indexWidget(), &QHelpIndexWidget::documentActivated, this,
             [this](const QHelpLink& documento, const QString&) { Mostrar(documento.url); });
     connect(motor_->indexWidget(), &QHelpIndexWidget::documentsActivated, this,
@@ -97,8 +100,11 @@ void VentanaAyuda::MostrarTema(const QString& tema) {
 
 void VentanaAyuda::Mostrar(const QUrl& direccion) {
     texto_->setSource(direccion);
-    const QModelIndex indice = motor_->contentWidget()->indexOf(direccion);
-    if (indice.isValid()) motor_->contentWidget()->setCurrentIndex(indice);
+    QHelpContentWidget* contenido = motor_->contentWidget();
+    const QModelIndex indice = contenido->indexOf(direccion);
+    if (!indice.isValid()) return;
+    contenido->setCurrentIndex(indice);
+    contenido->scrollTo(indice);
 }
 
 QUrl VentanaAyuda::Actual() const {
