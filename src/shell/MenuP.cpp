@@ -17,6 +17,7 @@
 #include "shell/ConfigurarPrograma.h"
 #include "shell/DatosG.h"
 #include "shell/Iconos.h"
+#include "shell/OpcionPerfil.h"
 #include "shell/Sobre.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
@@ -244,9 +245,8 @@ void MenuP::Despachar(const QString& clave) {
         Compactar1 compactar(programa_, this);
         compactar.exec();
     } else if (clave == QStringLiteral("ID_BaseDatos_Perfiles")) {
-        programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
-                                     Std(Accion(clave)->text().remove(QLatin1Char('&'))),
-                                     BotonesMensaje::Aceptar, IconoMensaje::Informacion, 1});
+        OpcionPerfil opcion(programa_, this);
+        opcion.exec();
     }
     plataforma_->PunteroEspera(false);
 }

@@ -11,6 +11,7 @@
 #include <functional>
 #include <iostream>
 
+#include "app/capturas/Capturas.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
@@ -29,11 +30,6 @@
 
 namespace trevalo {
 
-void CapturasAjustes(Programa& programa, MenuP& menu,
-                     const std::function<void(QWidget&, const QString&)>& guardar);
-
-namespace {
-
 QString carpeta;
 
 void Esperar(int ms) {
@@ -49,12 +45,13 @@ void Guardar(QWidget& ventana, const QString& nombre) {
     std::cout << Std(ruta) << "\n";
 }
 
-// Shows a dialog without its own loop, takes its picture and closes it.
 void Capturar(QDialog& dialogo, const QString& nombre) {
     dialogo.show();
     Guardar(dialogo, nombre);
     dialogo.hide();
 }
+
+namespace {
 
 // A message box as the program shows it, captured while it waits for an answer.
 void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre) {
@@ -66,6 +63,8 @@ void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString
     });
     programa.Dialogo().Mensaje(pregunta);
 }
+
+namespace {
 
 void Recorrido(Programa& programa) {
     auto* splash = new Splash(programa, EntornoDelSistema());
@@ -103,6 +102,7 @@ void Recorrido(Programa& programa) {
 
     VigaDatos editor(programa, &ventana);
     Capturar(editor, QStringLiteral("06_editor"));
+    CapturasCargas(programa, editor);
     programa.Vista.ModoEditor = false;
 
     DatosG datos(programa, &menu);
@@ -123,8 +123,9 @@ void Recorrido(Programa& programa) {
         {"Viga: V-101\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
+    CapturasPerfiles(programa, ventana);
     ventana.hide();
-    CapturasAjustes(programa, menu, Guardar);
+    CapturasAjustes(programa, menu);
     menu.close();
 }
 

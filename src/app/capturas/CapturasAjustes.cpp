@@ -3,7 +3,8 @@
 
 #include <QListWidget>
 #include <QTabWidget>
-#include <functional>
+
+#include "app/capturas/Capturas.h"
 
 #include "shell/Ayuda.h"
 #include "shell/Compactar1.h"
@@ -14,16 +15,15 @@
 
 namespace trevalo {
 
-void CapturasAjustes(Programa& programa, MenuP& menu,
-                     const std::function<void(QWidget&, const QString&)>& guardar) {
+void CapturasAjustes(Programa& programa, MenuP& menu) {
     ConfigurarPrograma configurar(programa, &menu);
     configurar.show();
-    guardar(configurar, QStringLiteral("ajustes_1_configurar_imagen"));
+    Guardar(configurar, QStringLiteral("ajustes_1_configurar_imagen"));
     configurar.findChild<QTabWidget*>(QStringLiteral("Tab1"))->setCurrentIndex(1);
-    guardar(configurar, QStringLiteral("ajustes_2_configurar_tooltip"));
+    Guardar(configurar, QStringLiteral("ajustes_2_configurar_tooltip"));
     configurar.ToolTip().Mostrar(configurar.findChild<QWidget*>(QStringLiteral("OwlButton1")));
     if (QWidget* globo = configurar.ToolTip().Globo())
-        guardar(*globo, QStringLiteral("ajustes_3_tooltip_ejemplo"));
+        Guardar(*globo, QStringLiteral("ajustes_3_tooltip_ejemplo"));
     configurar.ToolTip().Ocultar();
     configurar.hide();
 
@@ -31,11 +31,11 @@ void CapturasAjustes(Programa& programa, MenuP& menu,
     compactar.show();
     if (auto* lista = compactar.findChild<QListWidget*>(QStringLiteral("FileView1")))
         if (lista->count() > 0) lista->item(0)->setCheckState(Qt::Checked);
-    guardar(compactar, QStringLiteral("ajustes_4_compactar"));
+    Guardar(compactar, QStringLiteral("ajustes_4_compactar"));
     compactar.hide();
 
     if (VentanaAyuda* ayuda = AbrirAyuda(programa, QStringLiteral("VigaDatos.html"), &menu)) {
-        guardar(*ayuda, QStringLiteral("ajustes_5_ayuda"));
+        Guardar(*ayuda, QStringLiteral("ajustes_5_ayuda"));
         ayuda->close();
     }
 }
