@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QFile>
 #include <QFrame>
 #include <QLabel>
 #include <QMenuBar>
@@ -13,6 +12,9 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "shell/Ayuda.h"
+#include "shell/Compactar1.h"
+#include "shell/ConfigurarPrograma.h"
 #include "shell/DatosG.h"
 #include "shell/Iconos.h"
 #include "shell/OpcionPerfil.h"
@@ -158,6 +160,7 @@ MenuP::MenuP(Programa& programa)
     statusBar()->setObjectName(QStringLiteral("LSPanel1"));
     statusBar()->setSizeGripEnabled(false);
     CrearMenus();
+    InstalarTeclaAyuda(programa_, *this);
 
     toolTip_->Configurar(programa_.Tapiz);
     setWindowTitle(Qs(TituloMenu(programa_.Estado.NombreProyecto)));
@@ -235,14 +238,15 @@ void MenuP::Despachar(const QString& clave) {
     else if (clave == QStringLiteral("ID_Acerca")) {
         Sobre sobre(programa_, this);
         sobre.exec();
+    } else if (clave == QStringLiteral("ID_ConfigurarPantalla")) {
+        ConfigurarPrograma configurar(programa_, this);
+        if (configurar.exec() == QDialog::Accepted) ColocarTapiz(configurar.Imagen());
+    } else if (clave == QStringLiteral("ID_Mantenimiento_Reparar")) {
+        Compactar1 compactar(programa_, this);
+        compactar.exec();
     } else if (clave == QStringLiteral("ID_BaseDatos_Perfiles")) {
         OpcionPerfil opcion(programa_, this);
         opcion.exec();
-    } else if (clave == QStringLiteral("ID_ConfigurarPantalla") ||
-               clave == QStringLiteral("ID_Mantenimiento_Reparar")) {
-        programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
-                                     Std(Accion(clave)->text().remove(QLatin1Char('&'))),
-                                     BotonesMensaje::Aceptar, IconoMensaje::Informacion, 1});
     }
     plataforma_->PunteroEspera(false);
 }
@@ -270,6 +274,13 @@ void MenuP::ColoqueImagen() {
     imagen_->setGeometry(lugar);
 }
 
+void MenuP::ColocarTapiz(const QPixmap& imagen) {
+    setUpdatesEnabled(false);
+    tapiz_ = imagen;
+    ColoqueImagen();
+    setUpdatesEnabled(true);
+}
+
 void MenuP::ConfigurarPantalla() {
     ColoqueImagen();
     imagen_->lower();
@@ -295,10 +306,7 @@ void MenuP::ManualPrograma() {
 }
 
 void MenuP::AyudaTemas() {
-    if (!QFile::exists(Qs(programa_.ArchivoAyuda)))
-        programa_.Dialogo().Mensaje(
-            {"No se encuentra el archivo de ayuda: " + programa_.ArchivoAyuda + "      ",
-             "Temas de Ayuda", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1});
+    AbrirAyuda(programa_, QString(), this);
 }
 
 } // namespace trevalo

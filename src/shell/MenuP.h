@@ -41,6 +41,10 @@ class MenuP : public QMainWindow {
     void ConfigurarPantalla1();
     // Places the wallpaper by its settings.
     void ColoqueImagen();
+    // Takes `imagen` as the wallpaper and places it by the settings.
+    void ColocarTapiz(const QPixmap& imagen);
+    // The wallpaper as it stands on the window.
+    const QLabel& Tapiz() const { return *imagen_; }
     // Lays the controls out.
     void ConfigurarPantalla();
 

@@ -30,7 +30,6 @@ QString ToolTipTrevalo::Texto(const QWidget* control) {
 }
 
 void ToolTipTrevalo::Configurar(ConfiguracionTapiz& tapiz) {
-    estilo_ = ConfigurarToolTip(tapiz);
     for (QWidget* control : ventana_->findChildren<QWidget*>()) {
         if (control->toolTip().isEmpty() ||
             control->objectName().startsWith(QStringLiteral("Tab0")))
@@ -39,6 +38,11 @@ void ToolTipTrevalo::Configurar(ConfiguracionTapiz& tapiz) {
         control->setToolTip({});
         control->installEventFilter(this);
     }
+    Estilo(ConfigurarToolTip(tapiz));
+}
+
+void ToolTipTrevalo::Estilo(const EstiloToolTip& estilo) {
+    estilo_ = estilo;
     delete globo_;
 }
 

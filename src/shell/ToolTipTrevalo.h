@@ -26,6 +26,8 @@ class ToolTipTrevalo : public QObject {
     // ConfigurarToolTip of the window: the look from `tapiz` (with its ranges applied again)
     // and the tips of the window's controls taken over.
     void Configurar(ConfiguracionTapiz& tapiz);
+    // A look given as it stands, without the ranges (the sample of the settings).
+    void Estilo(const EstiloToolTip& estilo);
 
     // The title and text taken from a control, empty when it has none.
     static QString Titulo(const QWidget* control);

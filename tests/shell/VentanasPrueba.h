@@ -67,11 +67,9 @@ template <typename T> void AlAbrirse(std::function<void(T&)> accion) {
     sondeo->start();
 }
 
-// Shows the modal window, runs `accion` on it once it is on screen and returns what exec()
-// gave. A window the action left open (a check failed half way) fails the test and is
-// closed, so that a failing journey ends instead of waiting.
-template <typename T>
-int Ejecutar(T& ventana, std::type_identity_t<std::function<void(T&)>> accion) {
+// As AlAbrirse, for a window that the code under test opens: a window the action left open (a
+// check failed half way) fails the test and is closed, so that a failing journey ends.
+template <typename T> void EnVentana(std::type_identity_t<std::function<void(T&)>> accion) {
     AlAbrirse<T>([accion](T& v) {
         // Focus moves, and the ends of entries with it, only in the active window.
         if (!QTest::qWaitForWindowActive(&v))
@@ -81,6 +79,14 @@ int Ejecutar(T& ventana, std::type_identity_t<std::function<void(T&)>> accion) {
         QTest::qFail("la ventana quedó abierta", __FILE__, __LINE__);
         v.done(QDialog::Rejected);
     });
+}
+
+// Shows the modal window, runs `accion` on it once it is on screen and returns what exec()
+// gave. A window the action left open (a check failed half way) fails the test and is
+// closed, so that a failing journey ends instead of waiting.
+template <typename T>
+int Ejecutar(T& ventana, std::type_identity_t<std::function<void(T&)>> accion) {
+    EnVentana<T>(accion);
     return ventana.exec();
 }
 

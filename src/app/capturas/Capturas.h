@@ -8,6 +8,7 @@
 
 namespace trevalo {
 
+class MenuP;
 class VigasProyecto;
 
 // The folder the pictures go to.
@@ -28,5 +29,9 @@ void CapturasCargas(Programa& programa, QWidget& editor);
 // the sketch of a section under the mouse, the generator on a computed section and the
 // steel beam window on a loaded table.
 void CapturasPerfiles(Programa& programa, QWidget& padre);
+
+// The settings on both tabs with the sample tool tip, the file maintenance and the help
+// window, over the main window.
+void CapturasAjustes(Programa& programa, MenuP& menu);
 
 } // namespace trevalo

@@ -1,0 +1,47 @@
+#pragma once
+// File maintenance: the user picks a folder in the tree, marks any of its project files in
+// the list and runs them, one after the other in the order of the list, through the
+// engine's compaction, which also repairs. Each file is replaced in place; the open project
+// is closed first (the project window opens it again when it is next shown). A file that
+// cannot be compacted stops the run with the engine's message: the files done stay done and
+// that file is left as it was. The dialog stays open after a run.
+
+#include <QDialog>
+
+#include "shell/Programa.h"
+
+class QFileSystemModel;
+class QLabel;
+class QListWidget;
+class QProgressBar;
+class QTreeView;
+
+namespace trevalo {
+
+class Compactar1 : public QDialog {
+    Q_OBJECT
+
+  public:
+    Compactar1(Programa& programa, QWidget* padre = nullptr);
+
+    // The folder whose project files the list shows (DirActual).
+    const QString& DirActual() const { return dirActual_; }
+    // Shows the folder in the tree and its project files in the list, none marked.
+    void CambiarCarpeta(const QString& carpeta);
+
+  private:
+    void Marcar(bool marca);
+    void Aceptar();
+    // The names of the marked files, in the order of the list.
+    QStringList Marcados() const;
+
+    Programa& programa_;
+    QFileSystemModel* modelo_;
+    QTreeView* folderView1_;
+    QListWidget* fileView1_;
+    QProgressBar* progressBar1_;
+    QLabel* lsLabel1_;
+    QString dirActual_;
+};
+
+} // namespace trevalo

@@ -1,0 +1,250 @@
+// A person changes the program's settings from the main menu: a new wallpaper with its
+// alignment and fitting, the tool tips' size, colours and form, accepted and found again in
+// Tapiz.kvl record by record; then a cancel, the same picture in other letters, a picture
+// that cannot be read, a path too long for its record and a wallpaper deleted by hand.
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+
+#include "VentanasPrueba.h"
+#include "shell/ConfigurarPrograma.h"
+#include "shell/MenuP.h"
+#include "shell/ToolTipTrevalo.h"
+
+using namespace trevalo;
+using namespace trevalo::prueba;
+
+namespace {
+
+const QString Clave = QStringLiteral("ID_ConfigurarPantalla");
+
+// A picture of `ancho` x `alto` written at `ruta`.
+void Dibujo(const std::string& ruta, int ancho, int alto) {
+    QImage imagen(ancho, alto, QImage::Format_RGB32);
+    imagen.fill(Qt::darkCyan);
+    QVERIFY(imagen.save(Qs(ruta), "BMP"));
+}
+
+QAbstractButton* Control(QWidget& v, const char* nombre) {
+    return Hijo<QAbstractButton>(v, QString::fromUtf8(nombre));
+}
+
+void Pulsar(QWidget& v, const char* nombre) {
+    QTest::mouseClick(Control(v, nombre), Qt::LeftButton);
+}
+
+// The bytes of a record of Tapiz.kvl, `ancho` of them from its start.
+QByteArray Registro(const QByteArray& archivo, int registro, int ancho) {
+    return archivo.mid((registro - 1) * LongitudRegistroTapiz, ancho);
+}
+
+QByteArray Bytes(std::initializer_list<int> bytes) {
+    QByteArray r;
+    for (int b : bytes) r.append(static_cast<char>(b));
+    return r;
+}
+
+QByteArray LeerTapizKvl(const ProgramaPrueba& p) {
+    QFile archivo(Qs(p.programa.Carpetas.RutaBase + "/Tapiz.kvl"));
+    archivo.open(QIODevice::ReadOnly);
+    return archivo.readAll();
+}
+
+} // namespace
+
+class ConfigurarProgramaTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void CambiaElTapizYLosToolTipsYLosEncuentraAlVolver() {
+        ProgramaPrueba p;
+        MenuP menu(p.programa);
+        const std::string tapices = p.programa.Carpetas.RutaBase + "/Tapices";
+        const std::string otro = tapices + "/Puente.bmp";
+        Dibujo(otro, 200, 100);
+        p.dialogos->archivos = {{false, otro, "Puente.bmp"}};
+        p.dialogos->colores = {0x123456, 0x0000FF};
+        p.dialogos->respuestas = {RespuestaSi};
+
+        EnVentana<ConfigurarPrograma>([&](ConfigurarPrograma& v) {
+            QCOMPARE(v.windowTitle(), QStringLiteral("Configurar la Pantalla de Korvel-Altora"));
+            auto* tab = Hijo<QTabWidget>(v, QStringLiteral("Tab1"));
+            QCOMPARE(tab->currentIndex(), 0);
+            QCOMPARE(tab->tabText(0), QStringLiteral("Imágen del Menú Principal"));
+            QCOMPARE(tab->tabText(1), QStringLiteral("ToolTip de Ayuda de los Botones"));
+            QCOMPARE(v.TapizNuevo(), Qs(tapices + "/TapizKorvel.jpg"));
+            QVERIFY(!v.Imagen().isNull());
+            QCOMPARE(Control(v, "Abrir")->text(), QStringLiteral("Capturar Imagen"));
+            QCOMPARE(ToolTipTrevalo::Texto(Control(v, "Abrir")),
+                     QStringLiteral("Capturar una Imágen para el tapiz del menú principal. "));
+            QVERIFY(Control(v, "Option5")->isChecked()); // the defaults: centre, left
+            QVERIFY(Control(v, "Option1")->isChecked());
+
+            // A new picture: fitted into the 320 x 240 preview keeping 2 : 1, centred, left
+            // to its natural size.
+            Control(v, "Option3")->click();
+            Control(v, "Check1")->click();
+            Pulsar(v, "Abrir");
+            const DialogoArchivo& d = p.dialogos->dialogosArchivo.back();
+            QCOMPARE(d.Titulo, std::string("Cambiar el Tapiz del Menú Principal"));
+            QCOMPARE(d.Filtro,
+                     std::string("Archivos de Dibujo|*.bmp; *.jpg; *.gif; *.dib; *.wmf, *.emf"));
+            QCOMPARE(d.IndiceFiltro, 1);
+            QCOMPARE(d.Carpeta, tapices);
+            QCOMPARE(v.TapizNuevo(), Qs(otro));
+            QCOMPARE(Hijo<QLabel>(v, QStringLiteral("Image1"))->size(), QSize(320, 160));
+            QVERIFY(Control(v, "Option1")->isChecked());
+            QVERIFY(Control(v, "Option4")->isChecked());
+            QVERIFY(!Control(v, "Check1")->isChecked());
+            Control(v, "Option3")->click(); // at the bottom
+            Control(v, "Option6")->click(); // at the right
+            Control(v, "Check1")->click();
+
+            // The tool tips: 14 points, a colour of the dialog then a swatch, the text
+            // colour, centred and traditional; the sample follows at once.
+            tab->setCurrentIndex(1);
+            auto* combo = Hijo<QComboBox>(v, QStringLiteral("Combo1"));
+            QStringList tamanos;
+            for (int i = 0; i < combo->count(); ++i) tamanos << combo->itemText(i);
+            QCOMPARE(tamanos.join(QLatin1Char(' ')), QStringLiteral("6 7 8 9 10 11 12 14"));
+            QCOMPARE(combo->currentIndex(), 4);
+            combo->setCurrentIndex(7);
+            Pulsar(v, "LColor");
+            QCOMPARE(Hijo<QLabel>(v, QStringLiteral("LSLabel1"))->palette().color(QPalette::Window),
+                     QColor(0x56, 0x34, 0x12));
+            QTest::mouseClick(Hijo<QLabel>(v, QStringLiteral("LSLabel5")), Qt::LeftButton);
+            Pulsar(v, "OwlButton3");
+            Control(v, "Check3")->click();
+            Control(v, "Check4")->click();
+            auto* boton = Control(v, "OwlButton1");
+            v.ToolTip().Mostrar(boton);
+            const auto etiquetas = v.ToolTip().Globo()->findChildren<QLabel*>();
+            QCOMPARE(etiquetas.size(), 2);
+            QCOMPARE(etiquetas[0]->text(), QStringLiteral("Mensaje del Botón"));
+            QCOMPARE(etiquetas[1]->text(),
+                     QStringLiteral("ToolTip Ejemplo de la descripción del botón seleccionado."));
+            QCOMPARE(etiquetas[1]->font().pointSize(), 14);
+            QCOMPARE(etiquetas[1]->alignment(), Qt::AlignHCenter);
+            QVERIFY(v.ToolTip().Globo()->styleSheet().contains(QStringLiteral("#ffe1e1")));
+            v.ToolTip().Ocultar();
+
+            Pulsar(v, "Command6");
+        });
+        menu.Despachar(Clave);
+
+        QCOMPARE(p.dialogos->preguntas.size(), std::size_t(1));
+        QCOMPARE(p.dialogos->preguntas[0],
+                 (Pregunta{"Tapiz de la Pantalla: " + otro +
+                               "       \nAsumir por Defecto estas Opciones?       ",
+                           "Configurar la Pantalla del Menu", BotonesMensaje::SiNo,
+                           IconoMensaje::Pregunta, 1}));
+
+        // The ten records: the path with its length, the alignments and the effect in one
+        // byte, the fitting and the flags as true (-1) in two, the colours in four.
+        const QByteArray kvl = LeerTapizKvl(p);
+        QCOMPARE(kvl.size(), 9 * LongitudRegistroTapiz + 2);
+        QCOMPARE(Registro(kvl, 1, 2 + int(otro.size())),
+                 Bytes({int(otro.size()) & 0xFF, int(otro.size()) >> 8}) +
+                     QByteArray::fromStdString(otro));
+        QCOMPARE(Registro(kvl, 2, 2), Bytes({2, 0}));
+        QCOMPARE(Registro(kvl, 3, 2), Bytes({2, 0}));
+        QCOMPARE(Registro(kvl, 4, 2), Bytes({0xFF, 0xFF}));
+        QCOMPARE(Registro(kvl, 5, 2), Bytes({0, 0}));
+        QCOMPARE(Registro(kvl, 6, 2), Bytes({7, 0}));
+        QCOMPARE(Registro(kvl, 7, 4), Bytes({0xFF, 0xE1, 0xE1, 0}));
+        QCOMPARE(Registro(kvl, 8, 4), Bytes({0xFF, 0, 0, 0}));
+        QCOMPARE(Registro(kvl, 9, 2), Bytes({0xFF, 0xFF}));
+        QCOMPARE(Registro(kvl, 10, 2), Bytes({0xFF, 0xFF}));
+
+        // The main window shows the new picture at once; the next start reads the same.
+        const QPixmap tapiz = menu.Tapiz().pixmap();
+        QVERIFY(!tapiz.isNull());
+        QCOMPARE(tapiz.width(), 2 * tapiz.height());
+        ConfiguracionTapiz leido;
+        QCOMPARE(LeerTapiz(p.programa.Carpetas, leido), otro);
+        QCOMPARE(leido.TapizVertical, 2);
+        QCOMPARE(leido.TapizHorizontal, 2);
+        QVERIFY(leido.TapizAjustar != 0);
+        QCOMPARE(leido.TipLetra, 7);
+        QCOMPARE(leido.TipFondo, 0xE1E1FF);
+        QCOMPARE(leido.TipTexto, 0x0000FF);
+        QCOMPARE(p.programa.Tapiz.TipFondo, 0xE1E1FF);
+        QVERIFY(p.programa.Tapiz.TipCentrado != 0 && p.programa.Tapiz.TipTradicional != 0);
+    }
+
+    void CancelarYArchivosQueNoSirven() {
+        ProgramaPrueba p;
+        MenuP menu(p.programa);
+        const std::string tapices = p.programa.Carpetas.RutaBase + "/Tapices";
+        const std::string korvel = tapices + "/TapizKorvel.jpg";
+        const std::string roto = tapices + "/Roto.jpg";
+        const std::string larga = p.carpeta / (std::string(120, 'c') + "/Lejos.bmp");
+        EscribirArchivo(roto, "esto no es una imagen");
+        EscribirArchivo(larga, "");
+        Dibujo(larga, 40, 30);
+        const QByteArray antes = LeerTapizKvl(p);
+        std::string mayusculas = korvel;
+        for (char& c : mayusculas) c = static_cast<char>(std::toupper(c));
+        p.dialogos->archivos = {{false, mayusculas, "TAPIZKORVEL.JPG"},
+                                {false, roto, "Roto.jpg"},
+                                {false, larga, "Lejos.bmp"}};
+
+        EnVentana<ConfigurarPrograma>([&](ConfigurarPrograma& v) {
+            const QSize vista = Hijo<QLabel>(v, QStringLiteral("Image1"))->size();
+            Control(v, "Option2")->click();
+            // The same picture in capitals: nothing is reset.
+            Pulsar(v, "Abrir");
+            QVERIFY(Control(v, "Option2")->isChecked());
+            QCOMPARE(v.TapizNuevo(), Qs(korvel));
+            QCOMPARE(p.dialogos->dialogosArchivo.size(), std::size_t(1));
+            // A file that is not a picture and a path too long for its record: a message
+            // each, the picture and its path kept.
+            Pulsar(v, "Abrir");
+            Pulsar(v, "Abrir");
+            // Each dialog starts in the folder of the file chosen last.
+            QCOMPARE(p.dialogos->dialogosArchivo[1].Carpeta,
+                     mayusculas.substr(0, mayusculas.rfind('/')));
+            QCOMPARE(p.dialogos->preguntas.size(), std::size_t(2));
+            const Pregunta& ilegible = p.dialogos->preguntas[0];
+            QCOMPARE(ilegible.Texto, "No se puede leer la imagen:    \n" + roto +
+                                         "    \nEl archivo está dañado o no es una imagen.    ");
+            QCOMPARE(ilegible.Titulo, std::string("Cambiar el Tapiz del Menú Principal"));
+            QCOMPARE(ilegible.Icono, IconoMensaje::Advertencia);
+            QVERIFY(p.dialogos->preguntas[1].Texto.starts_with(
+                "La ruta de la imagen es demasiado larga: tiene " + std::to_string(larga.size()) +
+                " caracteres y caben 126."));
+            QCOMPARE(v.TapizNuevo(), Qs(korvel));
+            QCOMPARE(Hijo<QLabel>(v, QStringLiteral("Image1"))->size(), vista);
+
+            // The font size takes effect for the run at once; Cancel keeps it and nothing
+            // else.
+            Hijo<QComboBox>(v, QStringLiteral("Combo1"))->setCurrentIndex(1);
+            Control(v, "Check3")->click();
+            Pulsar(v, "Command5");
+        });
+        menu.Despachar(Clave);
+        QCOMPARE(LeerTapizKvl(p), antes);
+        QCOMPARE(p.programa.Tapiz.TipLetra, 1);
+        QCOMPARE(p.programa.Tapiz.TipCentrado, 0);
+        QCOMPARE(p.programa.Tapiz.TapizVertical, 0);
+        QCOMPARE(p.dialogos->preguntas.size(), std::size_t(2)); // no question of Aceptar
+
+        // A wallpaper deleted by hand: an empty preview, its path still shown.
+        QFile::remove(Qs(korvel));
+        EnVentana<ConfigurarPrograma>([&](ConfigurarPrograma& v) {
+            QVERIFY(v.Imagen().isNull());
+            QVERIFY(Hijo<QLabel>(v, QStringLiteral("Image1"))->pixmap().isNull());
+            QCOMPARE(v.TapizNuevo(), Qs(korvel));
+            Pulsar(v, "Command5");
+        });
+        menu.Despachar(Clave);
+    }
+};
+
+QTEST_MAIN(ConfigurarProgramaTest)
+#include "ConfigurarProgramaTest.moc"
