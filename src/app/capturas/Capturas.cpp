@@ -11,6 +11,7 @@
 #include <functional>
 #include <iostream>
 
+#include "app/capturas/Capturas.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
@@ -28,7 +29,6 @@
 #include "store/CicloProyecto.h"
 
 namespace trevalo {
-namespace {
 
 QString carpeta;
 
@@ -62,6 +62,8 @@ void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString
     });
     programa.Dialogo().Mensaje(pregunta);
 }
+
+namespace {
 
 void Recorrido(Programa& programa) {
     auto* splash = new Splash(programa, EntornoDelSistema());
@@ -119,6 +121,7 @@ void Recorrido(Programa& programa) {
         {"Viga: V-101\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
+    CapturasExportar(programa, ventana);
     ventana.hide();
     menu.close();
 }

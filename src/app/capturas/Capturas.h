@@ -1,0 +1,27 @@
+#pragma once
+// The pieces the screenshot tour shares with the captures of each area of the program.
+
+#include <QDialog>
+#include <QString>
+
+#include "shell/Programa.h"
+
+namespace trevalo {
+
+class VigasProyecto;
+
+// The folder the pictures go to.
+extern QString carpeta;
+
+void Esperar(int ms);
+// Writes the window's picture as carpeta/nombre.png.
+void Guardar(QWidget& ventana, const QString& nombre);
+// Shows a dialog without its own loop, takes its picture and closes it.
+void Capturar(QDialog& dialogo, const QString& nombre);
+// A message box as the program shows it, captured while it waits for an answer.
+void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre);
+
+// The export to the drawing program, from the project window on the sample project.
+void CapturasExportar(Programa& programa, VigasProyecto& ventana);
+
+} // namespace trevalo
