@@ -126,8 +126,9 @@ ArchivoElegido DialogosQt::Archivo(const DialogoArchivo& d) {
     dialogo.setOption(QFileDialog::DontUseNativeDialog);
     dialogo.setAcceptMode(d.Modo == ModoDialogo::Salvar ? QFileDialog::AcceptSave
                                                         : QFileDialog::AcceptOpen);
-    dialogo.setFileMode(d.Modo == ModoDialogo::Salvar ? QFileDialog::AnyFile
-                                                      : QFileDialog::ExistingFile);
+    dialogo.setFileMode(d.Modo == ModoDialogo::Salvar || d.CrearSiFalta
+                            ? QFileDialog::AnyFile
+                            : QFileDialog::ExistingFile);
     // The questions about an existing file are the program's own.
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
     const QStringList filtros = FiltrosQt(d.Filtro);
@@ -136,9 +137,14 @@ ArchivoElegido DialogosQt::Archivo(const DialogoArchivo& d) {
         dialogo.selectNameFilter(filtros[d.IndiceFiltro - 1]);
     dialogo.setDefaultSuffix(SufijoDeFiltro(d.Filtro, d.IndiceFiltro));
     if (!d.Nombre.empty()) dialogo.selectFile(Qs(d.Nombre));
-    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
-    const QString ruta = dialogo.selectedFiles().first();
-    return {false, Std(ruta), Std(QFileInfo(ruta).fileName())};
+    for (;;) {
+        if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
+        const QString ruta = dialogo.selectedFiles().first();
+        if (d.Modo == ModoDialogo::Salvar || QFileInfo::exists(ruta) ||
+            Mensaje({Std(QFileInfo(ruta).fileName()) + "\nEste archivo no existe.\n¿Desea crearlo?",
+                     d.Titulo, BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}) == RespuestaSi)
+            return {false, Std(ruta), Std(QFileInfo(ruta).fileName())};
+    }
 }
 
 std::optional<std::int32_t> DialogosQt::Color(std::int32_t inicial) {

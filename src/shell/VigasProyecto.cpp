@@ -16,6 +16,7 @@
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/OperacionesVista.h"
 #include "shell/EsquinaNo.h"
+#include "shell/ExportarCAD.h"
 #include "shell/Iconos.h"
 #include "shell/NuevaViga.h"
 #include "shell/PantallaViga.h"
@@ -439,8 +440,7 @@ void VigasProyecto::Despachar(const QString& clave) {
     const int pestana = Pestana();
     if (clave == QStringLiteral("ID_Abrir")) return AbrirProyectoVentana();
     if (clave == QStringLiteral("ID_Editar")) return EditarViga();
-    if (clave == QStringLiteral("ID_KorvelCAD"))
-        return Pendiente(QStringLiteral("Exportar a Korvel-CAD"));
+    if (clave == QStringLiteral("ID_KorvelCAD")) return ExportaVigasCAD();
     if (clave == QStringLiteral("ID_ZoomIN")) return Filas() > 0 ? pantalla_->ZoomIn() : Pintar();
     if (clave == QStringLiteral("ID_ZoomOut")) return Filas() > 0 ? pantalla_->ZoomOut() : Pintar();
     if (clave == QStringLiteral("ID_ZoomExtents"))
@@ -493,6 +493,27 @@ void VigasProyecto::RestaurarVigaActiva(bool pestanaUno) {
         ElegirPestana(1);
     }
     pantalla_->ZoomExtents();
+}
+
+void VigasProyecto::RestaurarTrasRecorrido() {
+    auto& vista = programa_.Vista;
+    vista.ModoEditor = false;
+    if (Filas() > 0) Tomar(FilaActiva());
+    Vista();
+    vista.VerJuntas = false;
+    programa_.SinFocoCanvas = false;
+    ElegirPestana(Pestana());
+    if (Filas() > 0) pantalla_->ZoomExtents();
+    programa_.Estado.DialogoAceptado = false;
+    pantalla_->setFocus();
+}
+
+void VigasProyecto::ExportaVigasCAD() {
+    {
+        ExportarCAD dialogo(programa_, NombresLista(), this);
+        dialogo.exec();
+    }
+    RestaurarTrasRecorrido();
 }
 
 void VigasProyecto::CrearViga() {

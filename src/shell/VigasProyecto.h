@@ -94,6 +94,11 @@ class VigasProyecto : public QDialog {
     void RenombrarVigaSeleccionada();
     // Back from the editor or a dialog: the beam of the active row read again, the view reset.
     void RestaurarVigaActiva(bool pestanaUno);
+    // Back from a walk over the beams (report, export): the beam of the active row read again
+    // and solved as the tab in front needs, the view reset and zoomed to the whole beam.
+    void RestaurarTrasRecorrido();
+    // The export to the drawing program's project.
+    void ExportaVigasCAD();
 
     Programa& programa_;
     bool cargando_ = true;

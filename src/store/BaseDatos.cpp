@@ -206,9 +206,9 @@ Recordset& ListaVigasAbierta(EstadoProyecto& estado) {
 
 namespace {
 
-// A project holds the tables of its beams, GeneralViga among them.
-bool EsProyecto(BaseDatos& bd) {
-    for (const char* tabla : TablasViga)
+// Whether the database holds every table named.
+bool TieneTablas(BaseDatos& bd, const std::vector<std::string>& tablas) {
+    for (const auto& tabla : tablas)
         if (bd.AbrirRecordset("SELECT * FROM sqlite_master WHERE type='table' AND name=? "
                               "COLLATE NOCASE",
                               {tabla})
@@ -219,20 +219,25 @@ bool EsProyecto(BaseDatos& bd) {
 
 } // namespace
 
-void AbrirProyectoArchivo(const std::string& ruta, EstadoProyecto& estado) {
+BaseDatos AbrirBaseConTablas(const std::string& ruta, const std::vector<std::string>& tablas,
+                             const std::string& noEs) {
     if (!std::filesystem::is_regular_file(ruta))
         throw ErrorTrevalo(ErrArchivoNoEncontrado, "No existe el archivo: " + ruta);
-    const ErrorTrevalo noEsProyecto(ErrFormatoNoReconocido,
-                                    "El archivo no es un proyecto de vigas: " + ruta);
-    std::optional<BaseDatos> bd;
+    const ErrorTrevalo noEsBase(ErrFormatoNoReconocido, noEs + ruta);
     try {
-        bd.emplace(BaseDatos::Abrir(ruta));
-        if (!EsProyecto(*bd)) throw noEsProyecto;
+        BaseDatos bd = BaseDatos::Abrir(ruta);
+        if (!TieneTablas(bd, tablas)) throw noEsBase;
+        return bd;
     } catch (const ErrorTrevalo& e) {
         if (e.Numero() == ErrFormatoNoReconocido) throw;
         throw ErrorTrevalo(ErrFormatoNoReconocido,
-                           noEsProyecto.Descripcion() + " (" + e.Descripcion() + ")");
+                           noEsBase.Descripcion() + " (" + e.Descripcion() + ")");
     }
+}
+
+void AbrirProyectoArchivo(const std::string& ruta, EstadoProyecto& estado) {
+    BaseDatos bd = AbrirBaseConTablas(ruta, {std::begin(TablasViga), std::end(TablasViga)},
+                                      "El archivo no es un proyecto de vigas: ");
     estado.BDProyecto = std::move(bd);
     estado.NombreProyecto = std::filesystem::path(ruta).filename().string();
     AbrirRsGeneralViga(estado, ConsultaListaVigas);

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "model/Viga.h"
 #include "store/EstadoProyecto.h"
@@ -37,6 +38,12 @@ inline const char* const ConsultaListaVigas = "SELECT * FROM GeneralViga ORDER B
 // engine's text in brackets when the engine refused it). A refused file leaves `estado` as
 // it was.
 void AbrirProyectoArchivo(const std::string& ruta, EstadoProyecto& estado);
+
+// Opens the database at `ruta` when it holds every table named (case ignored). A missing file
+// raises 53 ("No existe el archivo: " + ruta); any other file raises 3343 (noEs + ruta, with
+// the engine's text in brackets when the engine refused it).
+BaseDatos AbrirBaseConTablas(const std::string& ruta, const std::vector<std::string>& tablas,
+                             const std::string& noEs);
 
 // Reads the one row of GeneralProyecto. No row: error 3021. A Null text: error 94.
 void LeerGeneralProyecto(BaseDatos& bd, ProyectoActual& proyecto);

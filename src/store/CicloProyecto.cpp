@@ -91,26 +91,38 @@ ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
 
 } // namespace
 
-bool PlataformaProyectoDisco::ExisteArchivo(const std::string& ruta) {
+bool ExisteArchivoDisco(const std::string& ruta) {
     std::error_code ec;
     return std::filesystem::is_regular_file(ruta, ec);
 }
 
-void PlataformaProyectoDisco::CopiarArchivo(const std::string& origen, const std::string& destino) {
+void CopiarArchivoDisco(const std::string& origen, const std::string& destino) {
     std::error_code ec;
-    if (!ExisteArchivo(origen))
+    if (!ExisteArchivoDisco(origen))
         throw ErrorArchivo(std::make_error_code(std::errc::no_such_file_or_directory));
     std::filesystem::copy_file(origen, destino, std::filesystem::copy_options::overwrite_existing,
                                ec);
     if (ec) throw ErrorArchivo(ec);
 }
 
-void PlataformaProyectoDisco::BorrarArchivo(const std::string& ruta) {
+void BorrarArchivoDisco(const std::string& ruta) {
     std::error_code ec;
-    if (!ExisteArchivo(ruta))
+    if (!ExisteArchivoDisco(ruta))
         throw ErrorArchivo(std::make_error_code(std::errc::no_such_file_or_directory));
     std::filesystem::remove(ruta, ec);
     if (ec) throw ErrorArchivo(ec);
+}
+
+bool PlataformaProyectoDisco::ExisteArchivo(const std::string& ruta) {
+    return ExisteArchivoDisco(ruta);
+}
+
+void PlataformaProyectoDisco::CopiarArchivo(const std::string& origen, const std::string& destino) {
+    CopiarArchivoDisco(origen, destino);
+}
+
+void PlataformaProyectoDisco::BorrarArchivo(const std::string& ruta) {
+    BorrarArchivoDisco(ruta);
 }
 
 BaseDatos PlataformaProyectoDisco::AbrirBaseDatos(const std::string& ruta) {

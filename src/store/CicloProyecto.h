@@ -66,6 +66,11 @@ class PlataformaProyectoDisco : public PlataformaProyecto {
     BaseDatos AbrirBaseDatos(const std::string& ruta) override;
 };
 
+// The same file operations for callers without a platform, with the same errors.
+bool ExisteArchivoDisco(const std::string& ruta);
+void CopiarArchivoDisco(const std::string& origen, const std::string& destino);
+void BorrarArchivoDisco(const std::string& ruta);
+
 // "Trevalo 6.0  Proyecto: [" + nombre + "]" (two blanks before "Proyecto").
 std::string TituloMenu(const std::string& nombreProyecto);
 

@@ -54,6 +54,9 @@ struct DialogoArchivo {
     int IndiceFiltro = 1;
     std::string Carpeta;
     std::string Nombre; // the file name it starts with
+    // Open mode: a name that does not exist may be chosen, after the dialog asks whether to
+    // create it (the caller creates the file).
+    bool CrearSiFalta = false;
 
     bool operator==(const DialogoArchivo&) const = default;
 };

@@ -121,6 +121,7 @@ void Recorrido(Programa& programa) {
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
     CapturasPerfiles(programa, ventana);
+    CapturasExportar(programa, ventana);
     ventana.hide();
     CapturasAjustes(programa, menu);
     menu.close();

@@ -33,5 +33,7 @@ void CapturasPerfiles(Programa& programa, QWidget& padre);
 // The settings on both tabs with the sample tool tip, the file maintenance and the help
 // window, over the main window.
 void CapturasAjustes(Programa& programa, MenuP& menu);
+// The export to the drawing program, from the project window on the sample project.
+void CapturasExportar(Programa& programa, VigasProyecto& ventana);
 
 } // namespace trevalo

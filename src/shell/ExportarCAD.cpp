@@ -1,0 +1,278 @@
+#include "shell/ExportarCAD.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFrame>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "output/ExportarCAD.h"
+#include "shell/PantallaViga.h"
+#include "shell/TextoQt.h"
+#include "shell/ToolTipTrevalo.h"
+#include "store/BaseDatos.h"
+
+namespace trevalo {
+
+namespace {
+
+// 0xC4EFFF as 0xBBGGRR.
+const QColor ColorMarcada(0xFF, 0xEF, 0xC4);
+
+const char* const Opciones[4] = {"Anexar a un Proyecto Existente", "Crear un Nuevo Proyecto",
+                                 "Apoyada sobre Vigas", "Apoyada sobre Columnas"};
+
+// The commands: object name, caption, tip title, tip text.
+struct Orden {
+    const char* nombre;
+    const char* titulo;
+    const char* tipTitulo;
+    const char* tipTexto;
+};
+
+const Orden Ordenes[] = {
+    {"KorvelButton1", "Directorio", "Directorio de Korvel-CAD",
+     "Visualizar el directorio de\nKorvel-CAD Estructural 8.0 "},
+    {"LSButton1", "Exportar", "Exportar a Korvel-CAD",
+     "Exportar las vigas seleccionadas al\nprograma Korvel-CAD Estructural 8.0 "},
+    {"LSButton9", " Cancelar ", "", ""},
+    {"SSCommand1", "Marcar Todas", "", ""},
+    {"SSCommand2", "Desmarcar Todas", "", ""},
+};
+
+QGroupBox* GrupoOpciones(const char* titulo, QRadioButton* a, QRadioButton* b, QWidget* padre) {
+    auto* grupo = new QGroupBox(QString::fromUtf8(titulo), padre);
+    auto* capas = new QVBoxLayout(grupo);
+    capas->addWidget(a);
+    capas->addWidget(b);
+    a->setChecked(true);
+    return grupo;
+}
+
+} // namespace
+
+ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nombres,
+                         QWidget* parent)
+    : QDialog(parent), programa_(programa), toolTip_(new ToolTipTrevalo(this)) {
+    setObjectName(QStringLiteral("ExportarCAD"));
+    setWindowTitle(QStringLiteral("Exportar a Korvel-CAD Estructural"));
+
+    auto* marco =
+        new QGroupBox(QStringLiteral("Programa de Dibujo Korvel-CAD Estructural 8.0"), this);
+    spread1_ = new QTableWidget(marco);
+    spread1_->setObjectName(QStringLiteral("Spread1"));
+    spread1_->setAccessibleName(QStringLiteral("Vigas a Exportar"));
+    picture1_ = new PantallaViga(programa_, false, marco);
+    picture1_->setObjectName(QStringLiteral("Picture1"));
+    picture1_->setMinimumSize(420, 300);
+    for (int i = 0; i < 4; ++i) {
+        option_[i] = new QRadioButton(QString::fromUtf8(Opciones[i]), marco);
+        option_[i]->setObjectName(QStringLiteral("Option%1").arg(i + 1));
+    }
+    for (const Orden& o : Ordenes) {
+        auto* b = new QPushButton(QString::fromUtf8(o.titulo), this);
+        b->setObjectName(QString::fromUtf8(o.nombre));
+        b->setAutoDefault(false);
+    }
+
+    auto* lista = new QVBoxLayout;
+    lista->addWidget(spread1_, 1);
+    auto* marcas = new QHBoxLayout;
+    marcas->addWidget(Boton(QStringLiteral("SSCommand1")));
+    marcas->addWidget(Boton(QStringLiteral("SSCommand2")));
+    lista->addLayout(marcas);
+    auto* arriba = new QHBoxLayout;
+    arriba->addLayout(lista);
+    arriba->addWidget(picture1_, 1);
+    auto* opciones = new QHBoxLayout;
+    opciones->addWidget(
+        GrupoOpciones("En Korvel-CAD Estructural 8.0", option_[0], option_[1], marco));
+    opciones->addWidget(
+        GrupoOpciones("Tipos de Apoyo de la Viga Continua", option_[2], option_[3], marco));
+    auto* dentro = new QVBoxLayout(marco);
+    dentro->addLayout(arriba, 1);
+    dentro->addLayout(opciones);
+
+    panelP_ = new QFrame(this);
+    panelP_->setObjectName(QStringLiteral("LSFrameP"));
+    panelP_->setFrameShape(QFrame::StyledPanel);
+    auto* progreso = new QHBoxLayout(panelP_);
+    lsLabel4_ = new QLabel(QStringLiteral("Exportando..."), panelP_);
+    lsLabel4_->setObjectName(QStringLiteral("LSLabel4"));
+    progressBar1_ = new QProgressBar(panelP_);
+    progressBar1_->setObjectName(QStringLiteral("ProgressBar1"));
+    progressBar1_->setRange(0, 100);
+    progreso->addWidget(lsLabel4_);
+    progreso->addWidget(progressBar1_, 1);
+    panelP_->hide();
+
+    auto* ordenes = new QHBoxLayout;
+    ordenes->addWidget(Boton(QStringLiteral("KorvelButton1")));
+    ordenes->addStretch(1);
+    ordenes->addWidget(Boton(QStringLiteral("LSButton1")));
+    ordenes->addWidget(Boton(QStringLiteral("LSButton9")));
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(marco, 1);
+    todo->addWidget(panelP_);
+    todo->addLayout(ordenes);
+
+    connect(Boton(QStringLiteral("LSButton1")), &QPushButton::clicked, this,
+            &ExportarCAD::Exportar);
+    connect(Boton(QStringLiteral("LSButton9")), &QPushButton::clicked, this, &QDialog::reject);
+    connect(Boton(QStringLiteral("KorvelButton1")), &QPushButton::clicked, this,
+            &ExportarCAD::Directorio);
+    connect(Boton(QStringLiteral("SSCommand1")), &QPushButton::clicked, this,
+            [this] { MarcarTodas(true); });
+    connect(Boton(QStringLiteral("SSCommand2")), &QPushButton::clicked, this,
+            [this] { MarcarTodas(false); });
+    connect(picture1_, &PantallaViga::Redimensionado, picture1_, &PantallaViga::Pintar);
+
+    // The load of the form.
+    InicializarToolTips();
+    toolTip_->Configurar(programa_.Tapiz);
+    try {
+        listaConcreto_.emplace(
+            ProyectoAbierto(programa_.Estado).AbrirRecordset(ConsultaListaConcreto));
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    ColoquePantalla(nombres);
+    auto& vista = programa_.Vista;
+    vista.ModoEditor = false;
+    vista.EnPantalla = true;
+    vista.VerDiagramas = vista.VerDiseno = false;
+    try {
+        if (listaConcreto_ && !listaConcreto_->AlFinal()) listaConcreto_->MoveFirst();
+        LeerViga(programa_.Estado, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    if (spread1_->rowCount() > 0) {
+        const QSignalBlocker bloqueo(spread1_);
+        spread1_->setCurrentCell(0, 1);
+    }
+    connect(spread1_, &QTableWidget::currentCellChanged, this,
+            [this](int fila, int, int anterior, int) {
+                if (fila != anterior && fila >= 0) CambioFila(fila + 1);
+            });
+    connect(spread1_, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* item) {
+        if (item->column() == 0) Marcar(item->row() + 1, item->text() == QStringLiteral("1"));
+    });
+    resize(900, 600);
+}
+
+ExportarCAD::~ExportarCAD() = default;
+
+QPushButton* ExportarCAD::Boton(const QString& nombre) const {
+    return findChild<QPushButton*>(nombre);
+}
+
+void ExportarCAD::InicializarToolTips() {
+    for (const Orden& o : Ordenes) {
+        if (*o.tipTexto == '\0') continue;
+        QPushButton* b = Boton(QString::fromUtf8(o.nombre));
+        b->setProperty("Tag", QString::fromUtf8(o.tipTitulo));
+        b->setToolTip(QString::fromUtf8(o.tipTexto));
+    }
+}
+
+void ExportarCAD::ColoquePantalla(const std::vector<std::string>& nombres) {
+    const QSignalBlocker bloqueo(spread1_);
+    spread1_->setColumnCount(2);
+    spread1_->setHorizontalHeaderLabels(
+        {QStringLiteral("Exportar"), QStringLiteral("Nombre de la Viga")});
+    spread1_->horizontalHeader()->setStretchLastSection(true);
+    spread1_->verticalHeader()->setDefaultSectionSize(20);
+    spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
+    spread1_->setMinimumWidth(280);
+    spread1_->setRowCount(static_cast<int>(nombres.size()));
+    for (int r = 0; r < spread1_->rowCount(); ++r) {
+        spread1_->setItem(r, 0, new QTableWidgetItem(QStringLiteral("0")));
+        auto* nombre = new QTableWidgetItem(Qs(nombres[static_cast<std::size_t>(r)]));
+        nombre->setFlags(nombre->flags() & ~Qt::ItemIsEditable);
+        spread1_->setItem(r, 1, nombre);
+        Marcar(r + 1, false);
+    }
+}
+
+bool ExportarCAD::Marcada(int fila) const {
+    return spread1_->item(fila - 1, 0)->text() == QStringLiteral("1");
+}
+
+void ExportarCAD::Marcar(int fila, bool marcada) {
+    const QSignalBlocker bloqueo(spread1_);
+    spread1_->item(fila - 1, 0)->setText(marcada ? QStringLiteral("1") : QStringLiteral("0"));
+    const QColor fondo = marcada ? ColorMarcada : QColor(Qt::white);
+    for (int c = 0; c < 2; ++c) spread1_->item(fila - 1, c)->setBackground(fondo);
+}
+
+void ExportarCAD::MarcarTodas(bool marcada) {
+    for (int r = 1; r <= spread1_->rowCount(); ++r) Marcar(r, marcada);
+    spread1_->setFocus();
+}
+
+void ExportarCAD::CambioFila(int fila) {
+    try {
+        listaConcreto_->AbsolutePosition(fila - 1);
+        programa_.Viga.NombreVigaActual = listaConcreto_->Campo("NombreViga").Texto();
+        LeerViga(programa_.Estado, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    picture1_->Pintar();
+}
+
+void ExportarCAD::MostrarPanel(bool visible) {
+    panelP_->setVisible(visible);
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void ExportarCAD::Exportar() {
+    std::vector<FilaCAD> filas;
+    bool alguna = false;
+    for (int r = 1; r <= spread1_->rowCount(); ++r) {
+        filas.push_back({Marcada(r), Std(spread1_->item(r - 1, 1)->text())});
+        alguna = alguna || filas.back().Marcada;
+    }
+    if (!alguna) {
+        programa_.Dialogo().Mensaje(
+            {"No ha Seleccionado Vigas para Exportar a Korvel-CAD Estructural!        \n",
+             "Exportar Viga a Korvel-CAD Estructural 8.0", BotonesMensaje::Aceptar,
+             IconoMensaje::Advertencia, 1});
+        spread1_->setFocus();
+        return;
+    }
+    if (!listaConcreto_) return;
+    ModeloCAD modelo{programa_.Estado,     programa_.Proyecto, programa_.Viga,
+                     programa_.Resultados, programa_.Vista,    *listaConcreto_};
+    PasosCAD pasos{[this](bool visible) { MostrarPanel(visible); },
+                   [this](double valor) {
+                       progressBar1_->setValue(static_cast<int>(valor));
+                       QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+                   }};
+    OpcionesCAD opciones{option_[1]->isChecked(), option_[3]->isChecked()};
+    try {
+        if (ExportarCAD70(modelo, programa_.Dialogo(), programa_.Carpetas, filas,
+                          spread1_->currentRow() + 1, opciones, pasos) == 0)
+            spread1_->setFocus();
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    picture1_->Pintar();
+}
+
+void ExportarCAD::Directorio() {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QDesktopServices::openUrl(QUrl::fromLocalFile(Qs(CarpetaProyectosCAD(programa_.Carpetas))));
+    QApplication::restoreOverrideCursor();
+}
+
+} // namespace trevalo

@@ -1,0 +1,172 @@
+// Journeys of a person through the export to the drawing program, from the project window on
+// the sample project: the form with its grid, marks and colours, the message when nothing is
+// marked, a new project with the beam of the active row, a row that stands beyond the list
+// of concrete beams, and the project window's beam back on screen afterwards.
+
+#include <QAction>
+#include <QFrame>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
+
+#include "VentanasPrueba.h"
+#include "shell/ExportarCAD.h"
+#include "shell/PantallaViga.h"
+#include "shell/ToolTipTrevalo.h"
+#include "shell/VigasProyecto.h"
+#include "store/BaseDatos.h"
+
+using namespace trevalo;
+using namespace trevalo::prueba;
+
+namespace {
+
+std::unique_ptr<VigasProyecto> Abrir(ProgramaPrueba& p) {
+    p.programa.Estado.NombreProyecto = "Ejemplo Demostrativo.trv";
+    auto v = std::make_unique<VigasProyecto>(p.programa);
+    v->show();
+    if (!QTest::qWaitForWindowExposed(v.get()))
+        QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
+    return v;
+}
+
+QTableWidget& Grilla(ExportarCAD& f) {
+    return *Hijo<QTableWidget>(f, QStringLiteral("Spread1"));
+}
+
+QColor Fondo(ExportarCAD& f, int fila) {
+    return Grilla(f).item(fila - 1, 1)->background().color();
+}
+
+void Pulsar(ExportarCAD& f, const char* boton) {
+    QTest::mouseClick(f.Boton(QString::fromLatin1(boton)), Qt::LeftButton);
+}
+
+long Filas(const std::string& ruta, const std::string& sql, const Parametros& p = {}) {
+    return BaseDatos::Abrir(ruta).AbrirRecordset(sql, p).RecordCount();
+}
+
+const QColor Crema(0xFF, 0xEF, 0xC4);
+
+// Runs `accion` on the export form once it is on screen; a form the action left open (a check
+// failed half way) is closed so that the journey ends.
+void EnFormulario(std::function<void(ExportarCAD&)> accion) {
+    AlAbrirse<ExportarCAD>([accion](ExportarCAD& f) {
+        accion(f);
+        if (f.isVisible()) f.reject();
+    });
+}
+
+} // namespace
+
+class ExportarCADTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void ExportaLaVigaActivaAUnProyectoNuevo() {
+        ProgramaPrueba p;
+        auto ventana = Abrir(p);
+        VigasProyecto& v = *ventana;
+        v.BtoMove_Click(1);
+        v.ElegirPestana(3);
+        const auto nombres = v.NombresLista();
+        const std::string destino = p.carpeta / "Obra.Cad";
+        bool visto = false;
+        EnFormulario([&](ExportarCAD& f) {
+            visto = true;
+            QCOMPARE(f.windowTitle(), QStringLiteral("Exportar a Korvel-CAD Estructural"));
+            QTableWidget& g = Grilla(f);
+            QCOMPARE(g.rowCount(), static_cast<int>(nombres.size()));
+            for (int r = 1; r <= g.rowCount(); ++r) {
+                QCOMPARE(Std(g.item(r - 1, 1)->text()), nombres[static_cast<std::size_t>(r - 1)]);
+                QVERIFY(!f.Marcada(r));
+                QCOMPARE(Fondo(f, r), QColor(Qt::white));
+            }
+            QVERIFY(Hijo<QRadioButton>(f, QStringLiteral("Option1"))->isChecked());
+            QVERIFY(Hijo<QRadioButton>(f, QStringLiteral("Option3"))->isChecked());
+            QVERIFY(!Hijo<QFrame>(f, QStringLiteral("LSFrameP"))->isVisible());
+            QCOMPARE(ToolTipTrevalo::Titulo(f.Boton(QStringLiteral("LSButton1"))),
+                     QStringLiteral("Exportar a Korvel-CAD"));
+            QCOMPARE(ToolTipTrevalo::Texto(f.Boton(QStringLiteral("KorvelButton1"))),
+                     QStringLiteral("Visualizar el directorio de\nKorvel-CAD Estructural 8.0 "));
+
+            // Nothing marked: the message, no file dialog.
+            Pulsar(f, "LSButton1");
+            const Pregunta nada{
+                "No ha Seleccionado Vigas para Exportar a Korvel-CAD Estructural!        \n",
+                "Exportar Viga a Korvel-CAD Estructural 8.0", BotonesMensaje::Aceptar,
+                IconoMensaje::Advertencia, 1};
+            QCOMPARE(p.dialogos->preguntas, std::vector<Pregunta>{nada});
+            QVERIFY(p.dialogos->dialogosArchivo.empty());
+            QCOMPARE(f.focusWidget(), &g);
+
+            Pulsar(f, "SSCommand1");
+            for (int r = 1; r <= g.rowCount(); ++r) {
+                QVERIFY(f.Marcada(r));
+                QCOMPARE(Fondo(f, r), Crema);
+            }
+            Pulsar(f, "SSCommand2");
+            QVERIFY(!f.Marcada(1));
+            QCOMPARE(Fondo(f, 1), QColor(Qt::white));
+
+            // The second row: its beam in the preview, marked, to a new project.
+            g.setCurrentCell(1, 1);
+            QCOMPARE(p.programa.Viga.NombreVigaActual, nombres[1]);
+            g.item(1, 0)->setText(QStringLiteral("1"));
+            QVERIFY(f.Marcada(2));
+            QCOMPARE(Fondo(f, 2), Crema);
+            auto* nuevo = Hijo<QRadioButton>(f, QStringLiteral("Option2"));
+            QTest::mouseClick(nuevo, Qt::LeftButton, {}, QPoint(8, nuevo->height() / 2));
+            QVERIFY(nuevo->isChecked());
+            p.dialogos->preguntas.clear();
+            p.dialogos->archivos.push_back({false, destino, "Obra.Cad"});
+            Pulsar(f, "LSButton1");
+            QCOMPARE(p.dialogos->dialogosArchivo.size(), 1u);
+            QCOMPARE(p.dialogos->dialogosArchivo[0].Modo, ModoDialogo::Salvar);
+            QCOMPARE(p.dialogos->preguntas.size(), 2u);
+            QCOMPARE(p.dialogos->preguntas[1].Texto,
+                     std::string("Se Exportaron (1) Viga(s) con Éxito a Korvel-CAD "
+                                 "Estructural8.0!        \n"));
+            QVERIFY(!Hijo<QFrame>(f, QStringLiteral("LSFrameP"))->isVisible());
+            Pulsar(f, "LSButton9");
+            QVERIFY(!f.isVisible());
+        });
+        QTest::mouseClick(v.Boton(QStringLiteral("KorvelButton1")), Qt::LeftButton);
+        QVERIFY(visto);
+
+        QCOMPARE(Filas(destino, "SELECT * FROM Proyecto"), 1L);
+        QCOMPARE(Filas(destino, "SELECT * FROM VigaDatos WHERE Nombre=?", {nombres[1]}), 1L);
+        QCOMPARE(Filas(destino, "SELECT * FROM VigaDatos"), 1L);
+        QVERIFY(Filas(destino, "SELECT * FROM VigaRefTeorico WHERE Nombre=?", {nombres[1]}) > 0);
+        // The project window's beam back on screen, solved for its tab.
+        QCOMPARE(v.FilaActiva(), 2);
+        QCOMPARE(p.programa.Viga.NombreVigaActual, nombres[1]);
+        QVERIFY(p.programa.Vista.VerDiseno);
+        QVERIFY(p.programa.Resultados.NJuntas > 0);
+        QCOMPARE(v.focusWidget(), &v.Lienzo());
+    }
+
+    // The sample's steel beam is the fourth of six: the last row stands beyond the five
+    // concrete beams, and its export fails with the target left as the template made it.
+    void UnaFilaMasAllaDeLasVigasDeConcretoAvisaYNoEscribe() {
+        ProgramaPrueba p;
+        auto ventana = Abrir(p);
+        const std::string destino = p.carpeta / "Anexo.Cad";
+        EnFormulario([&](ExportarCAD& f) {
+            QTableWidget& g = Grilla(f);
+            g.item(g.rowCount() - 1, 0)->setText(QStringLiteral("1"));
+            p.dialogos->archivos.push_back({false, destino, "Anexo.Cad"});
+            p.dialogos->respuestas.push_back(RespuestaSi);
+            Pulsar(f, "LSButton1");
+            QCOMPARE(p.dialogos->preguntas.back().Titulo, std::string("Error: 3021"));
+            QVERIFY(!Hijo<QFrame>(f, QStringLiteral("LSFrameP"))->isVisible());
+        });
+        ventana->Accion(QStringLiteral("ID_KorvelCAD"))->trigger();
+        QCOMPARE(LeerArchivo(destino),
+                 LeerArchivo(p.programa.Carpetas.RutaPrograma + "/Imagen/ImagenCAD8.kvl"));
+        QCOMPARE(p.programa.Viga.NombreVigaActual, ventana->NombresLista()[0]);
+    }
+};
+
+QTEST_MAIN(ExportarCADTest)
+#include "ExportarCADTest.moc"
