@@ -10,6 +10,7 @@
 
 #include "drawing/EstadoPloteos.h"
 #include "model/Viga.h"
+#include "output/LlenarImpreDatos.h"
 #include "store/CarpetasPrograma.h"
 #include "store/Dialogos.h"
 #include "store/EstadoProyecto.h"
@@ -27,8 +28,10 @@ struct Programa {
     ResultadosViga Resultados;
     EstadoPloteos Vista;
     EstadoProyecto Estado;
-    std::string ArchivoAyuda;   // the help file
-    bool SinFocoCanvas = false; // the editor drives the project window's moves
+    std::string ArchivoAyuda;    // the help file
+    bool SinFocoCanvas = false;  // the editor drives the project window's moves
+    OpcionesImpresion Impresion; // the choice of the last accepted print dialog
+    std::uint8_t TipoSalida = 0; // the report's output kind, 0 (the viewer) between reports
 
     Dialogos& Dialogo() { return *dialogos_; }
 

@@ -53,7 +53,8 @@ struct DialogoArchivo {
     std::string Filtro;
     int IndiceFiltro = 1;
     std::string Carpeta;
-    std::string Nombre; // the file name it starts with
+    std::string Nombre;              // the file name it starts with
+    bool PreguntarReemplazo = false; // a save dialog asks before it overwrites a file
 
     bool operator==(const DialogoArchivo&) const = default;
 };

@@ -16,6 +16,7 @@
 #include "comun/DialogosGuion.h"
 #include "shell/Programa.h"
 #include "shell/TextoQt.h"
+#include "shell/VigasProyecto.h"
 
 namespace trevalo::prueba {
 
@@ -90,6 +91,17 @@ template <typename T> T* Hijo(QWidget& ventana, const QString& nombre) {
     for (T* w : ventana.findChildren<T*>())
         if (w->objectName() == nombre || w->accessibleName() == nombre) return w;
     return nullptr;
+}
+
+// The project window on a project of the data folder, on screen.
+inline std::unique_ptr<VigasProyecto> VentanaProyecto(ProgramaPrueba& p,
+                                                      const std::string& proyecto) {
+    p.programa.Estado.NombreProyecto = proyecto;
+    auto v = std::make_unique<VigasProyecto>(p.programa);
+    v->show();
+    if (!QTest::qWaitForWindowExposed(v.get()))
+        QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
+    return v;
 }
 
 } // namespace trevalo::prueba

@@ -11,6 +11,7 @@
 #include <functional>
 #include <iostream>
 
+#include "app/capturas/Capturas.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
@@ -28,7 +29,6 @@
 #include "store/CicloProyecto.h"
 
 namespace trevalo {
-namespace {
 
 QString carpeta;
 
@@ -45,12 +45,13 @@ void Guardar(QWidget& ventana, const QString& nombre) {
     std::cout << Std(ruta) << "\n";
 }
 
-// Shows a dialog without its own loop, takes its picture and closes it.
 void Capturar(QDialog& dialogo, const QString& nombre) {
     dialogo.show();
     Guardar(dialogo, nombre);
     dialogo.hide();
 }
+
+namespace {
 
 // A message box as the program shows it, captured while it waits for an answer.
 void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre) {
@@ -119,6 +120,7 @@ void Recorrido(Programa& programa) {
         {"Viga: V-101\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
+    CapturasInformes(programa, ventana);
     ventana.hide();
     menu.close();
 }
