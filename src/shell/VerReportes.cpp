@@ -8,6 +8,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -31,6 +32,7 @@ class HojaInforme : public QWidget {
     int Pagina() const { return pagina_; }
     void FijarPagina(int pagina) {
         pagina_ = pagina;
+        preparado_ = PrepararPagina(contenido_, pagina_);
         update();
     }
     int Zoom() const { return zoom_; }
@@ -46,12 +48,13 @@ class HojaInforme : public QWidget {
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter pintor(this);
-        PintarPaginaInforme(pintor, rect(), contenido_, pagina_);
+        PintarPaginaInforme(pintor, rect(), contenido_, pagina_, preparado_);
     }
 
   private:
     const ContenidoInforme& contenido_;
     int pagina_ = 1;
+    GraficoPreparado preparado_; // the page's picture, decoded once
     int zoom_ = 100;
 };
 
@@ -81,6 +84,7 @@ QPushButton* BotonPaso(const QString& texto, const QString& nombre, QWidget* pad
     b->setAccessibleName(nombre);
     b->setToolTip(nombre);
     b->setAutoDefault(false);
+    b->setFixedWidth(44);
     return b;
 }
 
@@ -110,6 +114,10 @@ VerReportes::VerReportes(Programa& programa, ContenidoInforme contenido, QWidget
     todo->addLayout(izquierda, 1);
     todo->addWidget(CrearBotones());
     Actualizar();
+    if (const QScreen* pantalla = screen()) {
+        const QRect zona = pantalla->availableGeometry();
+        resize(zona.width() * 95 / 100, zona.height() * 9 / 10);
+    }
     setWindowState(Qt::WindowMaximized);
 }
 
