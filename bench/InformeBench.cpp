@@ -1,7 +1,8 @@
 // The full report of a generated project of 100 continuous beams (one to four spans each),
 // with diagrams and reactions (300 pictures), to PDF: every beam loaded, solved and painted
 // at print resolution into the report database, then the report read back and written.
-// Counters give each stage's seconds and the progress reports seen.
+// Counters give each stage's seconds and the progress reports seen; the argument is the
+// number of threads that paint the pictures.
 
 #include <benchmark/benchmark.h>
 
@@ -76,7 +77,7 @@ void InformeCompletoPdf(benchmark::State& state) {
         const double c0 = cpu();
         const auto t0 = Reloj::now();
         LlenarImpreDatos(temporal, FilaGeneralesDe(ajustes, "banco", "6.0"), nombres, {0, 1, 1},
-                         pasos);
+                         pasos, static_cast<int>(state.range(0)));
         const auto t1 = Reloj::now();
         const double c1 = cpu();
         const auto contenido = LeerBaseInforme(temporal);
@@ -99,7 +100,14 @@ void InformeCompletoPdf(benchmark::State& state) {
     fs::remove_all(carpeta);
 }
 
-BENCHMARK(InformeCompletoPdf)->Unit(benchmark::kSecond)->Iterations(1)->UseRealTime();
+// The argument is the number of painting threads: one by one, and one a core of this machine.
+BENCHMARK(InformeCompletoPdf)
+    ->Arg(1)
+    ->Arg(HilosPintura())
+    ->ArgName("hilos")
+    ->Unit(benchmark::kSecond)
+    ->Iterations(1)
+    ->UseRealTime();
 
 } // namespace
 } // namespace trevalo

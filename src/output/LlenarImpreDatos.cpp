@@ -1,6 +1,13 @@
 #include "output/LlenarImpreDatos.h"
 
+#include <algorithm>
 #include <cassert>
+#include <condition_variable>
+#include <deque>
+#include <future>
+#include <mutex>
+#include <thread>
+#include <variant>
 
 #include "model/Errores.h"
 #include "output/BaseInforme.h"
@@ -16,13 +23,128 @@ std::vector<VistaInforme> VistasInforme(const OpcionesImpresion& opciones) {
     return vistas;
 }
 
+int HilosPintura() {
+    return std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
+}
+
 namespace {
 
-// Steps A to C of one loaded beam; n is the running Numero.
-void PintarViga(EscrituraBaseInforme& base, const std::vector<VistaInforme>& vistas,
-                const PasosInforme& pasos, std::int16_t& n) {
-    pasos.Analizar();
-    for (const auto vista : vistas) base.AgregarGrafico(n++, pasos.Pintar(vista));
+// Threads that run the paintings handed to them, each in its own time.
+class Pintores {
+  public:
+    explicit Pintores(int hilos) {
+        for (int i = 0; i < hilos; ++i) hilos_.emplace_back([this] { Trabajar(); });
+    }
+    // Paintings not begun are dropped; those under way are waited for.
+    ~Pintores() {
+        {
+            const std::lock_guard cerrojo(mutex_);
+            fin_ = true;
+            cola_.clear();
+        }
+        aviso_.notify_all();
+        for (auto& h : hilos_) h.join();
+    }
+    Pintores(const Pintores&) = delete;
+    Pintores& operator=(const Pintores&) = delete;
+
+    std::future<GraficoPintado> Encargar(TrabajoGrafico trabajo) {
+        std::packaged_task<GraficoPintado()> tarea(std::move(trabajo));
+        auto futuro = tarea.get_future();
+        {
+            const std::lock_guard cerrojo(mutex_);
+            cola_.push_back(std::move(tarea));
+        }
+        aviso_.notify_one();
+        return futuro;
+    }
+
+  private:
+    void Trabajar() {
+        for (;;) {
+            std::packaged_task<GraficoPintado()> tarea;
+            {
+                std::unique_lock cerrojo(mutex_);
+                aviso_.wait(cerrojo, [this] { return fin_ || !cola_.empty(); });
+                if (fin_) return;
+                tarea = std::move(cola_.front());
+                cola_.pop_front();
+            }
+            tarea(); // a fault travels to the future
+        }
+    }
+
+    std::mutex mutex_;
+    std::condition_variable aviso_;
+    std::deque<std::packaged_task<GraficoPintado()>> cola_;
+    bool fin_ = false;
+    std::vector<std::thread> hilos_;
+};
+
+// What the walk gives, messages and pictures, stored and shown in the order given, however
+// many threads paint. Only a few pictures wait at a time, to bound the memory held.
+class SalidaInforme {
+  public:
+    SalidaInforme(EscrituraBaseInforme& base, const PasosInforme& pasos, int hilos)
+        : base_(base), pasos_(pasos), limite_(static_cast<std::size_t>(2 * hilos)) {
+        if (hilos > 1) pintores_.emplace(hilos);
+    }
+
+    void Aviso(const std::optional<Pregunta>& aviso) {
+        if (!aviso) return;
+        if (pendientes_.empty())
+            pasos_.Avisar(*aviso);
+        else
+            pendientes_.emplace_back(*aviso);
+    }
+
+    void Grafico(TrabajoGrafico trabajo) {
+        if (!pintores_) return Guardar(trabajo());
+        pendientes_.emplace_back(pintores_->Encargar(std::move(trabajo)));
+        ++graficos_;
+        while (graficos_ > limite_ || FrenteListo()) Entregar();
+    }
+
+    void Terminar() {
+        while (!pendientes_.empty()) Entregar();
+    }
+
+  private:
+    using Pendiente = std::variant<Pregunta, std::future<GraficoPintado>>;
+
+    bool FrenteListo() const {
+        if (pendientes_.empty()) return false;
+        const auto* futuro = std::get_if<std::future<GraficoPintado>>(&pendientes_.front());
+        return !futuro || futuro->wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    }
+
+    void Entregar() {
+        Pendiente frente = std::move(pendientes_.front());
+        pendientes_.pop_front();
+        if (auto* aviso = std::get_if<Pregunta>(&frente)) return pasos_.Avisar(*aviso);
+        --graficos_;
+        Guardar(std::get<std::future<GraficoPintado>>(frente).get());
+    }
+
+    void Guardar(const GraficoPintado& grafico) {
+        if (grafico.Aviso) pasos_.Avisar(*grafico.Aviso);
+        base_.AgregarGrafico(n_++, grafico.Png);
+    }
+
+    EscrituraBaseInforme& base_;
+    const PasosInforme& pasos_;
+    std::size_t limite_;
+    std::deque<Pendiente> pendientes_;
+    std::size_t graficos_ = 0;
+    std::int16_t n_ = 1;
+    std::optional<Pintores> pintores_; // last: its threads end before the rest goes
+};
+
+// Steps A to C of one loaded beam.
+void PintarViga(SalidaInforme& salida, const std::vector<VistaInforme>& vistas,
+                const PasosInforme& pasos) {
+    salida.Aviso(pasos.Analizar());
+    for (const auto vista : vistas) salida.Grafico(pasos.Preparar(vista));
 }
 
 // Step 6: the progress panel is hidden however the walk ends.
@@ -37,14 +159,14 @@ struct OcultarPanel {
 
 void LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& generales,
                       const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
-                      const PasosInforme& pasos) {
+                      const PasosInforme& pasos, int hilos) {
     assert(!vigas.empty());
     EscrituraBaseInforme base(rutaTemporal);
     base.EscribirGenerales(generales);
     base.VaciarGraficos();
     const auto vistas = VistasInforme(opciones);
-    std::int16_t n = 1;
     const OcultarPanel ocultar{pasos};
+    SalidaInforme salida(base, pasos, hilos);
     if (opciones.VigaReporte == 0) {
         const double paso = 100.0 / static_cast<double>(vigas.size());
         double valor = paso;
@@ -52,16 +174,17 @@ void LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& gene
         for (const auto& nombre : vigas) {
             if (pasos.Progreso) pasos.Progreso("Exportando la Viga: " + nombre, valor);
             valor += paso;
-            pasos.CargarViga(nombre);
-            PintarViga(base, vistas, pasos, n);
+            salida.Aviso(pasos.CargarViga(nombre));
+            PintarViga(salida, vistas, pasos);
         }
     } else {
         if (opciones.VigaReporte < 0 ||
             static_cast<std::size_t>(opciones.VigaReporte) > vigas.size())
             throw ErrorTrevalo::SubindiceFueraDeIntervalo();
-        pasos.CargarViga(vigas[static_cast<std::size_t>(opciones.VigaReporte - 1)]);
-        PintarViga(base, vistas, pasos, n);
+        salida.Aviso(pasos.CargarViga(vigas[static_cast<std::size_t>(opciones.VigaReporte - 1)]));
+        PintarViga(salida, vistas, pasos);
     }
+    salida.Terminar();
     base.Confirmar();
 }
 

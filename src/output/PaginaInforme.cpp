@@ -5,9 +5,12 @@
 #include <algorithm>
 #include <cassert>
 #include <cstring>
+#include <deque>
+#include <future>
 #include <vector>
 
 #include "output/GraficoPng.h"
+#include "output/LlenarImpreDatos.h"
 
 namespace trevalo {
 
@@ -118,34 +121,44 @@ void PintarCabecera(QPainter& p, const ContenidoInforme& c) {
           QStringLiteral("Calculista"));
 }
 
-// The smallest rectangle that holds every pixel that is not white: only that part of a
-// picture goes to the page, which looks the same on white paper and spares a PDF the
-// compression of the blank margins of every picture.
-QRect ZonaPintada(const QImage& imagen) {
-    const QImage rgb = imagen.convertToFormat(QImage::Format_RGB32);
+// The painted bands of a picture: runs of rows that are not all white, split where at least
+// BandaBlanca white rows part them, each cut to the columns that hold paint. Only these go
+// to the page, which looks the same on white paper and spares a PDF the compression of the
+// blank parts of every picture; bands never touch, so no seam can show between them.
+std::vector<QRect> ZonasPintadas(const QImage& rgb) {
+    constexpr int BandaBlanca = 12;
     const auto ancho = static_cast<std::size_t>(rgb.width());
-    const std::vector<QRgb> blanca(ancho, qRgb(255, 255, 255));
+    const QRgb blanco = qRgb(255, 255, 255);
+    const std::vector<QRgb> blanca(ancho, blanco);
     auto filaBlanca = [&](int y) {
         return std::memcmp(rgb.constScanLine(y), blanca.data(), ancho * sizeof(QRgb)) == 0;
     };
-    int arriba = 0, abajo = rgb.height() - 1;
-    while (arriba <= abajo && filaBlanca(arriba)) ++arriba;
-    while (abajo > arriba && filaBlanca(abajo)) --abajo;
-    if (arriba > abajo) return {};
-    int izquierda = rgb.width(), derecha = -1;
-    for (int y = arriba; y <= abajo; ++y) {
+    std::vector<QRect> zonas;
+    int izquierda = rgb.width(), derecha = -1, arriba = -1, ultima = -1;
+    auto cerrar = [&] {
+        if (arriba >= 0) zonas.emplace_back(QPoint(izquierda, arriba), QPoint(derecha, ultima));
+        izquierda = rgb.width();
+        derecha = arriba = -1;
+    };
+    for (int y = 0; y < rgb.height(); ++y) {
+        if (filaBlanca(y)) continue;
+        if (arriba >= 0 && y - ultima > BandaBlanca) cerrar();
+        if (arriba < 0) arriba = y;
+        ultima = y;
         const auto* fila = reinterpret_cast<const QRgb*>(rgb.constScanLine(y));
         int x = 0;
-        while (x < izquierda && fila[x] == blanca[0]) ++x;
+        while (x < izquierda && fila[x] == blanco) ++x;
         izquierda = std::min(izquierda, x);
         x = rgb.width() - 1;
-        while (x > derecha && fila[x] == blanca[0]) --x;
+        while (x > derecha && fila[x] == blanco) --x;
         derecha = std::max(derecha, x);
     }
-    return QRect(QPoint(izquierda, arriba), QPoint(derecha, abajo));
+    cerrar();
+    return zonas;
 }
 
-void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme& grafico) {
+void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme& grafico,
+                   const GraficoPreparado& preparado) {
     Letra(p, 8, true, ColorEtiqueta);
     const QRectF cabeza(Izquierda, Arriba, AnchoUtil, 14);
     Texto(p, QRectF(cabeza.left(), cabeza.top(), AnchoUtil * 0.55, 14), Qt::AlignLeft,
@@ -163,8 +176,8 @@ void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme&
     const QSizeF tamano(AnchoGraficoPantalla * escala, AltoGraficoPantalla * escala);
     const QRectF marco(Izquierda + (AnchoUtil - tamano.width()) / 2, arriba, tamano.width(),
                        tamano.height());
-    const QImage imagen = DecodificarPng(grafico.Grafico);
-    if (const QRect zona = imagen.isNull() ? QRect() : ZonaPintada(imagen); !zona.isEmpty()) {
+    const QImage& imagen = preparado.Imagen;
+    for (const QRect& zona : preparado.Zonas) {
         const double e = marco.width() / imagen.width();
         p.drawImage(QRectF(marco.left() + zona.left() * e, marco.top() + zona.top() * e,
                            zona.width() * e, zona.height() * e),
@@ -180,12 +193,8 @@ void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme&
 
 } // namespace
 
-int CantidadPaginasInforme(const ContenidoInforme& contenido) {
-    return 1 + static_cast<int>(contenido.Graficos.size());
-}
-
-void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInforme& c,
-                         int pagina) {
+void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInforme& c, int pagina,
+                         const GraficoPreparado& preparado) {
     assert(pagina >= 1 && pagina <= CantidadPaginasInforme(c));
     const double escala =
         std::min(destino.width() / AnchoPaginaPuntos, destino.height() / AltoPaginaPuntos);
@@ -199,18 +208,53 @@ void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInfo
     if (pagina == 1)
         PintarCabecera(p, c);
     else
-        PintarGrafico(p, c, c.Graficos[static_cast<std::size_t>(pagina - 2)]);
+        PintarGrafico(p, c, c.Graficos[static_cast<std::size_t>(pagina - 2)], preparado);
     PintarPie(p, c, pagina);
     p.restore();
+}
+
+int CantidadPaginasInforme(const ContenidoInforme& contenido) {
+    return 1 + static_cast<int>(contenido.Graficos.size());
+}
+
+GraficoPreparado PrepararGrafico(const GraficoInforme& grafico) {
+    GraficoPreparado preparado;
+    const QImage imagen = DecodificarPng(grafico.Grafico);
+    if (imagen.isNull()) return preparado;
+    preparado.Imagen = imagen.convertToFormat(QImage::Format_RGB32);
+    preparado.Zonas = ZonasPintadas(preparado.Imagen);
+    return preparado;
+}
+
+GraficoPreparado PrepararPagina(const ContenidoInforme& c, int pagina) {
+    return pagina == 1 ? GraficoPreparado()
+                       : PrepararGrafico(c.Graficos[static_cast<std::size_t>(pagina - 2)]);
+}
+
+void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInforme& c,
+                         int pagina) {
+    PintarPaginaInforme(p, destino, c, pagina, PrepararPagina(c, pagina));
 }
 
 bool PintarInforme(QPagedPaintDevice& dispositivo, const ContenidoInforme& contenido) {
     QPainter pintor;
     if (!pintor.begin(&dispositivo)) return false;
     const QRectF pagina(0, 0, dispositivo.width(), dispositivo.height());
+    // The pictures of the next pages are decoded on other threads while a page is painted.
+    const auto adelante = static_cast<std::size_t>(2 * HilosPintura());
+    std::deque<std::future<GraficoPreparado>> preparados;
+    std::size_t siguiente = 0;
     for (int k = 1; k <= CantidadPaginasInforme(contenido); ++k) {
-        if (k > 1) dispositivo.newPage();
-        PintarPaginaInforme(pintor, pagina, contenido, k);
+        for (; siguiente < contenido.Graficos.size() && preparados.size() < adelante; ++siguiente)
+            preparados.push_back(std::async(std::launch::async, PrepararGrafico,
+                                            std::cref(contenido.Graficos[siguiente])));
+        GraficoPreparado preparado;
+        if (k > 1) {
+            preparado = preparados.front().get();
+            preparados.pop_front();
+            dispositivo.newPage();
+        }
+        PintarPaginaInforme(pintor, pagina, contenido, k, preparado);
     }
     return pintor.end();
 }

@@ -7,6 +7,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QRectF>
+#include <vector>
 
 #include "output/ContenidoInforme.h"
 
@@ -16,17 +17,32 @@ namespace trevalo {
 inline constexpr double AnchoPaginaPuntos = 595.28;
 inline constexpr double AltoPaginaPuntos = 841.89;
 
+// A picture ready for its page: decoded, and the bands of it that hold paint.
+struct GraficoPreparado {
+    QImage Imagen;
+    std::vector<QRect> Zonas;
+};
+
+// Decodes a picture of the report; a picture that does not decode has no bands.
+GraficoPreparado PrepararGrafico(const GraficoInforme& grafico);
+
 // Pages of a report: the head and one per picture.
 int CantidadPaginasInforme(const ContenidoInforme& contenido);
 
-// Paints page `pagina` (1-based) scaled to fit `destino` (device units), centred in it.
+// The picture of page `pagina` prepared (nothing for the head).
+GraficoPreparado PrepararPagina(const ContenidoInforme& contenido, int pagina);
+
+// Paints page `pagina` (1-based) scaled to fit `destino` (device units), centred in it, with
+// its picture as PrepararPagina gives it (the first overload prepares it).
 // Precondition: 1 <= pagina <= CantidadPaginasInforme(contenido).
 void PintarPaginaInforme(QPainter& pintor, const QRectF& destino, const ContenidoInforme& contenido,
                          int pagina);
+void PintarPaginaInforme(QPainter& pintor, const QRectF& destino, const ContenidoInforme& contenido,
+                         int pagina, const GraficoPreparado& preparado);
 
 // Paints every page on a paged device (a PDF writer or a printer), set to A4 portrait with
-// no margins by the caller. Returns false if the device cannot be painted on (a file that
-// cannot be written).
+// no margins by the caller; the pictures of the pages ahead are prepared on other threads. Returns
+// false if the device cannot be painted on (a file that cannot be written).
 bool PintarInforme(QPagedPaintDevice& dispositivo, const ContenidoInforme& contenido);
 
 } // namespace trevalo

@@ -1,5 +1,7 @@
 #include "output/PasosPrograma.h"
 
+#include <memory>
+
 #include "analysis/AnalisisVigasP.h"
 #include "output/GraficoPng.h"
 #include "platform/lienzos/LienzosArchivo.h"
@@ -29,35 +31,60 @@ void VistaDeInforme(EstadoPloteos& vista, VistaInforme paso) {
     vista.VerJuntas = false;
 }
 
+namespace {
+
+// Runs `paso`; a fault of the program's error type becomes its message.
+template <typename F>
+std::optional<Pregunta> Avisando(F paso, Pregunta (*mensaje)(const ErrorTrevalo&)) {
+    try {
+        paso();
+    } catch (const ErrorTrevalo& e) {
+        return mensaje(e);
+    }
+    return std::nullopt;
+}
+
+// What one picture shows, copied so that it can be painted while the walk goes on.
+struct CuadroInforme {
+    ProyectoActual proyecto;
+    VigaActual viga;
+    ResultadosViga resultados;
+    EstadoPloteos vista;
+};
+
+GraficoPintado PintarCuadro(CuadroInforme& c) {
+    LienzoImagen lienzo(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
+    lienzo.Cls();
+    GraficoPintado grafico;
+    grafico.Aviso = Avisando(
+        [&] { PlotearViga(lienzo, c.vista, c.proyecto, c.viga, c.resultados); }, MensajeFalla);
+    grafico.Png = CodificarPng(lienzo.Imagen());
+    return grafico;
+}
+
+} // namespace
+
 PasosInforme PasosPrograma(ModeloInforme& m, Dialogos& dialogos) {
     PasosInforme pasos;
-    pasos.CargarViga = [&m, &dialogos](const std::string& nombre) {
+    pasos.CargarViga = [&m](const std::string& nombre) {
         m.viga.NombreVigaActual = nombre;
-        try {
-            LeerViga(m.estado, m.viga);
-        } catch (const ErrorTrevalo& e) {
-            dialogos.Mensaje(MensajeError(e));
-        }
+        return Avisando([&] { LeerViga(m.estado, m.viga); }, MensajeError);
     };
-    pasos.Analizar = [&m, &dialogos] {
-        try {
-            AnalizarViga(LectorGeneralProyecto(*m.estado.BDProyecto), m.proyecto, m.viga,
-                         m.resultados);
-        } catch (const ErrorTrevalo& e) {
-            dialogos.Mensaje(MensajeFalla(e));
-        }
+    pasos.Analizar = [&m] {
+        return Avisando(
+            [&] {
+                AnalizarViga(LectorGeneralProyecto(*m.estado.BDProyecto), m.proyecto, m.viga,
+                             m.resultados);
+            },
+            MensajeFalla);
     };
-    pasos.Pintar = [&m, &dialogos](VistaInforme paso) {
+    pasos.Preparar = [&m](VistaInforme paso) -> TrabajoGrafico {
         VistaDeInforme(m.vista, paso);
-        LienzoImagen lienzo(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
-        lienzo.Cls();
-        try {
-            PlotearViga(lienzo, m.vista, m.proyecto, m.viga, m.resultados);
-        } catch (const ErrorTrevalo& e) {
-            dialogos.Mensaje(MensajeFalla(e));
-        }
-        return CodificarPng(lienzo.Imagen());
+        auto cuadro = std::make_shared<CuadroInforme>(
+            CuadroInforme{m.proyecto, m.viga, m.resultados, m.vista});
+        return [cuadro] { return PintarCuadro(*cuadro); };
     };
+    pasos.Avisar = [&dialogos](const Pregunta& aviso) { dialogos.Mensaje(aviso); };
     return pasos;
 }
 

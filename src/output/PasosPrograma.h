@@ -39,7 +39,8 @@ void VistaDeInforme(EstadoPloteos& vista, VistaInforme paso);
 // Load, solve and paint bound to the model. A bad beam shows the store's message
 // (MensajeError); a fault of the analysis or of the painting shows MensajeFalla; then the walk
 // goes on with what the model and the canvas hold: a beam that cannot be solved is painted
-// with no results. Progress and panel are left to the caller.
+// with no results. A picture is painted from a copy of the model taken when it is prepared,
+// so the model keeps no transform of a painting. Progress and panel are left to the caller.
 PasosInforme PasosPrograma(ModeloInforme& modelo, Dialogos& dialogos);
 
 } // namespace trevalo

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "store/CicloProyecto.h"
+
 namespace trevalo {
 
 namespace {
@@ -34,15 +36,18 @@ std::int16_t PosicionVigaInforme(BaseDatos& bd, const std::vector<std::string>& 
 }
 
 void LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
-                           const OpcionesImpresion& opciones, const std::string& carpetaPrograma,
-                           const std::string& rutaTemporal, const std::string& version,
+                           const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
+                           const std::string& carpetaPrograma, const std::string& rutaTemporal,
+                           const std::string& version,
                            const std::function<void(const std::string&, double)>& progreso) {
+    std::error_code ec;
     std::filesystem::copy_file(carpetaPrograma + "/Imagen/Temporal.kvl", rutaTemporal,
-                               std::filesystem::copy_options::overwrite_existing);
+                               std::filesystem::copy_options::overwrite_existing, ec);
+    if (ec) throw ErrorArchivo(ec);
     auto pasos = PasosPrograma(modelo, dialogos);
     pasos.Progreso = progreso;
-    LlenarImpreDatos(rutaTemporal, FilaGeneralesDe(modelo.proyecto, Usuario(), version),
-                     ListaVigasInforme(modelo.estado), opciones, pasos);
+    LlenarImpreDatos(rutaTemporal, FilaGeneralesDe(modelo.proyecto, Usuario(), version), vigas,
+                     opciones, pasos, HilosPintura());
 }
 
 } // namespace trevalo

@@ -23,14 +23,15 @@ std::int16_t PosicionVigaInforme(BaseDatos& bd, const std::vector<std::string>& 
 
 // Copies the installation's empty report database, carpetaPrograma + "/Imagen/Temporal.kvl",
 // to `rutaTemporal` (replacing a file there) and fills it with the project's settings, the
-// user's name, `version`, and the pictures of the beams of ListaVigasInforme chosen by
-// `opciones`. `progreso` receives the label and value of the progress bar. The model's
-// settings are those of the project (LeerGeneralProyecto) and the project has beams; the
-// model is left as PasosPrograma leaves it. Errors as LlenarImpreDatos; a missing template
-// raises the library's filesystem error.
+// user's name, `version`, and the pictures of the beams of `vigas` (the list of the project
+// window, or ListaVigasInforme) chosen by `opciones`. `progreso` receives the label and value of
+// the progress bar. The model's settings are those of the project (LeerGeneralProyecto) and the
+// project has beams; the model is left as PasosPrograma leaves it. Errors as LlenarImpreDatos; a
+// template that cannot be copied raises the store's file error (ErrorArchivo).
 void LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
-                           const OpcionesImpresion& opciones, const std::string& carpetaPrograma,
-                           const std::string& rutaTemporal, const std::string& version,
+                           const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
+                           const std::string& carpetaPrograma, const std::string& rutaTemporal,
+                           const std::string& version,
                            const std::function<void(const std::string&, double)>& progreso);
 
 } // namespace trevalo

@@ -129,13 +129,19 @@ ArchivoElegido DialogosQt::Archivo(const DialogoArchivo& d) {
     dialogo.setFileMode(d.Modo == ModoDialogo::Salvar || d.CrearSiFalta
                             ? QFileDialog::AnyFile
                             : QFileDialog::ExistingFile);
-    // The questions about an existing file are the program's own.
-    dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+    // The questions about an existing file are the program's own, unless it asks the dialog.
+    dialogo.setOption(QFileDialog::DontConfirmOverwrite, !d.PreguntarReemplazo);
     const QStringList filtros = FiltrosQt(d.Filtro);
     dialogo.setNameFilters(filtros);
     if (d.IndiceFiltro >= 1 && d.IndiceFiltro <= filtros.size())
         dialogo.selectNameFilter(filtros[d.IndiceFiltro - 1]);
     dialogo.setDefaultSuffix(SufijoDeFiltro(d.Filtro, d.IndiceFiltro));
+    // A name typed without extension takes that of the filter in view.
+    QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
+                     [&dialogo, &d, &filtros](const QString& filtro) {
+                         dialogo.setDefaultSuffix(SufijoDeFiltro(
+                             d.Filtro, static_cast<int>(filtros.indexOf(filtro)) + 1));
+                     });
     if (!d.Nombre.empty()) dialogo.selectFile(Qs(d.Nombre));
     for (;;) {
         if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};

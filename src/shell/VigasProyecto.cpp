@@ -15,9 +15,13 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/OperacionesVista.h"
+#include "output/ProgramaInforme.h"
+#include "shell/CristalReport.h"
 #include "shell/EsquinaNo.h"
 #include "shell/ExportarCAD.h"
 #include "shell/Iconos.h"
+#include "shell/ImpreReport.h"
+#include "shell/ImpreVigas.h"
 #include "shell/NuevaViga.h"
 #include "shell/PantallaViga.h"
 #include "shell/Renombrar.h"
@@ -240,7 +244,7 @@ QWidget* VigasProyecto::CrearBotones() {
     connect(botones_[QStringLiteral("LSButton22")], &QPushButton::clicked, this,
             &VigasProyecto::EliminarVigaSeleccionada);
     connect(botones_[QStringLiteral("LSButton15")], &QPushButton::clicked, this,
-            [this] { Pendiente(QStringLiteral("Exportar Resultados")); });
+            &VigasProyecto::ExportarResultados);
     connect(botones_[QStringLiteral("KorvelButton1")], &QPushButton::clicked, this,
             [this] { Despachar(QStringLiteral("ID_KorvelCAD")); });
     connect(botones_[QStringLiteral("LSButton2")], &QPushButton::clicked, this, &QDialog::reject);
@@ -481,29 +485,19 @@ void VigasProyecto::MostrarEditor() {
     editor.exec();
 }
 
-void VigasProyecto::RestaurarVigaActiva(bool pestanaUno) {
+void VigasProyecto::RestaurarVigaActiva(int pestana) {
     auto& vista = programa_.Vista;
     Tomar(FilaActiva());
     vista.ModoEditor = false;
     Vista();
     vista.VerJuntas = false;
     programa_.SinFocoCanvas = false;
-    if (pestanaUno) {
-        vista.VerDiagramas = vista.VerDiseno = false;
-        ElegirPestana(1);
-    }
+    ElegirPestana(pestana);
     pantalla_->ZoomExtents();
 }
 
 void VigasProyecto::RestaurarTrasRecorrido() {
-    auto& vista = programa_.Vista;
-    vista.ModoEditor = false;
-    if (Filas() > 0) Tomar(FilaActiva());
-    Vista();
-    vista.VerJuntas = false;
-    programa_.SinFocoCanvas = false;
-    ElegirPestana(Pestana());
-    if (Filas() > 0) pantalla_->ZoomExtents();
+    if (Filas() > 0) RestaurarVigaActiva(Pestana());
     programa_.Estado.DialogoAceptado = false;
     pantalla_->setFocus();
 }
@@ -534,7 +528,7 @@ void VigasProyecto::CrearViga() {
     AgregarUltimaFila();
     programa_.Viga.VigaNueva = true;
     MostrarEditor();
-    RestaurarVigaActiva(true);
+    RestaurarVigaActiva(1);
     estado.BeamNuevo = false;
 }
 
@@ -604,7 +598,7 @@ void VigasProyecto::CopiarVigaSeleccionada() {
     }
     if (programa_.Estado.DialogoAceptado) {
         AgregarUltimaFila();
-        RestaurarVigaActiva(true);
+        RestaurarVigaActiva(1);
         programa_.Estado.DialogoAceptado = false;
     }
     pantalla_->setFocus();
@@ -672,6 +666,47 @@ void VigasProyecto::EliminarVigaSeleccionada() {
         Pintar();
     }
     pantalla_->setFocus();
+}
+
+void VigasProyecto::ExportarResultados() {
+    if (Filas() == 0) return;
+    {
+        ImpreVigas dialogo(programa_, NombresLista(), this);
+        dialogo.exec();
+    }
+    if (programa_.Vista.FactorZoom != 1.0) {
+        Vista();
+        Pintar();
+    }
+    // The settings of the last acceptance are in force also when the dialog was cancelled.
+    LlenarImpreDatos();
+    {
+        ImpreReport dialogo(programa_, this);
+        dialogo.exec();
+    }
+    // The walk left the last beam reported in the model.
+    RestaurarTrasRecorrido();
+}
+
+void VigasProyecto::LlenarImpreDatos() {
+    const RelojDeArena reloj;
+    ModeloInforme modelo{programa_.Estado, programa_.Proyecto, programa_.Viga, programa_.Resultados,
+                         programa_.Vista};
+    const auto progreso = [this](const std::string& etiqueta, double valor) {
+        lsPanelP_->show();
+        lsPanelP_->raise();
+        lsLabel4_->setText(Qs(etiqueta));
+        progressBar1_->setValue(std::min(100, static_cast<int>(valor + 0.5)));
+        lsPanelP_->repaint();
+    };
+    try {
+        LlenarInformePrograma(modelo, programa_.Dialogo(), NombresLista(), programa_.Impresion,
+                              programa_.Carpetas.RutaPrograma, RutaTemporal(programa_.Carpetas),
+                              programa_.Carpetas.VersionPrograma, progreso);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    lsPanelP_->hide();
 }
 
 void VigasProyecto::AbrirProyectoVentana() {

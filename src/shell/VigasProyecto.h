@@ -92,13 +92,18 @@ class VigasProyecto : public QDialog {
     void AgregarUltimaFila();
     // The nine updates of a rename, then the list in name order on its first beam.
     void RenombrarVigaSeleccionada();
-    // Back from the editor or a dialog: the beam of the active row read again, the view reset.
-    void RestaurarVigaActiva(bool pestanaUno);
     // Back from a walk over the beams (report, export): the beam of the active row read again
     // and solved as the tab in front needs, the view reset and zoomed to the whole beam.
     void RestaurarTrasRecorrido();
     // The export to the drawing program's project.
     void ExportaVigasCAD();
+    // Back from the editor or a dialog: the beam of the active row read again, the view reset,
+    // on the tab given with its flags, solved.
+    void RestaurarVigaActiva(int pestana);
+    // The report command: which beams, the report database filled with the progress on the
+    // panel, the kind of output; then the beam on screen as it was.
+    void ExportarResultados();
+    void LlenarImpreDatos();
 
     Programa& programa_;
     bool cargando_ = true;

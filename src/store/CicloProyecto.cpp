@@ -81,6 +81,8 @@ bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpe
     return true;
 }
 
+} // namespace
+
 ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
     if (ec == std::errc::no_such_file_or_directory)
         return ErrorTrevalo(ErrArchivoNoEncontrado, "No se encontró el archivo");
@@ -88,8 +90,6 @@ ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
         return ErrorTrevalo(ErrPermisoDenegado, "Permiso denegado");
     return ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
 }
-
-} // namespace
 
 bool ExisteArchivoDisco(const std::string& ruta) {
     std::error_code ec;

@@ -30,13 +30,20 @@ struct Recorrido {
         p.CargarViga = [this](const std::string& n) {
             viga = n;
             pasos.push_back("cargar " + n);
+            return std::optional<Pregunta>();
         };
-        p.Analizar = [this] { pasos.push_back("analizar " + viga); };
-        p.Pintar = [this](VistaInforme v) {
-            if (viga == fallaEn) throw ErrorTrevalo(11, "División por cero");
+        p.Analizar = [this] {
+            pasos.push_back("analizar " + viga);
+            return std::optional<Pregunta>();
+        };
+        p.Preparar = [this](VistaInforme v) -> TrabajoGrafico {
             const std::string marca = viga + "/" + std::to_string(static_cast<int>(v));
-            pasos.push_back("pintar " + marca);
-            return std::vector<std::uint8_t>(marca.begin(), marca.end());
+            const bool falla = viga == fallaEn;
+            return [this, marca, falla] {
+                if (falla) throw ErrorTrevalo(11, "División por cero");
+                pasos.push_back("pintar " + marca);
+                return GraficoPintado{{marca.begin(), marca.end()}, std::nullopt};
+            };
         };
         p.Panel = [this](bool visible) { panel.push_back(visible); };
         p.Progreso = [this](const std::string& e, double v) { progreso.emplace_back(e, v); };

@@ -39,12 +39,13 @@ class ProgramaInformeTest : public BaseTemporalTest {
 
     // Runs the fill on the project with the given options; returns the messages shown.
     std::vector<std::string> Llenar(const std::vector<std::string>& vigas,
-                                    const OpcionesImpresion& opciones) {
+                                    const OpcionesImpresion& opciones, int hilos = 1) {
         estado.BDProyecto = BaseDatos::Abrir(proyecto);
         LeerGeneralProyecto(*estado.BDProyecto, ajustes);
         prueba::DialogosGuion dialogos;
         auto pasos = PasosPrograma(modelo, dialogos);
-        LlenarImpreDatos(ruta, FilaGeneralesDe(ajustes, "usuario", "6.0"), vigas, opciones, pasos);
+        LlenarImpreDatos(ruta, FilaGeneralesDe(ajustes, "usuario", "6.0"), vigas, opciones, pasos,
+                         hilos);
         std::vector<std::string> avisos;
         for (const auto& p : dialogos.preguntas) avisos.push_back(p.Titulo + "|" + p.Texto);
         return avisos;
@@ -131,6 +132,34 @@ TEST_F(ProgramaInformeTest, ABeamThatCannotBeSolvedIsToldAndTheWalkGoesOn) {
     ASSERT_EQ(c.Graficos.size(), 6u);
     for (const auto& g : c.Graficos) EXPECT_FALSE(DecodificarPng(g.Grafico).isNull());
     EXPECT_GT(Tinta(DecodificarPng(c.Graficos[4].Grafico)), 0.005); // V-3 is drawn
+}
+
+// Painting on several threads stores the very bytes of a painting one by one, in the same
+// order, and shows the same messages in the same order.
+TEST_F(ProgramaInformeTest, PaintingOnSeveralThreadsStoresTheSamePicturesInTheSameOrder) {
+    auto mala = VigaPrueba("V-3 mala", 0);
+    mala.LT(1) = 0;
+    std::vector<VigaActual> vigas;
+    std::vector<std::string> nombres;
+    for (int i = 0; i < 7; ++i) {
+        vigas.push_back(i == 2 ? mala : VigaPrueba("V-" + std::to_string(i + 1), i));
+        nombres.push_back(vigas.back().NombreVigaActual);
+    }
+    CrearProyecto(proyecto, vigas, AjustesPrueba());
+    const auto avisosUno = Llenar(nombres, {0, 1, 1}, 1);
+    const auto uno = LeerBaseInforme(ruta);
+    ASSERT_EQ(uno.Graficos.size(), 21u);
+    ASSERT_FALSE(avisosUno.empty());
+    for (const int hilos : {2, 3}) {
+        EXPECT_EQ(Llenar(nombres, {0, 1, 1}, hilos), avisosUno) << hilos;
+        const auto varios = LeerBaseInforme(ruta);
+        ASSERT_EQ(varios.Graficos.size(), uno.Graficos.size());
+        for (std::size_t k = 0; k < uno.Graficos.size(); ++k) {
+            EXPECT_EQ(varios.Graficos[k].Numero, uno.Graficos[k].Numero);
+            EXPECT_TRUE(varios.Graficos[k].Grafico == uno.Graficos[k].Grafico)
+                << "picture " << k + 1 << " with " << hilos << " threads";
+        }
+    }
 }
 
 } // namespace

@@ -18,6 +18,7 @@
 #include "comun/DialogosGuion.h"
 #include "shell/Programa.h"
 #include "shell/TextoQt.h"
+#include "shell/VigasProyecto.h"
 
 namespace trevalo::prueba {
 
@@ -121,6 +122,15 @@ inline void Escribir(QWidget& ventana, const char* campo, const QString& texto) 
 
 inline void Pulsar(QWidget& ventana, const char* boton) {
     QTest::mouseClick(Control<QPushButton>(ventana, boton), Qt::LeftButton);
-}
+    // The project window on a project of the data folder, on screen.
+    inline std::unique_ptr<VigasProyecto> VentanaProyecto(ProgramaPrueba & p,
+                                                          const std::string& proyecto) {
+        p.programa.Estado.NombreProyecto = proyecto;
+        auto v = std::make_unique<VigasProyecto>(p.programa);
+        v->show();
+        if (!QTest::qWaitForWindowExposed(v.get()))
+            QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
+        return v;
+    }
 
 } // namespace trevalo::prueba

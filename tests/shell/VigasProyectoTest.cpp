@@ -58,16 +58,6 @@ std::vector<std::string> VigasEnArchivo(Programa& programa) {
     return nombres;
 }
 
-// The project window on a project of the data folder, on screen.
-std::unique_ptr<VigasProyecto> Abrir(ProgramaPrueba& p, const std::string& proyecto) {
-    p.programa.Estado.NombreProyecto = proyecto;
-    auto v = std::make_unique<VigasProyecto>(p.programa);
-    v->show();
-    if (!QTest::qWaitForWindowExposed(v.get()))
-        QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
-    return v;
-}
-
 bool Habilitada(VigasProyecto& v, const char* clave) {
     return v.Accion(QString::fromUtf8(clave))->isEnabled();
 }
@@ -80,7 +70,7 @@ class VigasProyectoTest : public QObject {
   private slots:
     void RecorreLasVigasYLasPestanas() {
         ProgramaPrueba p;
-        auto ventana = Abrir(p, Ejemplo);
+        auto ventana = VentanaProyecto(p, Ejemplo);
         VigasProyecto& v = *ventana;
 
         QCOMPARE(v.windowTitle(),
@@ -140,7 +130,7 @@ class VigasProyectoTest : public QObject {
 
     void CreaCopiaRenombraYEliminaVigas() {
         ProgramaPrueba p;
-        auto ventana = Abrir(p, Ejemplo);
+        auto ventana = VentanaProyecto(p, Ejemplo);
         VigasProyecto& v = *ventana;
         auto* anterior = v.findChild<QPushButton*>(QStringLiteral("BtoMove0"));
         auto* siguiente = v.findChild<QPushButton*>(QStringLiteral("BtoMove1"));
@@ -214,7 +204,7 @@ class VigasProyectoTest : public QObject {
 
     void ElLienzoSigueTeclasRuedaYHerramientas() {
         ProgramaPrueba p;
-        auto ventana = Abrir(p, Ejemplo);
+        auto ventana = VentanaProyecto(p, Ejemplo);
         VigasProyecto& v = *ventana;
         auto& vista = p.programa.Vista;
         PantallaViga& lienzo = v.Lienzo();
@@ -279,7 +269,7 @@ class VigasProyectoTest : public QObject {
         const std::string vacio = p.programa.Carpetas.RutaProyectos + "/Vacío.trv";
         QVERIFY(QFile::copy(Qs(p.programa.Carpetas.RutaPrograma + "/Imagen/ImagenViga.kvl"),
                             Qs(vacio)));
-        auto ventana = Abrir(p, "Vacío.trv");
+        auto ventana = VentanaProyecto(p, "Vacío.trv");
         VigasProyecto& v = *ventana;
         QCOMPARE(v.Filas(), 0);
         QVERIFY(!HayDibujo(v.Lienzo()));
@@ -301,7 +291,7 @@ class VigasProyectoTest : public QObject {
         BaseDatos::Abrir(ruta).Ejecutar(
             "UPDATE JuntasRestringidas SET R1=99 WHERE NombreViga=? AND R1=1",
             {std::string("V-101 Entrepiso Eje B")});
-        auto ventana = Abrir(p, Ejemplo);
+        auto ventana = VentanaProyecto(p, Ejemplo);
         VigasProyecto& v = *ventana;
         v.BtoMove_Click(1); // V-101: its support on a joint it lacks faults the drawing too
         const Pregunta falla{"El subíndice está fuera del intervalo    ", "Error Número: 9",

@@ -122,6 +122,7 @@ void Recorrido(Programa& programa) {
         QStringLiteral("12_mensaje"));
     CapturasPerfiles(programa, ventana);
     CapturasExportar(programa, ventana);
+    CapturasInformes(programa, ventana);
     ventana.hide();
     CapturasAjustes(programa, menu);
     menu.close();

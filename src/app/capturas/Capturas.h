@@ -35,5 +35,8 @@ void CapturasPerfiles(Programa& programa, QWidget& padre);
 void CapturasAjustes(Programa& programa, MenuP& menu);
 // The export to the drawing program, from the project window on the sample project.
 void CapturasExportar(Programa& programa, VigasProyecto& ventana);
+// The report windows: the print dialog, the output kinds and the viewer on the sample
+// project's report (its head and a picture), over the project window on screen.
+void CapturasInformes(Programa& programa, VigasProyecto& ventana);
 
 } // namespace trevalo

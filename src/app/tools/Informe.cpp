@@ -126,7 +126,7 @@ int Informe(const PedidoInforme& pedido, std::ostream& salida, std::ostream& err
     EstadoPloteos vista;
     ModeloInforme modelo{estado, proyecto, viga, resultados, vista};
     DialogosConsola dialogos(errores);
-    LlenarInformePrograma(modelo, dialogos, opciones, RutaPrograma().string(), temporal,
+    LlenarInformePrograma(modelo, dialogos, vigas, opciones, RutaPrograma().string(), temporal,
                           TREVALO_VERSION, [&errores](const std::string& etiqueta, double valor) {
                               errores << etiqueta << " (" << static_cast<int>(valor + 0.5)
                                       << " %)\n";

@@ -1,0 +1,65 @@
+#include "shell/ImpreReport.h"
+
+#include <QDesktopServices>
+#include <QRadioButton>
+#include <QUrl>
+
+#include "shell/CristalReport.h"
+#include "shell/TextoQt.h"
+#include "shell/VerReportes.h"
+#include "ui_ImpreReport.h"
+
+namespace trevalo {
+
+ImpreReport::ImpreReport(Programa& programa, QWidget* parent)
+    : QDialog(parent), programa_(programa), ui_(std::make_unique<Ui::ImpreReport>()) {
+    ui_->setupUi(this);
+    for (const auto& s : SalidasInforme) {
+        auto* opcion = new QRadioButton(QString::fromUtf8(s.Leyenda), ui_->Frame1);
+        opcion->setObjectName(QString::fromUtf8(s.Opcion));
+        ui_->opciones->addWidget(opcion);
+        opciones_.push_back(opcion);
+    }
+    opciones_.front()->setChecked(true);
+    connect(ui_->Command1, &QPushButton::clicked, this, &ImpreReport::Aceptar);
+    connect(ui_->Directorio, &QPushButton::clicked, this, [this] { ExplorarReportes(programa_); });
+}
+
+ImpreReport::~ImpreReport() = default;
+
+void ImpreReport::Aceptar() {
+    for (std::size_t i = 0; i < opciones_.size(); ++i)
+        if (opciones_[i]->isChecked()) programa_.TipoSalida = static_cast<std::uint8_t>(i);
+    const SalidaInforme& salida = SalidasInforme.at(programa_.TipoSalida);
+    ArchivoElegido archivo;
+    if (salida.Archivo) {
+        archivo = programa_.Dialogo().Archivo(DialogoSalida(programa_, salida));
+        if (archivo.Cancelado) return;
+    }
+    hide();
+    try {
+        Salida(archivo);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    programa_.TipoSalida = 0;
+    accept();
+}
+
+void ImpreReport::Salida(const ArchivoElegido& archivo) {
+    const auto contenido = AbrirReporte(programa_);
+    const SalidaInforme& salida = SalidasInforme.at(programa_.TipoSalida);
+    if (programa_.TipoSalida == 0) {
+        VerReportes visor(programa_, contenido, parentWidget());
+        visor.exec();
+        return;
+    }
+    if (!salida.Archivo) return AsistenteExportacion(programa_, contenido);
+    if (!EscribirReporte(programa_, contenido, archivo.FileName, *salida.Archivo)) return;
+    if (programa_.Dialogo().Mensaje({PreguntaAbrirArchivo(archivo.FileTitle),
+                                     "Abrir el Archivo Exportado", BotonesMensaje::SiNo,
+                                     IconoMensaje::Pregunta, 1}) == RespuestaSi)
+        QDesktopServices::openUrl(QUrl::fromLocalFile(Qs(archivo.FileName)));
+}
+
+} // namespace trevalo
