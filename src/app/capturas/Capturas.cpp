@@ -11,6 +11,7 @@
 #include <functional>
 #include <iostream>
 
+#include "CapturasEditor.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
@@ -21,7 +22,6 @@
 #include "shell/Splash.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
-#include "shell/VigaDatos.h"
 #include "shell/VigaSalvarComo.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
@@ -97,9 +97,8 @@ void Recorrido(Programa& programa) {
     if (QWidget* globo = ventana.ToolTip().Globo()) Guardar(*globo, QStringLiteral("05_tooltip"));
     ventana.ToolTip().Ocultar();
 
-    VigaDatos editor(programa, &ventana);
-    Capturar(editor, QStringLiteral("06_editor"));
-    programa.Vista.ModoEditor = false;
+    CapturasEditor(programa, ventana,
+                   [](QWidget& w, const QString& nombre) { Guardar(w, nombre); });
 
     DatosG datos(programa, &menu);
     Capturar(datos, QStringLiteral("07_datos_generales"));
