@@ -446,15 +446,13 @@ QWidget* VigaDatos::PaginaAcotamiento() {
 QWidget* VigaDatos::CrearPaginas() {
     tab1_ = new QTabWidget(this);
     tab1_->setObjectName(QStringLiteral("Tab1"));
-    const std::pair<QWidget*, const char*> paginas[] = {
-        {PaginaTramos(), "Tramos"},          {PaginaDesplazadas(), "Desplazadas"},
-        {PaginaRestringidas(), "Apoyos"},    {PaginaResortes(), "Resortes"},
-        {PaginaTiposConcreto(), "Tipos"},    {PaginaTiposMetalicos(), "Perfiles"},
-        {PaginaCargas(), "Cargas"},          {PaginaAcciones(), "Acciones"},
-        {PaginaAcotamiento(), "Acotamiento"}};
-    int i = 0;
-    for (const auto& [pagina, titulo] : paginas)
-        tab1_->addTab(pagina, QStringLiteral("%1 %2").arg(++i).arg(QString::fromUtf8(titulo)));
+    for (QWidget* pagina : {PaginaTramos(), PaginaDesplazadas(), PaginaRestringidas(),
+                            PaginaResortes(), PaginaTiposConcreto(), PaginaTiposMetalicos(),
+                            PaginaCargas(), PaginaAcciones(), PaginaAcotamiento()}) {
+        // The tab shows the page's number; its frame says what the page holds.
+        const int i = tab1_->addTab(pagina, QString::number(tab1_->count() + 1));
+        tab1_->setTabToolTip(i, static_cast<QGroupBox*>(pagina)->title());
+    }
     // The pages follow the moves, not a click on their tabs.
     tab1_->tabBar()->setAttribute(Qt::WA_TransparentForMouseEvents);
     tab1_->tabBar()->setFocusPolicy(Qt::NoFocus);

@@ -1,9 +1,7 @@
 #include "CapturasEditor.h"
 
 #include <QPushButton>
-#include <QTableWidget>
 
-#include "shell/DelegadosCelda.h"
 #include "shell/VigaDatos.h"
 #include "shell/VigasProyecto.h"
 
@@ -18,12 +16,8 @@ void Paginas(VigaDatos& editor, const QString& prefijo,
     auto* siguiente = editor.findChild<QPushButton*>(QStringLiteral("Button2"));
     for (;;) {
         const int pagina = editor.Pagina();
-        if (pagina == 7) // two spans marked for loads, in their colour
-            for (int fila : {1, 2})
-                if (fila <= editor.Spread(10).rowCount()) {
-                    MarcarCelda(editor.Spread(10), fila, 1, true);
-                    ColorFila(editor.Spread(10), fila, 0xB9ECFF);
-                }
+        if (pagina == 7) // every span marked for loads, in its colour
+            editor.findChild<QPushButton*>(QStringLiteral("SSCommand1"))->click();
         guardar(editor, prefijo + QStringLiteral("_pagina%1").arg(pagina));
         if (!siguiente->isEnabled()) break;
         siguiente->click();
