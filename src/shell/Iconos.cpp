@@ -1,13 +1,17 @@
 #include "shell/Iconos.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
 #include <QStyle>
+#include <QToolBar>
 #include <cmath>
 #include <functional>
 #include <map>
+
+#include "shell/PantallaViga.h"
 
 namespace trevalo {
 
@@ -175,6 +179,31 @@ QIcon IconoHerramienta(const QString& clave) {
     };
     const auto i = iconos.find(clave);
     return i == iconos.end() ? QIcon() : i->second();
+}
+
+QToolBar* BarraHerramientas(QWidget& ventana, std::span<const Herramienta> herramientas,
+                            PantallaViga& pantalla,
+                            const std::function<void(const QString&)>& despachar,
+                            std::initializer_list<const char*> separarTras,
+                            std::map<QString, QAction*>& acciones) {
+    auto* barra = new QToolBar(&ventana);
+    barra->setObjectName(QStringLiteral("ToolBar1"));
+    barra->setIconSize(QSize(24, 24));
+    for (const Herramienta& h : herramientas) {
+        const QString clave = QString::fromUtf8(h.clave);
+        QAction* a = barra->addAction(IconoHerramienta(clave), QString::fromUtf8(h.titulo));
+        a->setObjectName(clave);
+        a->setCheckable(h.presionable);
+        if (clave == QStringLiteral("ID_PanRealtime"))
+            pantalla.FijarHerramientaPan(a);
+        else
+            QObject::connect(a, &QAction::triggered, &ventana,
+                             [despachar, clave] { despachar(clave); });
+        acciones[clave] = a;
+        for (const char* tras : separarTras)
+            if (clave == QString::fromUtf8(tras)) barra->addSeparator();
+    }
+    return barra;
 }
 
 } // namespace trevalo

@@ -16,8 +16,8 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTableWidget>
 #include <QToolBar>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "drawing/OperacionesVista.h"
@@ -52,12 +52,6 @@ template <typename... A> void Preservar(long n, A&... a) {
 
 // The grid that a count box sizes, and the grid its Return leads to.
 constexpr int GridDeLong[8] = {0, 2, 3, 4, 5, 6, 8, 11};
-
-struct Herramienta {
-    const char* clave;
-    const char* titulo;
-    bool presionable;
-};
 
 const Herramienta Herramientas[] = {
     {"ID_ZoomIN", "Acercar", false},
@@ -495,22 +489,9 @@ QWidget* VigaDatos::CrearPie() {
 }
 
 QWidget* VigaDatos::CrearHerramientas() {
-    auto* barra = new QToolBar(this);
-    barra->setObjectName(QStringLiteral("ToolBar1"));
-    barra->setIconSize(QSize(24, 24));
-    for (const Herramienta& h : Herramientas) {
-        const QString clave = QString::fromUtf8(h.clave);
-        QAction* a = barra->addAction(IconoHerramienta(clave), QString::fromUtf8(h.titulo));
-        a->setObjectName(clave);
-        a->setCheckable(h.presionable);
-        if (clave == QStringLiteral("ID_PanRealtime"))
-            pantalla_->FijarHerramientaPan(a);
-        else
-            connect(a, &QAction::triggered, this, [this, clave] { Despachar(clave); });
-        acciones_[clave] = a;
-        if (clave == QStringLiteral("ID_NJuntas")) barra->addSeparator();
-    }
-    return barra;
+    return BarraHerramientas(
+        *this, Herramientas, *pantalla_, [this](const QString& clave) { Despachar(clave); },
+        {"ID_NJuntas"}, acciones_);
 }
 
 void VigaDatos::ConfigurarToolTips() {
@@ -833,18 +814,23 @@ void VigaDatos::ValorLong1(long valor) {
     Redibujar();
 }
 
-void VigaDatos::ValorLong5(long valor) {
+void VigaDatos::CuentaTipos(int caja, long valor) {
     VigaActual& v = programa_.Viga;
     v.NTipos = static_cast<std::int16_t>(valor);
     if (valor == 0) {
         v.NTipos = 1;
-        MostrarCuenta(5);
+        MostrarCuenta(caja);
         v.VT.Redim(v.NT);
         for (long i = 1; i <= v.NT; ++i) v.VT(i) = 1.0;
     }
     for (long i = 1; i <= v.NT; ++i)
         if (v.VT(i) > v.NTipos) v.VT(i) = 1.0;
     Preservar(v.NTipos, v.B1, v.T1);
+}
+
+void VigaDatos::ValorLong5(long valor) {
+    VigaActual& v = programa_.Viga;
+    CuentaTipos(5, valor);
     // Designations follow the joints on this page, not the types (types beyond have none,
     // while the list still covers every type so that the beam can be saved).
     v.Designacion.RedimPreserve(std::max<long>(v.NT + 1, v.NTipos));
@@ -858,17 +844,8 @@ void VigaDatos::ValorLong5(long valor) {
 }
 
 void VigaDatos::ValorLong6(long valor) {
-    VigaActual& v = programa_.Viga;
-    v.NTipos = static_cast<std::int16_t>(valor);
-    if (valor == 0) {
-        v.NTipos = 1;
-        MostrarCuenta(6);
-        v.VT.Redim(v.NT);
-        for (long i = 1; i <= v.NT; ++i) v.VT(i) = 1.0;
-    }
-    for (long i = 1; i <= v.NT; ++i)
-        if (v.VT(i) > v.NTipos) v.VT(i) = 1.0;
-    Preservar(v.NTipos, v.B1, v.T1, v.Designacion);
+    CuentaTipos(6, valor);
+    programa_.Viga.Designacion.RedimPreserve(programa_.Viga.NTipos);
     LlenarSpread(8);
     LlenarSpread(9);
 }

@@ -99,6 +99,8 @@ class VigaDatos : public QDialog {
     void TerminarLong(int n, bool retorno);
     void ValorLong(int n);
     void ValorLong1(long valor);
+    // The count of types in box 5 or 6: at least one, spans of a type beyond it on type 1.
+    void CuentaTipos(int caja, long valor);
     void ValorLong5(long valor);
     void ValorLong6(long valor);
 
