@@ -19,6 +19,7 @@
 #include "shell/CampoNumero.h"
 #include "shell/PantallaViga.h"
 #include "shell/VigaDatos.h"
+#include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
 
 using namespace trevalo;
@@ -432,6 +433,40 @@ class VigaDatosTest : public QObject {
         e.close();
         QVERIFY(!e.isVisible());
         QVERIFY(!p->programa.Vista.ModoEditor);
+    }
+
+    // From the project window, the moves to the next and previous beam ask about a changed
+    // beam with yes and no, then show the other beam; the moves follow the list's ends.
+    void MoverseEntreVigas() {
+        p->programa.Estado.NombreProyecto = "Ejemplo Demostrativo.trv";
+        VigasProyecto ventana(p->programa);
+        const auto nombres = ventana.NombresLista();
+        VigaDatos editor(p->programa, &ventana);
+        auto* anterior = Hijo<QPushButton>(editor, QStringLiteral("BtoMove0"));
+        auto* siguiente = Hijo<QPushButton>(editor, QStringLiteral("BtoMove1"));
+        QVERIFY(!anterior->isEnabled());
+        QVERIFY(siguiente->isEnabled());
+        editor.show();
+        QApplication::setActiveWindow(&editor);
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        Teclear(editor.Spread(2), 1, 1, {"7.5"});
+        dialogos().respuestas = {RespuestaNo};
+        QTest::mouseClick(siguiente, Qt::LeftButton);
+        const Pregunta pregunta{
+            "Viga: " + nombres[0] +
+                "        \nDesea Salvar las Modificaciones en la Viga?       \n",
+            "Datos Generales de la Viga", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1};
+        QCOMPARE(dialogos().preguntas, std::vector<Pregunta>{pregunta});
+        QCOMPARE(p->programa.Viga.NombreVigaActual, nombres[1]);
+        QCOMPARE(editor.windowTitle(), Qs("Datos Generales de la Viga: [ " + nombres[1] + " ]"));
+        QCOMPARE(ValorCelda(editor.Spread(2), 1, 1), p->programa.Viga.LT(1));
+        QVERIFY(!editor.Modificada());
+        QVERIFY(anterior->isEnabled());
+        QTest::mouseClick(anterior, Qt::LeftButton);
+        QCOMPARE(p->programa.Viga.NombreVigaActual, nombres[0]);
+        QVERIFY(p->programa.Viga.LT(1) != 7.5); // the edit was dropped
+        QCOMPARE(dialogos().preguntas.size(), std::size_t(1));
+        QVERIFY(p->programa.Vista.ModoEditor);
     }
 
     // Loads: with no span marked the load button warns; the band on the canvas marks spans;
