@@ -1,6 +1,7 @@
-// The project window as a person feels it: its opening on the sample project, a click on a
-// tab (solve and paint) on a beam of 20 spans with every load kind, and one step of a pan
-// with the mouse on a canvas of 1600 x 900.
+// The windows as a person feels them: the project window's opening on the sample project, a
+// click on a tab (solve and paint) on a beam of 20 spans with every load kind, and one step of
+// a pan with the mouse on a canvas of 1600 x 900; the beam editor's opening on that beam and
+// one cell typed in it (the cell's rule and the redraw on a canvas of 1600 x 900).
 
 #include <benchmark/benchmark.h>
 
@@ -14,6 +15,7 @@
 #include "shell/DialogosQt.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
+#include "shell/VigaDatos.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
 #include "store/CicloProyecto.h"
@@ -110,6 +112,46 @@ void PasoPan(benchmark::State& estado) {
     if (programa.Vista.PanX != x - 800) estado.SkipWithError("the pan did not follow the mouse");
 }
 BENCHMARK(PasoPan)->Unit(benchmark::kMillisecond);
+
+// The editor over the 20-span beam in the model, its canvas 1600 x 900.
+struct EditorBanco {
+    EditorBanco() {
+        p.programa.Viga = VigaTodasLasCargas(20);
+        p.programa.Viga.VigaNueva = false;
+    }
+    ProgramaBanco p;
+};
+
+void AbrirEditor(benchmark::State& estado) {
+    EditorBanco b;
+    for (auto _ : estado) {
+        VigaDatos editor(b.p.programa);
+        editor.Lienzo().setFixedSize(1600, 900);
+        editor.show();
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(editor.Lienzo().Imagen().constBits());
+    }
+}
+BENCHMARK(AbrirEditor)->Unit(benchmark::kMillisecond);
+
+// A length typed into the first span: the cell's rule, the model and the redraw.
+void EdicionCelda(benchmark::State& estado) {
+    EditorBanco b;
+    VigaDatos editor(b.p.programa);
+    editor.Lienzo().setFixedSize(1600, 900);
+    editor.show();
+    QApplication::processEvents();
+    DelegadoNumero& luces = Delegado(editor.Spread(2));
+    bool corta = false;
+    for (auto _ : estado) {
+        corta = !corta;
+        luces.Aplicar(1, 1, corta ? QStringLiteral("4.5") : QStringLiteral("5.5"));
+    }
+    if (b.p.programa.Viga.LT(1) != (corta ? 4.5 : 5.5))
+        estado.SkipWithError("the cell was refused");
+    estado.counters["ancho"] = editor.Lienzo().width();
+}
+BENCHMARK(EdicionCelda)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace trevalo

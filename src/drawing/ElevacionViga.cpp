@@ -537,6 +537,7 @@ void Elevacion::CargasJuntas() {
     const double f = CI((e_.VerJuntas ? 16 : 22) * k_);
     const double levante = CI(-2 * k_);
     for (long n = 1; n <= v_.NAcc; ++n) {
+        if (v_.R2(n) <= 0) continue;
         const double x = X(v_.R2(n)), y = Y(v_.R2(n));
         if (v_.QC1(n) != 0) Momento(x, y, v_.QC1(n));
         if (v_.QC2(n) != 0) FuerzaVertical(x, y, v_.QC2(n), levante + f);

@@ -15,6 +15,7 @@ void GeometriaPlot(VigaActual& viga, GeometriaJuntas& g) {
     }
     g.XPlot(n) = suma;
     for (long k = 1; k <= viga.NJDesp; ++k) {
+        if (viga.R3(k) <= 0) continue; // a row the editor added, its joint not yet typed
         g.XPlot(viga.R3(k)) += viga.XX(k);
         g.YPlot(viga.R3(k)) += viga.YY(k);
     }

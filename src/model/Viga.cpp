@@ -128,6 +128,16 @@ void RedimensionarViga(VigaActual& v) {
     v.TramoMarcado.Redim(nt);
 }
 
+void EliminarCargas(VigaActual& v) {
+    const long nt = v.NT;
+    const auto vaciar = [nt](auto&... a) { (a.Redim(nt), ...); };
+    const auto vaciar10 = [nt](auto&... a) { (a.Redim(nt, MaxCargas10), ...); };
+    const auto vaciar5 = [nt](auto&... a) { (a.Redim(nt, MaxCargas5), ...); };
+    vaciar(v.W1, v.W4, v.W5, v.la5, v.Gravedad, v.CantW2, v.CantW3, v.CantW6, v.CantW7, v.CantW8);
+    vaciar10(v.P, v.LP, v.W3_, v.La3_, v.Lb3_);
+    vaciar5(v.W6_, v.La6_, v.Lb6_, v.W7_, v.La7_, v.Lb7_, v.WIzq8_, v.WDer8_, v.La8_, v.Lb8_);
+}
+
 void LimpiarResultados(ResultadosViga& r) {
     r = ResultadosViga{};
 }

@@ -164,6 +164,9 @@ void ReiniciarArreglosViga(VigaActual& viga);
 // restraints, springs, displaced joints and joint actions are not touched.
 void RedimensionarViga(VigaActual& viga);
 
+// Removes every span load of spans 1..NT (the eight kinds, their counts and positions).
+void EliminarCargas(VigaActual& viga);
+
 // Empties the results: every list of zero length and NJuntas = 0.
 void LimpiarResultados(ResultadosViga& resultados);
 

@@ -98,12 +98,15 @@ QString DelegadoNumero::Texto(int fila, int columna, double valor) const {
                                carpetas.SeparadorMiles));
 }
 
-void DelegadoNumero::ColocarValor(int fila, int columna, double valor) {
+double DelegadoNumero::Mostrado(int fila, int columna, double valor) const {
     const auto& carpetas = programa_.Carpetas;
-    double mostrado = NumeroDeTexto(Std(Texto(fila, columna, valor)), carpetas.SeparadorDecimal,
-                                    carpetas.SeparadorMiles);
-    if (mostrado == 0.0) mostrado = 0.0;
-    Item(fila, columna).setData(Qt::EditRole, mostrado);
+    const double mostrado = NumeroDeTexto(Std(Texto(fila, columna, valor)),
+                                          carpetas.SeparadorDecimal, carpetas.SeparadorMiles);
+    return mostrado == 0.0 ? 0.0 : mostrado;
+}
+
+void DelegadoNumero::ColocarValor(int fila, int columna, double valor) {
+    Item(fila, columna).setData(Qt::EditRole, Mostrado(fila, columna, valor));
 }
 
 std::optional<double> DelegadoNumero::Leer(int fila, int columna, const QString& texto) const {
@@ -112,7 +115,7 @@ std::optional<double> DelegadoNumero::Leer(int fila, int columna, const QString&
     const auto valor = LeerNumero(texto, carpetas.SeparadorDecimal, carpetas.SeparadorMiles);
     const double minimo = formato->ConSigno ? MinimoConSigno : 0.0;
     if (!valor || *valor < minimo || *valor > Maximo) return std::nullopt;
-    return valor;
+    return Mostrado(fila, columna, *valor);
 }
 
 Veredicto DelegadoNumero::Entrar(int fila, int columna, const QString& texto) {

@@ -12,7 +12,8 @@
 //   1. the text is trimmed; a text that is not a number, or a number below the cell's
 //      minimum ("-99999999.99" with sign, "0.00" without) or above "9999999999.99", beeps
 //      and the old value is put back;
-//   2. the form's rule (ColocarRegla) sees the cell and the number (nothing for an empty
+//   2. the form's rule (ColocarRegla) sees the cell and the number as the cell will show it
+//   (nothing for an empty
 //      text; an empty text with no rule is refused like a bad one) and answers with a
 //      Veredicto: the value the cell keeps, or a refusal that puts the old value back, and
 //      the message or beep to give. The rule writes the model; the delegate shows the message.
@@ -112,7 +113,9 @@ class DelegadoNumero : public QStyledItemDelegate {
         bool ConSigno = false;
     };
     std::optional<FormatoCelda> FormatoDe(int fila, int columna) const;
+    // The number of a text within the cell's range, as the cell will show it.
     std::optional<double> Leer(int fila, int columna, const QString& texto) const;
+    double Mostrado(int fila, int columna, double valor) const;
     Veredicto Entrar(int fila, int columna, const QString& texto);
     void Mostrar(const Veredicto& veredicto);
     // The entries of a paste or a block: their messages gathered and shown once each.

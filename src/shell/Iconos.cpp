@@ -1,13 +1,17 @@
 #include "shell/Iconos.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
 #include <QStyle>
+#include <QToolBar>
 #include <cmath>
 #include <functional>
 #include <map>
+
+#include "shell/PantallaViga.h"
 
 namespace trevalo {
 
@@ -112,6 +116,33 @@ QIcon VigaIcono() {
     });
 }
 
+// An arrow pointing at `grados` (0 right, 90 up), for the direction tools.
+QIcon Flecha(double grados) {
+    return Dibujado([grados](QPainter& p) {
+        p.translate(16, 16);
+        p.rotate(-grados);
+        p.drawLine(QPointF(-11, 0), QPointF(10, 0));
+        p.drawLine(QPointF(10, 0), QPointF(3, -7));
+        p.drawLine(QPointF(10, 0), QPointF(3, 7));
+    });
+}
+
+// Joint numbers: two circled digits on a beam line.
+QIcon NumerosJuntas() {
+    return Dibujado([](QPainter& p) {
+        p.drawLine(QPointF(3, 24), QPointF(29, 24));
+        QFont letra = p.font();
+        letra.setPixelSize(11);
+        letra.setBold(true);
+        p.setFont(letra);
+        for (int i = 0; i < 2; ++i) {
+            const QRectF circulo(3 + 15 * i, 4, 12, 12);
+            p.drawEllipse(circulo);
+            p.drawText(circulo, Qt::AlignCenter, QString::number(i + 1));
+        }
+    });
+}
+
 QIcon Estandar(QStyle::StandardPixmap pixmap) {
     return QApplication::style()->standardIcon(pixmap);
 }
@@ -135,6 +166,11 @@ QIcon IconoHerramienta(const QString& clave) {
         {QStringLiteral("ID_ZoomExtents"), [] { return Lupa('e'); }},
         {QStringLiteral("ID_PanRealtime"), [] { return Mano(); }},
         {QStringLiteral("ID_Cuadricula"), [] { return Cuadricula(); }},
+        {QStringLiteral("ID_NJuntas"), [] { return NumerosJuntas(); }},
+        {QStringLiteral("ID_DIzquierda"), [] { return Flecha(180); }},
+        {QStringLiteral("ID_DDerecha"), [] { return Flecha(0); }},
+        {QStringLiteral("ID_DArriba"), [] { return Flecha(90); }},
+        {QStringLiteral("ID_DAbajo"), [] { return Flecha(270); }},
         {QStringLiteral("ID_Aumentar"), [] { return Estaciones('+'); }},
         {QStringLiteral("ID_Disminuir"), [] { return Estaciones('-'); }},
         {QStringLiteral("ID_LetraMas"), [] { return Letra('+'); }},
@@ -143,6 +179,31 @@ QIcon IconoHerramienta(const QString& clave) {
     };
     const auto i = iconos.find(clave);
     return i == iconos.end() ? QIcon() : i->second();
+}
+
+QToolBar* BarraHerramientas(QWidget& ventana, std::span<const Herramienta> herramientas,
+                            PantallaViga& pantalla,
+                            const std::function<void(const QString&)>& despachar,
+                            std::initializer_list<const char*> separarTras,
+                            std::map<QString, QAction*>& acciones) {
+    auto* barra = new QToolBar(&ventana);
+    barra->setObjectName(QStringLiteral("ToolBar1"));
+    barra->setIconSize(QSize(24, 24));
+    for (const Herramienta& h : herramientas) {
+        const QString clave = QString::fromUtf8(h.clave);
+        QAction* a = barra->addAction(IconoHerramienta(clave), QString::fromUtf8(h.titulo));
+        a->setObjectName(clave);
+        a->setCheckable(h.presionable);
+        if (clave == QStringLiteral("ID_PanRealtime"))
+            pantalla.FijarHerramientaPan(a);
+        else
+            QObject::connect(a, &QAction::triggered, &ventana,
+                             [despachar, clave] { despachar(clave); });
+        acciones[clave] = a;
+        for (const char* tras : separarTras)
+            if (clave == QString::fromUtf8(tras)) barra->addSeparator();
+    }
+    return barra;
 }
 
 } // namespace trevalo

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRubberBand>
 #include <QWheelEvent>
 
 #include "drawing/OperacionesVista.h"
@@ -172,6 +173,13 @@ void PantallaViga::mousePressEvent(QMouseEvent* evento) {
             arrastreIzquierdo_ = true;
             ultimoX_ = p.x();
             ultimoY_ = p.y();
+        } else if (bandaPermitida_ && bandaPermitida_()) {
+            if (!banda_) banda_ = new QRubberBand(QRubberBand::Rectangle, this);
+            inicioBanda_ = p;
+            banda_->setGeometry(QRect(p.toPoint(), QSize()));
+            banda_->show();
+        } else if (banda_) {
+            banda_->hide();
         }
         break;
     case Qt::MiddleButton:
@@ -195,11 +203,24 @@ void PantallaViga::mouseMoveEvent(QMouseEvent* evento) {
     const bool medio = (evento->buttons() & Qt::MiddleButton) && arrastreMedio_;
     if ((izquierdo || medio) && ArrastrarVista(programa_.Vista, ultimoX_, ultimoY_, p.x(), p.y()))
         Pintar();
+    if ((evento->buttons() & Qt::LeftButton) && banda_ && banda_->isVisible()) {
+        const BandaSeleccion b = BandaDeArrastre(
+            static_cast<float>(inicioBanda_.x()), static_cast<float>(inicioBanda_.y()),
+            static_cast<float>(p.x()), static_cast<float>(p.y()));
+        banda_->setGeometry(QRectF(b.Left, b.Top, b.Width, b.Height).toRect());
+    }
 }
 
 void PantallaViga::mouseReleaseEvent(QMouseEvent* evento) {
     if (evento->button() == Qt::LeftButton) arrastreIzquierdo_ = false;
     if (evento->button() == Qt::MiddleButton) arrastreMedio_ = false;
+    if (evento->button() == Qt::LeftButton && banda_ && banda_->isVisible()) {
+        banda_->hide();
+        const QPointF p = evento->position();
+        emit BandaSoltada(BandaDeArrastre(static_cast<float>(inicioBanda_.x()),
+                                          static_cast<float>(inicioBanda_.y()),
+                                          static_cast<float>(p.x()), static_cast<float>(p.y())));
+    }
     if (enPan_)
         setCursor(ManoAbierta);
     else

@@ -4,15 +4,18 @@
 // It turns the keys, the wheel and the mouse into the operations of the view: numeric-pad
 // + and - zoom, Escape zooms to extents, the arrows pan; the wheel zooms only while the
 // canvas has the focus; the middle button always pans, the left button pans in the project
-// window and with the pan tool; the right button asks for the context menu.
+// window and with the pan tool; the right button asks for the context menu. In the editor,
+// on the page that allows it, a left drag draws the selection band of spans instead.
 
 #include <QImage>
 #include <QWidget>
 #include <functional>
 
+#include "drawing/OperacionesVista.h"
 #include "shell/Programa.h"
 
 class QAction;
+class QRubberBand;
 
 namespace trevalo {
 
@@ -36,6 +39,8 @@ class PantallaViga : public QWidget {
     // The pan tool, a checkable action that the window puts in its toolbar.
     void FijarHerramientaPan(QAction* herramienta);
     bool EnPan() const { return enPan_; }
+    // The editor's selection band, drawn while `permitida` answers true.
+    void PermitirBanda(std::function<bool()> permitida) { bandaPermitida_ = std::move(permitida); }
 
     // The picture as shown, for the window tests and the screenshots.
     const QImage& Imagen() const { return imagen_; }
@@ -44,6 +49,8 @@ class PantallaViga : public QWidget {
     void MenuContextual(const QPoint& global);
     // The canvas has a new size: the window draws again.
     void Redimensionado();
+    // The left button let go at the end of a band.
+    void BandaSoltada(const BandaSeleccion& banda);
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
@@ -68,6 +75,9 @@ class PantallaViga : public QWidget {
     bool arrastreIzquierdo_ = false;
     bool arrastreMedio_ = false;
     double ultimoX_ = 0, ultimoY_ = 0;
+    std::function<bool()> bandaPermitida_;
+    QRubberBand* banda_ = nullptr;
+    QPointF inicioBanda_;
 };
 
 } // namespace trevalo

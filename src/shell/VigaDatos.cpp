@@ -1,41 +1,1282 @@
 #include "shell/VigaDatos.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QIntValidator>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "drawing/OperacionesVista.h"
+#include "model/Redondeo.h"
+#include "shell/CampoNumero.h"
+#include "shell/Iconos.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
+#include "shell/ToolTipTrevalo.h"
+#include "shell/VigasProyecto.h"
+#include "store/BaseDatos.h"
 
 namespace trevalo {
 
-VigaDatos::VigaDatos(Programa& programa, QWidget* parent) : QDialog(parent), programa_(programa) {
+namespace {
+
+constexpr std::int32_t ColorMarcado = 0xB9ECFF;
+constexpr std::int32_t ColorBlanco = 0xFFFFFF;
+
+Pregunta Aviso(const std::string& texto, const std::string& titulo) {
+    return {texto, titulo, BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1};
+}
+
+// The value of a slot, or zero beyond the list (a list shorter than its count).
+template <typename T> T En(const Arreglo<T>& a, long i) {
+    return i >= 1 && i <= a.Ubound() ? a(i) : T{};
+}
+
+template <typename... A> void Preservar(long n, A&... a) {
+    (a.RedimPreserve(n), ...);
+}
+
+// The grid that a count box sizes, and the grid its Return leads to.
+constexpr int GridDeLong[8] = {0, 2, 3, 4, 5, 6, 8, 11};
+
+const Herramienta Herramientas[] = {
+    {"ID_ZoomIN", "Acercar", false},
+    {"ID_ZoomOut", "Alejar", false},
+    {"ID_ZoomExtents", "Ver Toda la Viga", false},
+    {"ID_PanRealtime", "Desplazar el Dibujo", true},
+    {"ID_NJuntas", "Números de las Juntas", true},
+    {"ID_DIzquierda", "Mover a la Izquierda", false},
+    {"ID_DDerecha", "Mover a la Derecha", false},
+    {"ID_DArriba", "Mover Arriba", false},
+    {"ID_DAbajo", "Mover Abajo", false},
+};
+
+// The input box of a block: grid, column, prompt, title, and the title of its error box.
+struct Bloque {
+    int spread;
+    int columna;
+    const char* texto;
+    const char* titulo;
+    const char* tituloError;
+};
+
+const Bloque Bloques[] = {
+    {2, 1, "Entre la Longitud de los Tramos (m):", "Longitud de los Tramos",
+     "Longitud de los Tramos"},
+    {3, 2, "Entre el Desplazamiento (m) Y:", "Desplazamiento de las Juntas",
+     "Longitud de los Tramos"},
+    {3, 3, "Entre el Desplazamiento (m) Y:", "Desplazamiento de las Juntas",
+     "Longitud de los Tramos"},
+    {5, 2, "Rigidez Horizontal del Resorte RdX:", "Entre el Valor", "Apoyos con Resortes"},
+    {5, 3, "Rigidez Vertical del Resorte RdY:", "Entre el Valor", "Apoyos con Resortes"},
+    {5, 4, "Rigidez Rotacional del Resorte RdZ:", "Entre el Valor", "Apoyos con Resortes"},
+    {7, 1, "Tipos de Vigas:", "Tipos de Viga", "Tipos de Vigas"},
+    {9, 1, "Tipos de Vigas:", "Tipos de Viga", "Tipos de Vigas"},
+    {12, 1, "Acotamiento a la Izquierda LIqz:", "Entre el Valor", "Acotamientos para Korvel-CAD"},
+    {12, 2, "Acotamiento a la Derecha LDer:", "Entre el Valor", "Acotamientos para Korvel-CAD"},
+    {12, 3, "Altura de la Viga H:", "Entre el Valor", "Acotamientos para Korvel-CAD"},
+};
+
+// The load buttons: name, caption, and the title and text of the warning with no span marked.
+struct BotonCargaDef {
+    const char* nombre;
+    const char* titulo;
+    const char* tituloAviso;
+    const char* textoAviso;
+};
+
+const char* const SinTramoLargo = "\nNo ha seleccionado ningún Tramo...       ";
+const char* const SinTramoCorto = "No ha seleccionado ningún Tramo...    ";
+
+const BotonCargaDef BotonesCarga[] = {
+    {"LSButton24", " Carga Uniforme ", "Cargas en los Tramos", SinTramoLargo},
+    {"LSButton25", " Cargas Puntuales ", "Carga Uniforme en los Tramos", SinTramoLargo},
+    {"LSButton26", " Cargas Parciales Uniformes ", "Cargas en los Tramos", SinTramoCorto},
+    {"LSButton27", " Carga Triangular ", "Cargas en los Tramos", SinTramoCorto},
+    {"LSButton28", " Carga Trapezoidal Tipo 1 ", "Cargas en los Tramos", SinTramoCorto},
+    {"LSButton29", " Triangular Derecha ", "Cargas en los Tramos", SinTramoCorto},
+    {"LSButton30", " Triangular Izquierda ", "Cargas en los Tramos", SinTramoCorto},
+    {"LSButton31", " Carga Trapezoidal Tipo 2 ", "Cargas en los Tramos", SinTramoCorto},
+};
+
+QWidget* Marco(const QString& titulo, QLayout* contenido) {
+    auto* marco = new QGroupBox(titulo);
+    marco->setLayout(contenido);
+    return marco;
+}
+
+} // namespace
+
+// --- The window ----------------------------------------------------------------------------
+
+VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
+    : QDialog(parent), programa_(programa), proyecto_(qobject_cast<VigasProyecto*>(parent)),
+      toolTip_(new ToolTipTrevalo(this)) {
     setObjectName(QStringLiteral("VigaDatos"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    lblNombre_ = new QLabel(this);
+    lblNombre_->setObjectName(QStringLiteral("LblNombre"));
+    pantalla_ = new PantallaViga(programa_, false, this);
+    pantalla_->setObjectName(QStringLiteral("Picture1"));
+    pantalla_->PermitirBanda([this] { return Pagina() == 7; });
+
+    auto* izquierda = new QVBoxLayout;
+    izquierda->addWidget(CrearPaginas(), 1);
+    izquierda->addWidget(CrearPie());
+    auto* derecha = new QVBoxLayout;
+    auto* arriba = new QHBoxLayout;
+    arriba->addWidget(CrearHerramientas());
+    arriba->addStretch();
+    arriba->addWidget(lblNombre_);
+    derecha->addLayout(arriba);
+    derecha->addWidget(pantalla_, 1);
+    auto* todo = new QHBoxLayout(this);
+    todo->addLayout(izquierda);
+    todo->addLayout(derecha, 1);
+
+    connect(pantalla_, &PantallaViga::Redimensionado, this, &VigaDatos::Redibujar);
+    connect(pantalla_, &PantallaViga::BandaSoltada, this, &VigaDatos::BandaSoltada);
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] {
+        // What is being typed in a cell or a box is entered first, as leaving it would.
+        if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
+        Salvar();
+    });
+
+    // The load of the window.
+    ConfigurarToolTips();
+    toolTip_->Configurar(programa_.Tapiz);
+    VigaActual& viga = programa_.Viga;
+    Rotulos();
+    if (viga.VigaNueva) {
+        try {
+            LeerViga(programa_.Estado, viga);
+        } catch (const ErrorTrevalo& e) {
+            programa_.Dialogo().Mensaje(MensajeError(e));
+        }
+        btoMove_[0]->setEnabled(true);
+        btoMove_[1]->setEnabled(false);
+    } else {
+        CopiarMovimientos();
+    }
+    viga.VigaNueva = false;
+    ConfigurarSpread();
+    ColoquePantalla();
+    programa_.Vista.ModoEditor = true;
+    IrA(1, false);
+    button1_->setEnabled(false);
+    modificada_ = false;
+    cambiando_ = 0;
+    if (const QScreen* pantalla = screen()) {
+        const QRect zona = pantalla->availableGeometry();
+        resize(zona.width() * 92 / 100, zona.height() * 85 / 100);
+        move(zona.center() - rect().center());
+    }
+    cargando_ = false;
+}
+
+VigaDatos::~VigaDatos() = default;
+
+void VigaDatos::CopiarMovimientos() {
+    for (int i = 0; i < 2; ++i) {
+        const auto* boton =
+            proyecto_ ? proyecto_->findChild<QPushButton*>(QStringLiteral("BtoMove%1").arg(i),
+                                                           Qt::FindDirectChildrenOnly)
+                      : nullptr;
+        btoMove_[i]->setEnabled(boton && boton->isEnabled());
+    }
+}
+
+void VigaDatos::Rotulos() {
     const QString nombre = Qs(programa_.Viga.NombreVigaActual);
     setWindowTitle(QStringLiteral("Datos Generales de la Viga: [ ") + nombre +
                    QStringLiteral(" ]"));
-    setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* lblNombre = new QLabel(nombre, this);
-    lblNombre->setObjectName(QStringLiteral("LblNombre"));
-    pantalla_ = new PantallaViga(programa_, false, this);
-    pantalla_->setObjectName(QStringLiteral("Picture1"));
-    auto* retorno = new QPushButton(QStringLiteral(" Retorno "), this);
-    retorno->setObjectName(QStringLiteral("LSButton2"));
-    retorno->setAutoDefault(false);
-    connect(retorno, &QPushButton::clicked, this, &QDialog::reject);
-    connect(pantalla_, &PantallaViga::Redimensionado, pantalla_, &PantallaViga::Pintar);
+    lblNombre_->setText(nombre);
+}
 
-    auto* capas = new QVBoxLayout(this);
-    capas->addWidget(lblNombre);
-    capas->addWidget(pantalla_, 1);
-    auto* pie = new QHBoxLayout;
-    pie->addStretch();
-    pie->addWidget(retorno);
-    capas->addLayout(pie);
-    resize(1100, 700);
+QPushButton* VigaDatos::CrearBoton(const char* nombre, const char* titulo) {
+    auto* b = new QPushButton(QString::fromUtf8(titulo), this);
+    b->setObjectName(QString::fromUtf8(nombre));
+    b->setAutoDefault(false);
+    botones_[b->objectName()] = b;
+    return b;
+}
+
+QTableWidget* VigaDatos::CrearSpread(int n, const QString& nombre, const QStringList& columnas) {
+    auto* grid = new QTableWidget(0, static_cast<int>(columnas.size()), this);
+    grid->setObjectName(QStringLiteral("Spread%1").arg(n));
+    grid->setAccessibleName(nombre);
+    grid->setHorizontalHeaderLabels(columnas);
+    grid->verticalHeader()->setDefaultSectionSize(20);
+    grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    grid->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    grid->setTabKeyNavigation(false);
+    auto* delegado = new DelegadoNumero(programa_, *grid);
+    delegado->ColocarRegla([this, n](const Celda& c) { return ReglaCelda(n, c); });
+    // Installed after the delegate's, so that this window sees a paste first.
+    grid->installEventFilter(this);
+    grid->viewport()->installEventFilter(this);
+    connect(grid->horizontalHeader(), &QHeaderView::sectionClicked, this, [this, n](int columna) {
+        if (Spread(n).rowCount() > 0) EntradaBloque(n, 1, Spread(n).rowCount(), columna + 1);
+    });
+    spread_[static_cast<std::size_t>(n)] = grid;
+    return grid;
+}
+
+QLineEdit* VigaDatos::CrearLong(int n, const QString& titulo, int maximo) {
+    auto* campo = new QLineEdit(this);
+    campo->setObjectName(QStringLiteral("Long%1").arg(n));
+    campo->setAccessibleName(titulo.trimmed());
+    campo->setValidator(new QIntValidator(0, maximo, campo));
+    campo->setAlignment(Qt::AlignRight);
+    campo->setMaximumWidth(90);
+    connect(campo, &QLineEdit::textEdited, this, [this, n] {
+        cambiando_ = 1;
+        if (n != 1) Modificar(); // a change of spans alone does not ask to save
+    });
+    connect(campo, &QLineEdit::returnPressed, this, [this, n] { TerminarLong(n, true); });
+    campo->installEventFilter(this);
+    long_[static_cast<std::size_t>(n)] = campo;
+    return campo;
+}
+
+namespace {
+
+// A caption and its field on one line, the caption the field's buddy.
+QHBoxLayout* Rotulado(const QString& titulo, QWidget* campo) {
+    auto* fila = new QHBoxLayout;
+    auto* rotulo = new QLabel(titulo);
+    rotulo->setBuddy(campo);
+    fila->addWidget(rotulo);
+    fila->addWidget(campo);
+    fila->addStretch();
+    return fila;
+}
+
+} // namespace
+
+QWidget* VigaDatos::PaginaTramos() {
+    option1_ = new QRadioButton(QStringLiteral("La Viga es de Concreto Armado"), this);
+    option1_->setObjectName(QStringLiteral("Option1"));
+    option2_ = new QRadioButton(QStringLiteral("La Viga es Metálica"), this);
+    option2_->setObjectName(QStringLiteral("Option2"));
+    connect(option1_, &QRadioButton::toggled, this, [this](bool si) {
+        if (si) Material(true);
+    });
+    connect(option2_, &QRadioButton::toggled, this, [this](bool si) {
+        if (si) Material(false);
+    });
+    auto* capas = new QVBoxLayout;
+    capas->addWidget(option1_);
+    capas->addWidget(option2_);
+    capas->addLayout(Rotulado(QStringLiteral("Número de Tramos = "),
+                              CrearLong(1, QStringLiteral("Número de Tramos = "), 1000)));
+    auto* grids = new QHBoxLayout;
+    grids->addWidget(
+        CrearSpread(1, QStringLiteral("Nombres de los Ejes"), {QStringLiteral("Nombre Eje")}));
+    grids->addWidget(
+        CrearSpread(2, QStringLiteral("Longitud de los Tramos"), {QStringLiteral("Longitud")}));
+    capas->addLayout(grids, 1);
+    return Marco(QStringLiteral("Datos Generales de los Tramos"), capas);
+}
+
+QWidget* VigaDatos::PaginaDesplazadas() {
+    auto* capas = new QVBoxLayout;
+    capas->addLayout(Rotulado(QStringLiteral("Juntas Desplazadas = "),
+                              CrearLong(2, QStringLiteral("Juntas Desplazadas = "), 32767)));
+    capas->addWidget(CrearSpread(3, QStringLiteral("Juntas Desplazadas"),
+                                 {QStringLiteral("Junta"), QStringLiteral("Delta X"),
+                                  QStringLiteral("Delta Y")}),
+                     1);
+    return Marco(QStringLiteral("Juntas Desplazadas en la Viga"), capas);
+}
+
+QWidget* VigaDatos::PaginaRestringidas() {
+    auto* capas = new QVBoxLayout;
+    capas->addLayout(Rotulado(QStringLiteral("Juntas Restringidas = "),
+                              CrearLong(3, QStringLiteral("Juntas Restringidas = "), 32767)));
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(CrearSpread(4, QStringLiteral("Juntas Restringidas"),
+                                {QStringLiteral("Junta"), QStringLiteral("Apoyo\nTipo")}),
+                    1);
+    auto* apoyos = new QVBoxLayout;
+    const char* const nombres[] = {"ButtonP1", "ButtonP2", "ButtonP3", "ButtonP4"};
+    const char* const titulos[] = {" Apoyo Fijo ", " Rodillo en X ", " Rodillo en Y ",
+                                   " Empotramiento "};
+    for (int i = 0; i < 4; ++i) {
+        QPushButton* b = CrearBoton(nombres[i], titulos[i]);
+        connect(b, &QPushButton::clicked, this, [this, i] { ColocarApoyo(i + 1); });
+        apoyos->addWidget(b);
+    }
+    apoyos->addStretch();
+    fila->addLayout(apoyos);
+    capas->addLayout(fila, 1);
+    return Marco(QStringLiteral("Juntas Restringidas"), capas);
+}
+
+QWidget* VigaDatos::PaginaResortes() {
+    auto* capas = new QVBoxLayout;
+    capas->addLayout(Rotulado(QStringLiteral("Juntas con Resortes = "),
+                              CrearLong(4, QStringLiteral("Juntas con Resortes = "), 32767)));
+    capas->addWidget(
+        CrearSpread(5, QStringLiteral("Juntas con Resortes"),
+                    {QStringLiteral("Junta"), QStringLiteral("Rdx\n(kgf/m)"),
+                     QStringLiteral("Rdy\n(kgf/m)"), QStringLiteral("Rdz\n(kgf-m/rad)")}),
+        1);
+    return Marco(QStringLiteral("Juntas Restringidas con Resortes"), capas);
+}
+
+QWidget* VigaDatos::PaginaTiposConcreto() {
+    auto* capas = new QVBoxLayout;
+    capas->addLayout(Rotulado(QStringLiteral("Tipos de Vigas = "),
+                              CrearLong(5, QStringLiteral("Tipos de Vigas = "), 32767)));
+    capas->addWidget(CrearSpread(6, QStringLiteral("Tipos de Vigas de Concreto"),
+                                 {QStringLiteral("B (m)"), QStringLiteral("H (m)")}),
+                     1);
+    capas->addWidget(new QLabel(QStringLiteral("Entre los Tipos de Vigas por Tramo")));
+    capas->addWidget(CrearSpread(7, QStringLiteral("Tipos de Viga por Tramo (Concreto)"),
+                                 {QStringLiteral("Viga Tipo")}),
+                     1);
+    return Marco(QStringLiteral("Tipos de Viga por Tramo (Concreto Armado)"), capas);
+}
+
+QWidget* VigaDatos::PaginaTiposMetalicos() {
+    auto* capas = new QVBoxLayout;
+    auto* cuenta = Rotulado(QStringLiteral("Tipos de Vigas = "),
+                            CrearLong(6, QStringLiteral("Tipos de Vigas (Perfiles) = "), 32767));
+    QPushButton* perfiles = CrearBoton("LSButton5", " Perfiles Metálicos ");
+    connect(perfiles, &QPushButton::clicked, this, &VigaDatos::PerfilesMetalicos);
+    cuenta->addWidget(perfiles);
+    capas->addLayout(cuenta);
+    capas->addWidget(CrearSpread(8, QStringLiteral("Tipos de Vigas Metálicas"),
+                                 {QStringLiteral("Designación"), QStringLiteral("Area\n(cm²)"),
+                                  QStringLiteral("Inercia\n(cm⁴)")}),
+                     1);
+    capas->addWidget(CrearSpread(9, QStringLiteral("Tipos de Viga por Tramo (Metálica)"),
+                                 {QStringLiteral("Viga Tipo")}),
+                     1);
+    return Marco(QStringLiteral("Tipos de Viga por Tramo (Perfiles Metálicos)"), capas);
+}
+
+QWidget* VigaDatos::PaginaCargas() {
+    double1_ = new CampoNumero(this);
+    double1_->setObjectName(QStringLiteral("Double1"));
+    double1_->setAccessibleName(QStringLiteral("Factor de Mayoración ="));
+    double1_->Configurar("0.00", programa_.Carpetas.SeparadorDecimal,
+                         programa_.Carpetas.SeparadorMiles);
+    double1_->setMaximumWidth(120);
+    connect(double1_, &QLineEdit::textEdited, this, [this] {
+        cambiando_ = 1;
+        Modificar();
+    });
+    connect(double1_, &QLineEdit::returnPressed, this, [this] { TerminarFactor(true); });
+    double1_->installEventFilter(this);
+
+    auto* capas = new QVBoxLayout;
+    capas->addLayout(Rotulado(QStringLiteral("Factor de Mayoración ="), double1_));
+    capas->addWidget(new QLabel(QStringLiteral("Seleccione los Tramos para entrar las Cargas")));
+    auto* fila = new QHBoxLayout;
+    QTableWidget* marcas =
+        CrearSpread(10, QStringLiteral("Tramos con Cargas"), {QStringLiteral("Cargas")});
+    new DelegadoMarca(*marcas, 1, [this](int f, bool m) { Marcar(f, m); });
+    fila->addWidget(marcas, 1);
+    auto* cargas = new QVBoxLayout;
+    for (int i = 0; i < 8; ++i) {
+        QPushButton* b = CrearBoton(BotonesCarga[i].nombre, BotonesCarga[i].titulo);
+        connect(b, &QPushButton::clicked, this, [this, i] { BotonCarga(i + 1); });
+        cargas->addWidget(b);
+    }
+    cargas->addStretch();
+    fila->addLayout(cargas);
+    capas->addLayout(fila, 1);
+    auto* todos = new QHBoxLayout;
+    connect(CrearBoton("SSCommand1", " Seleccionar todos los Tramos "), &QPushButton::clicked, this,
+            &VigaDatos::SeleccionarTodos);
+    connect(CrearBoton("SSCommand2", " Desmarcar todos los Tramos "), &QPushButton::clicked, this,
+            &VigaDatos::DesmarcarTodos);
+    connect(CrearBoton("ButtonE", " Eliminar las cargas de la viga. "), &QPushButton::clicked, this,
+            &VigaDatos::EliminarCargas);
+    for (const char* b : {"SSCommand1", "SSCommand2", "ButtonE"})
+        todos->addWidget(botones_[QString::fromUtf8(b)]);
+    capas->addLayout(todos);
+    return Marco(QStringLiteral("Cargas de Servicio en los Tramos"), capas);
+}
+
+QWidget* VigaDatos::PaginaAcciones() {
+    auto* capas = new QVBoxLayout;
+    capas->addLayout(
+        Rotulado(QStringLiteral("Juntas con Acciones Nodales = "),
+                 CrearLong(7, QStringLiteral("Juntas con Acciones Nodales = "), 32767)));
+    capas->addWidget(
+        CrearSpread(11, QStringLiteral("Acciones Nodales"),
+                    {QStringLiteral("Junta"), QStringLiteral("Momento\n(kgf-m)"),
+                     QStringLiteral("Vertical\n(kgf)"), QStringLiteral("Horizontal\n(kgf)")}),
+        1);
+    return Marco(QStringLiteral("Acciones Nodales en las Juntas"), capas);
+}
+
+QWidget* VigaDatos::PaginaAcotamiento() {
+    auto* capas = new QVBoxLayout;
+    capas->addWidget(
+        CrearSpread(12, QStringLiteral("Acotamiento en los Apoyos"),
+                    {QStringLiteral("L(Izq)"), QStringLiteral("L(Der)"), QStringLiteral("H")}),
+        1);
+    return Marco(QStringLiteral("Acotamiento de la Viga en los Apoyos (Korvel-CAD 8.0)"), capas);
+}
+
+QWidget* VigaDatos::CrearPaginas() {
+    tab1_ = new QTabWidget(this);
+    tab1_->setObjectName(QStringLiteral("Tab1"));
+    for (QWidget* pagina : {PaginaTramos(), PaginaDesplazadas(), PaginaRestringidas(),
+                            PaginaResortes(), PaginaTiposConcreto(), PaginaTiposMetalicos(),
+                            PaginaCargas(), PaginaAcciones(), PaginaAcotamiento()}) {
+        // The tab shows the page's number; its frame says what the page holds.
+        const int i = tab1_->addTab(pagina, QString::number(tab1_->count() + 1));
+        tab1_->setTabToolTip(i, static_cast<QGroupBox*>(pagina)->title());
+    }
+    // The pages follow the moves, not a click on their tabs.
+    tab1_->tabBar()->setAttribute(Qt::WA_TransparentForMouseEvents);
+    tab1_->tabBar()->setFocusPolicy(Qt::NoFocus);
+    tab1_->setMinimumWidth(460);
+    // Nor by the keys that turn tabs: the page in front is always the one the moves chose.
+    connect(tab1_, &QTabWidget::currentChanged, this, [this](int i) {
+        if (i != pagina_ - 1) tab1_->setCurrentIndex(pagina_ - 1);
+    });
+    return tab1_;
+}
+
+QWidget* VigaDatos::CrearPie() {
+    auto* pie = new QWidget(this);
+    auto* capas = new QHBoxLayout(pie);
+    capas->setContentsMargins(0, 0, 0, 0);
+    button1_ = CrearBoton("Button1", " Anterior ");
+    button2_ = CrearBoton("Button2", " Siguiente ");
+    connect(button1_, &QPushButton::clicked, this, &VigaDatos::Anterior);
+    connect(button2_, &QPushButton::clicked, this, &VigaDatos::Siguiente);
+    for (int i = 0; i < 2; ++i) {
+        btoMove_[i] = CrearBoton(i == 0 ? "BtoMove0" : "BtoMove1", i == 0 ? "◀" : "▶");
+        btoMove_[i]->setAccessibleName(i == 0 ? QStringLiteral("Viga Anterior")
+                                              : QStringLiteral("Viga Siguiente"));
+        btoMove_[i]->setToolTip(btoMove_[i]->accessibleName());
+        connect(btoMove_[i], &QPushButton::clicked, this, [this, i] { MoverViga(i); });
+    }
+    QPushButton* salvar = CrearBoton("LSButton3", " Salvar ");
+    connect(salvar, &QPushButton::clicked, this, [this] { Salvar(); });
+    QPushButton* retorno = CrearBoton("LSButton2", " Retorno ");
+    connect(retorno, &QPushButton::clicked, this, &VigaDatos::reject);
+    capas->addWidget(button1_);
+    capas->addWidget(button2_);
+    capas->addStretch();
+    capas->addWidget(btoMove_[0]);
+    capas->addWidget(btoMove_[1]);
+    capas->addStretch();
+    capas->addWidget(salvar);
+    capas->addWidget(retorno);
+    return pie;
+}
+
+QWidget* VigaDatos::CrearHerramientas() {
+    return BarraHerramientas(
+        *this, Herramientas, *pantalla_, [this](const QString& clave) { Despachar(clave); },
+        {"ID_NJuntas"}, acciones_);
+}
+
+void VigaDatos::ConfigurarToolTips() {
+    button1_->setProperty("Tag", QStringLiteral("Anterior"));
+    button1_->setToolTip(QStringLiteral("Ir a la pantalla anterior. "));
+    button2_->setProperty("Tag", QStringLiteral("Siguiente"));
+    button2_->setToolTip(QStringLiteral("Ir a la siguiente pantalla. "));
+    QPushButton* salvar = botones_[QStringLiteral("LSButton3")];
+    salvar->setProperty("Tag", QStringLiteral("Salvar"));
+    salvar->setToolTip(QStringLiteral("Salva las modificaciones realizadas. "));
+}
+
+QAction* VigaDatos::Accion(const QString& clave) const {
+    const auto i = acciones_.find(clave);
+    return i == acciones_.end() ? nullptr : i->second;
+}
+
+int VigaDatos::Pagina() const {
+    return pagina_;
+}
+
+// --- Grids ---------------------------------------------------------------------------------
+
+void VigaDatos::ConfigurarSpread() {
+    const auto formato = [this](int n, int c1, int c2, int decimales, bool signo) {
+        FormatoCeldas(Spread(n), c1, -1, c2, -1, decimales, signo);
+    };
+    formato(2, 1, 1, 2, false);
+    formato(3, 1, 1, 0, false);
+    formato(3, 2, 3, 2, true);
+    formato(4, 1, 2, 0, false);
+    formato(5, 1, 1, 0, false);
+    formato(5, 2, 4, 0, true);
+    formato(6, 1, 2, 2, false);
+    formato(7, 1, 1, 0, false);
+    formato(8, 2, 3, 2, false);
+    formato(9, 1, 1, 0, false);
+    formato(11, 1, 1, 0, false);
+    formato(11, 2, 4, 0, true);
+    formato(12, 1, 3, 2, false);
+    for (int n : {3, 4, 5, 11}) Delegado(Spread(n)).Centrar(1);
+    for (int n : {4, 7, 9}) Delegado(Spread(n)).Centrar(n == 4 ? 2 : 1);
+    Spread(10).setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // A paste grows the lists that have a count box, within its limits.
+    for (int caja = 2; caja <= 7; ++caja)
+        Delegado(Spread(GridDeLong[caja])).ColocarCrecimiento([this, caja](int filas) {
+            Long(caja).setText(QString::number(filas));
+            ValorLong(caja);
+            return true;
+        });
+}
+
+void VigaDatos::EncabezadosTramos(QTableWidget& grid) {
+    const VigaActual& v = programa_.Viga;
+    QStringList rotulos;
+    for (long i = 1; i <= v.NT; ++i)
+        rotulos << Qs(En(v.NombreEje, i) + " - " + En(v.NombreEje, i + 1));
+    grid.setVerticalHeaderLabels(rotulos);
+}
+
+void VigaDatos::LlenarSpread(int n) {
+    const VigaActual& v = programa_.Viga;
+    QTableWidget& g = Spread(n);
+    const QSignalBlocker bloqueo(&g);
+    DelegadoNumero& d = Delegado(g);
+    const auto filas = [&g](long k) { g.setRowCount(static_cast<int>(std::max(k, 0L))); };
+    const auto columnas = [&](long k, auto&... listas) {
+        filas(k);
+        for (int i = 1; i <= k; ++i) {
+            int c = 0;
+            (d.ColocarValor(i, ++c, static_cast<double>(En(listas, i))), ...);
+        }
+    };
+    switch (n) {
+    case 1:
+        filas(v.NT + 1);
+        for (int i = 1; i <= v.NT + 1; ++i) ColocarTextoCelda(g, i, 1, Qs(En(v.NombreEje, i)));
+        return;
+    case 2:
+        return columnas(v.NT, v.LT);
+    case 3:
+        return columnas(v.NJDesp, v.R3, v.XX, v.YY);
+    case 4:
+        return columnas(v.NJRest, v.R1, v.Apoyo);
+    case 5:
+        return columnas(v.NJRes, v.R10, v.SH10, v.SV10, v.SM10);
+    case 6:
+        return columnas(v.NTipos, v.B1, v.T1);
+    case 7:
+    case 9:
+        columnas(v.NT, v.VT);
+        return EncabezadosTramos(g);
+    case 8:
+        filas(v.NTipos);
+        for (int i = 1; i <= v.NTipos; ++i) {
+            ColocarTextoCelda(g, i, 1, Qs(En(v.Designacion, i)));
+            d.ColocarValor(i, 2, En(v.B1, i));
+            d.ColocarValor(i, 3, En(v.T1, i));
+        }
+        return;
+    case 10:
+        return LlenarMarcas();
+    case 11:
+        return columnas(v.NAcc, v.R2, v.QC1, v.QC2, v.QC3);
+    case 12:
+        return columnas(v.NT + 1, v.LIzq, v.LDer, v.HC);
+    }
+}
+
+void VigaDatos::LlenarMarcas() {
+    const VigaActual& v = programa_.Viga;
+    QTableWidget& g = Spread(10);
+    const QSignalBlocker bloqueo(&g);
+    g.setRowCount(std::max<int>(v.NT, 0));
+    for (int i = 1; i <= v.NT; ++i) {
+        const bool marcado = En(v.TramoMarcado, i);
+        MarcarCelda(g, i, 1, marcado);
+        ColorFila(g, i, marcado ? ColorMarcado : ColorBlanco);
+    }
+    EncabezadosTramos(g);
+}
+
+void VigaDatos::MostrarCuenta(int n) {
+    const VigaActual& v = programa_.Viga;
+    const long cuentas[8] = {0, v.NT, v.NJDesp, v.NJRest, v.NJRes, v.NTipos, v.NTipos, v.NAcc};
+    Long(n).setText(QString::number(cuentas[n]));
+}
+
+void VigaDatos::ColoquePantalla() {
+    VigaActual& v = programa_.Viga;
+    if (v.VigaNueva && v.NT <= 0) {
+        v.NT = 1;
+        ReiniciarArreglosViga(v);
+    }
+    v.TramoMarcado.Redim(v.NT);
+    {
+        const bool cargando = cargando_;
+        cargando_ = true;
+        (v.OpcionConcreto == 0 ? option1_ : option2_)->setChecked(true);
+        cargando_ = cargando;
+    }
+    if (v.NTipos == 0) {
+        v.NTipos = 1;
+        Preservar(std::max<long>(v.NT, 1), v.B1, v.T1);
+        Preservar(std::max<long>(v.Designacion.Ubound(), 1), v.Designacion);
+        for (long i = 1; i <= v.NT; ++i) {
+            v.B1(i) = 0.3;
+            v.T1(i) = 0.5;
+        }
+    }
+    if (v.OpcionConcreto == 0)
+        for (long i = 1; i <= std::min<long>(v.NTipos, v.B1.Ubound()); ++i) {
+            if (v.B1(i) == 0) v.B1(i) = 0.3;
+            if (v.T1(i) == 0) v.T1(i) = 0.5;
+        }
+    for (long i = 1; i <= std::min<long>(v.NT, v.VT.Ubound()); ++i)
+        if (v.VT(i) == 0) v.VT(i) = 1.0;
+    double1_->ColocarValor(v.FMayoracion);
+    Preservar(v.NT, v.FMayorTramo);
+    for (long i = 1; i <= v.NT; ++i) v.FMayorTramo(i) = v.FMayoracion;
+    // Joints without a vertical support keep no dimensions at the supports.
+    for (long j = 1; j <= std::min<long>(v.NT + 1, v.HC.Ubound()); ++j) {
+        bool apoyada = false;
+        for (long k = 1; k <= v.NJRest; ++k) apoyada |= En(v.R1, k) == j && En(v.Apoyo, k) != 3;
+        for (long k = 1; k <= v.NJRes; ++k) apoyada |= En(v.R10, k) == j && En(v.SV10, k) != 0;
+        if (!apoyada) v.LIzq(j) = v.LDer(j) = v.HC(j) = 0.0;
+    }
+    for (int n = 1; n <= 12; ++n) LlenarSpread(n);
+    EncabezadosTramos(Spread(2));
+    for (int n = 1; n <= 7; ++n) MostrarCuenta(n);
+}
+
+// --- Moves between pages -------------------------------------------------------------------
+
+void VigaDatos::IrA(int pagina, bool juntas) {
+    setUpdatesEnabled(false);
+    pagina_ = pagina;
+    tab1_->setCurrentIndex(pagina - 1);
+    QAction* numeros = Accion(QStringLiteral("ID_NJuntas"));
+    if (numeros->isChecked() != juntas || programa_.Vista.VerJuntas != juntas) {
+        numeros->setChecked(juntas);
+        Despachar(QStringLiteral("ID_NJuntas"));
+    }
+    setUpdatesEnabled(true);
+}
+
+bool VigaDatos::LongitudesValidas() {
+    QTableWidget& g = Spread(2);
+    for (int i = 1; i <= g.rowCount(); ++i) {
+        if (ValorCelda(g, i, 1) != 0) continue;
+        g.setFocus();
+        g.setCurrentCell(i - 1, 0);
+        programa_.Dialogo().Mensaje(Aviso(
+            "¡No pueden existir Tramos con Longitud igual a Cero (0)!", "Longitud de los Tramos"));
+        return false;
+    }
+    return true;
+}
+
+void VigaDatos::Siguiente() {
+    const bool concreto = programa_.Viga.OpcionConcreto == 0;
+    switch (Pagina()) {
+    case 1:
+        if (!LongitudesValidas()) return;
+        button1_->setEnabled(true);
+        return IrA(2, true);
+    case 2:
+        return IrA(3, true);
+    case 3:
+        return IrA(4, true);
+    case 4:
+        return IrA(concreto ? 5 : 6, false);
+    case 5:
+    case 6:
+        return IrA(7, false);
+    case 7:
+        if (!concreto) button2_->setEnabled(false);
+        return IrA(8, true);
+    case 8:
+        button2_->setEnabled(false);
+        return IrA(9, false);
+    }
+}
+
+void VigaDatos::Anterior() {
+    const bool concreto = programa_.Viga.OpcionConcreto == 0;
+    switch (Pagina()) {
+    case 2:
+        button1_->setEnabled(false);
+        IrA(1, false);
+        return button2_->setFocus();
+    case 3:
+        return IrA(2, true);
+    case 4:
+        return IrA(3, true);
+    case 5:
+        return IrA(4, true);
+    case 6:
+        return IrA(4, false);
+    case 7:
+        button2_->setEnabled(true);
+        return IrA(concreto ? 5 : 6, false);
+    case 8:
+        button2_->setEnabled(concreto);
+        return IrA(7, false);
+    case 9:
+        button1_->setEnabled(true);
+        button2_->setEnabled(true);
+        return IrA(8, true);
+    }
+}
+
+// --- Count boxes ---------------------------------------------------------------------------
+
+void VigaDatos::TerminarLong(int n, bool retorno) {
+    // The box of steel types acts on Return alone.
+    if (n == 6 && !retorno) return;
+    if (cambiando_ == 1) ValorLong(n);
+    if (retorno) Spread(GridDeLong[n]).setFocus();
+}
+
+void VigaDatos::ValorLong(int n) {
+    cambiando_ = 0;
+    VigaActual& v = programa_.Viga;
+    const long valor = Long(n).text().toLong();
+    if (n == 1) return ValorLong1(valor);
+    if (n == 5) return ValorLong5(valor);
+    if (n == 6) return ValorLong6(valor);
+    const std::string tope = std::to_string(v.NT + 1) + "    ";
+    const std::map<int, Pregunta> avisos = {
+        {2, Aviso("El Número de Juntas Desplazadas no puede ser mayor que " + tope,
+                  "Juntas Desplazadas")},
+        {3, Aviso("El Número de Juntas ser mayor que " + tope, "Juntas Totalmente restringidas")},
+        {4, Aviso("El Número de Juntas ser mayor que " + tope, "Juntas con Resortes")},
+        {7,
+         Aviso("El Número de la Junta no puede ser mayor que " + tope + "\n", "Acciones Nodales")}};
+    if (valor > v.NT + 1) {
+        programa_.Dialogo().Mensaje(avisos.at(n));
+        return MostrarCuenta(n);
+    }
+    const auto cuenta = static_cast<std::int16_t>(valor);
+    switch (n) {
+    case 2:
+        v.NJDesp = cuenta;
+        Preservar(valor, v.R3, v.XX, v.YY);
+        break;
+    case 3:
+        v.NJRest = cuenta;
+        Preservar(valor, v.R1, v.Apoyo);
+        for (long i = 1; i <= valor; ++i)
+            if (v.Apoyo(i) == 0) v.Apoyo(i) = ApoyoFijo;
+        break;
+    case 4:
+        v.NJRes = cuenta;
+        Preservar(valor, v.R10, v.SH10, v.SV10, v.SM10);
+        break;
+    case 7:
+        v.NAcc = cuenta;
+        Preservar(valor, v.R2, v.QC1, v.QC2, v.QC3);
+        break;
+    }
+    LlenarSpread(GridDeLong[n]);
+    if (n != 7) Redibujar();
+}
+
+void VigaDatos::ValorLong1(long valor) {
+    VigaActual& v = programa_.Viga;
+    if (valor > 0) {
+        v.NT = static_cast<std::int16_t>(valor);
+        RedimensionarViga(v);
+        for (long i = 1; i <= v.NT; ++i)
+            if (v.VT(i) == 0) v.VT(i) = 1.0;
+        LlenarSpread(1);
+        LlenarSpread(2); // its row headers stay until the window is filled again
+        LlenarSpread(7);
+        LlenarSpread(10);
+    } else {
+        MostrarCuenta(1);
+    }
+    Redibujar();
+}
+
+void VigaDatos::CuentaTipos(int caja, long valor) {
+    VigaActual& v = programa_.Viga;
+    v.NTipos = static_cast<std::int16_t>(valor);
+    if (valor == 0) {
+        v.NTipos = 1;
+        MostrarCuenta(caja);
+        v.VT.Redim(v.NT);
+        for (long i = 1; i <= v.NT; ++i) v.VT(i) = 1.0;
+    }
+    for (long i = 1; i <= v.NT; ++i)
+        if (v.VT(i) > v.NTipos) v.VT(i) = 1.0;
+    Preservar(v.NTipos, v.B1, v.T1);
+}
+
+void VigaDatos::ValorLong5(long valor) {
+    VigaActual& v = programa_.Viga;
+    CuentaTipos(5, valor);
+    // Designations follow the joints on this page, not the types (types beyond have none,
+    // while the list still covers every type so that the beam can be saved).
+    v.Designacion.RedimPreserve(std::max<long>(v.NT + 1, v.NTipos));
+    for (long i = 1; i <= v.NTipos; ++i) {
+        if (v.B1(i) == 0) v.B1(i) = 0.3;
+        if (v.T1(i) == 0) v.T1(i) = 0.5;
+    }
+    LlenarSpread(6);
+    LlenarSpread(7);
+    Redibujar();
+}
+
+void VigaDatos::ValorLong6(long valor) {
+    CuentaTipos(6, valor);
+    programa_.Viga.Designacion.RedimPreserve(programa_.Viga.NTipos);
+    LlenarSpread(8);
+    LlenarSpread(9);
+}
+
+// --- Cells ---------------------------------------------------------------------------------
+
+Veredicto VigaDatos::ReglaCelda(int n, const Celda& celda) {
+    try {
+        return Regla(n, celda);
+    } catch (const ErrorTrevalo& e) {
+        return Rechazar(MensajeError(e));
+    }
+}
+
+std::optional<Pregunta> VigaDatos::JuntaMayor(double valor, const char* titulo) const {
+    const long tope = programa_.Viga.NT + 1;
+    if (valor <= tope) return std::nullopt;
+    return Aviso("El Número de la Junta no puede ser mayor que " + std::to_string(tope) + "    ",
+                 titulo);
+}
+
+Veredicto VigaDatos::ReglaTipo(long fila, double valor) {
+    VigaActual& v = programa_.Viga;
+    if (valor > v.NTipos) {
+        v.VT(fila) = v.NTipos;
+        Redibujar();
+        Modificar();
+        return Aceptar(static_cast<double>(v.NTipos));
+    }
+    if (valor == 0) return Rechazar();
+    v.VT(fila) = valor;
+    Redibujar();
+    Modificar();
+    return Aceptar();
+}
+
+Veredicto VigaDatos::Regla(int n, const Celda& celda) {
+    VigaActual& v = programa_.Viga;
+    const long r = celda.Fila;
+    const int c = celda.Columna;
+    const bool texto = n == 1 || (n == 8 && c == 1);
+    const bool resorte = n == 5 && c >= 2;
+    if (!texto && !celda.Numero && !resorte) return Rechazar();
+    const double x = celda.Numero.value_or(0.0);
+    const auto junta = [&](Arreglo<std::int16_t>& lista,
+                           const char* titulo) -> std::optional<Veredicto> {
+        if (auto aviso = JuntaMayor(x, titulo)) return Rechazar(std::move(aviso));
+        lista(r) = static_cast<std::int16_t>(CI(x));
+        return std::nullopt;
+    };
+    std::optional<Veredicto> rechazo;
+    switch (n) {
+    case 1:
+        v.NombreEje(r) = Std(celda.Texto);
+        for (int g : {2, 7, 10}) EncabezadosTramos(Spread(g));
+        break;
+    case 2:
+        v.LT(r) = x;
+        break;
+    case 3:
+        if (c == 1)
+            rechazo = junta(v.R3, "Juntas Desplazadas");
+        else
+            (c == 2 ? v.XX : v.YY)(r) = x;
+        break;
+    case 4:
+        if (c == 1) {
+            rechazo = junta(v.R1, "Juntas Desplazadas");
+            break;
+        }
+        if (x < 1 || x > 4) {
+            v.Apoyo(r) = ApoyoFijo;
+            Redibujar();
+            Modificar();
+            return {true, 1.0, std::nullopt, true};
+        }
+        v.Apoyo(r) = static_cast<std::int16_t>(x);
+        break;
+    case 5:
+        if (c == 1) {
+            rechazo = junta(v.R10, "Juntas Desplazadas");
+            break;
+        }
+        // An emptied spring cell is a spring of zero, without a redraw.
+        (c == 2 ? v.SH10 : c == 3 ? v.SV10 : v.SM10)(r) = x;
+        if (!celda.Numero) {
+            Modificar();
+            return Aceptar(0.0);
+        }
+        break;
+    case 6:
+        (c == 1 ? v.B1 : v.T1)(r) = x;
+        break;
+    case 7:
+    case 9:
+        return ReglaTipo(r, x);
+    case 8:
+        if (c == 1)
+            v.Designacion(r) = Std(celda.Texto);
+        else
+            (c == 2 ? v.B1 : v.T1)(r) = x;
+        break;
+    case 11:
+        if (c == 1)
+            rechazo = junta(v.R2, "Acciones Nodales");
+        else
+            (c == 2 ? v.QC1 : c == 3 ? v.QC2 : v.QC3)(r) = x;
+        break;
+    case 12:
+        (c == 1 ? v.LIzq : c == 2 ? v.LDer : v.HC)(r) = x;
+        Modificar();
+        return Aceptar();
+    }
+    if (rechazo) return *rechazo;
+    Redibujar();
+    Modificar();
+    return Aceptar();
+}
+
+void VigaDatos::BloqueSeleccionado(int n) {
+    const auto rangos = Spread(n).selectedRanges();
+    if (rangos.size() != 1) return;
+    const QTableWidgetSelectionRange& b = rangos.front();
+    if (b.rowCount() * b.columnCount() < 2) return;
+    if (n == 10) return MarcarBloque(b.topRow() + 1, b.bottomRow() + 1);
+    if (b.columnCount() != 1) return; // one value goes down one column
+    EntradaBloque(n, b.topRow() + 1, b.bottomRow() + 1, b.leftColumn() + 1);
+}
+
+void VigaDatos::EntradaBloque(int n, int fila1, int fila2, int columna) {
+    if (n == 10) return MarcarBloque(fila1, fila2);
+    const Bloque* bloque = nullptr;
+    for (const Bloque& b : Bloques)
+        if (b.spread == n && b.columna == columna) bloque = &b;
+    if (!bloque) return;
+    QTableWidget& g = Spread(n);
+    Dialogos& dialogo = programa_.Dialogo();
+    const auto respuesta =
+        dialogo.Entrada({std::string("\n\n\n\n\n") + bloque->texto, bloque->titulo, "0"});
+    if (!respuesta || QString::fromStdString(*respuesta).trimmed().isEmpty())
+        return g.clearSelection();
+    const auto& carpetas = programa_.Carpetas;
+    auto valor = LeerNumero(Qs(*respuesta), carpetas.SeparadorDecimal, carpetas.SeparadorMiles);
+    if (!valor) {
+        dialogo.Mensaje(Aviso("Debe Introducir un Número...    ", bloque->tituloError));
+        return;
+    }
+    if (n == 7 || n == 9) {
+        valor = static_cast<double>(CI(*valor));
+        if (*valor == 0) return;
+        if (*valor > programa_.Viga.NTipos) {
+            dialogo.Mensaje(Aviso("El Tipo de Viga no puede ser mayor que " +
+                                      std::to_string(programa_.Viga.NTipos) + "      ",
+                                  "Tipos de Viga"));
+            return g.clearSelection();
+        }
+    }
+    agrupando_ = true;
+    Delegado(g).Llenar(fila1, fila2, columna, Delegado(g).Texto(fila1, columna, *valor));
+    agrupando_ = false;
+    if (redibujoPendiente_ && n != 12) Redibujar();
+    redibujoPendiente_ = false;
+    g.clearSelection();
+}
+
+void VigaDatos::MarcarBloque(int fila1, int fila2) {
+    VigaActual& v = programa_.Viga;
+    QTableWidget& g = Spread(10);
+    for (int f = fila1; f <= fila2 && f <= v.NT; ++f) {
+        v.TramoMarcado(f) = true;
+        MarcarCelda(g, f, 1, true);
+        ColorFila(g, f, ColorMarcado);
+    }
+    Redibujar();
+    g.clearSelection();
+}
+
+// --- Supports, material, factor, loads -----------------------------------------------------
+
+void VigaDatos::ColocarApoyo(int tipo) {
+    QTableWidget& g = Spread(4);
+    const int fila = g.currentRow() + 1;
+    if (fila < 1) return g.setFocus();
+    programa_.Viga.Apoyo(fila) = static_cast<std::int16_t>(tipo);
+    Delegado(g).ColocarValor(fila, 2, tipo);
+    if (fila < g.rowCount()) g.setCurrentCell(fila, 1);
+    Redibujar();
+    g.setFocus();
+    Modificar();
+}
+
+void VigaDatos::Material(bool concreto) {
+    programa_.Viga.OpcionConcreto = concreto ? 0 : 1;
+    if (cargando_) return;
+    Modificar();
+    Redibujar();
+}
+
+void VigaDatos::TerminarFactor(bool retorno) {
+    if (cambiando_) {
+        VigaActual& v = programa_.Viga;
+        double factor = double1_->Valor();
+        if (factor <= 0 || factor > 5) factor = 1.5;
+        double1_->ColocarValor(factor);
+        v.FMayoracion = factor;
+        Preservar(v.NT, v.FMayorTramo);
+        for (long i = 1; i <= v.NT; ++i) v.FMayorTramo(i) = factor;
+        cambiando_ = 0;
+    }
+    if (retorno) Spread(10).setFocus();
+}
+
+void VigaDatos::Marcar(int fila, bool marcada) {
+    programa_.Viga.TramoMarcado(fila) = marcada;
+    ColorFila(Spread(10), fila, marcada ? ColorMarcado : ColorBlanco);
+    Redibujar();
+}
+
+void VigaDatos::SeleccionarTodos() {
+    MarcarBloque(1, programa_.Viga.NT);
+}
+
+void VigaDatos::DesmarcarTodos() {
+    VigaActual& v = programa_.Viga;
+    v.TramoMarcado.Redim(v.NT);
+    LlenarMarcas();
+    pantalla_->Limpiar();
+    Redibujar();
+}
+
+void VigaDatos::BandaSoltada(const BandaSeleccion& banda) {
+    setUpdatesEnabled(false);
+    const std::vector<long> tomados = SeleccioneZoom(programa_.Vista, programa_.Viga, banda);
+    for (long t : tomados) {
+        MarcarCelda(Spread(10), static_cast<int>(t), 1, true);
+        ColorFila(Spread(10), static_cast<int>(t), ColorMarcado);
+    }
+    if (tomados.empty())
+        DesmarcarTodos();
+    else
+        Redibujar();
+    setUpdatesEnabled(true);
+}
+
+void VigaDatos::BotonCarga(int tipo) {
+    const VigaActual& v = programa_.Viga;
+    Arreglo<std::int16_t> tramoCarga(v.NT);
+    bool alguno = false;
+    for (int i = 1; i <= v.NT; ++i) {
+        tramoCarga(i) = CeldaMarcada(Spread(10), i, 1) ? 1 : 0;
+        alguno |= tramoCarga(i) == 1;
+    }
+    if (!alguno) {
+        const BotonCargaDef& b = BotonesCarga[tipo - 1];
+        programa_.Dialogo().Mensaje(Aviso(b.textoAviso, b.tituloAviso));
+        return Spread(10).setFocus();
+    }
+    if (!MostrarCarga(tipo, tramoCarga)) return;
+    DesmarcarTodos();
+    Modificar();
+}
+
+bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>&) {
+    // The load dialogs come in their own windows; until then the button says so.
+    programa_.Dialogo().Mensaje(
+        {"Esta parte del programa aún no está disponible.      ",
+         Std(botones_[QString::fromUtf8(BotonesCarga[tipo - 1].nombre)]->text().trimmed()),
+         BotonesMensaje::Aceptar, IconoMensaje::Informacion, 1});
+    return false;
+}
+
+void VigaDatos::EliminarCargas() {
+    const Pregunta pregunta{
+        "Eliminar todas las Cargas en la Viga!        \nEsta Usted Seguro?        ",
+        "Cargas en los Tramos", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 2};
+    if (programa_.Dialogo().Mensaje(pregunta) != RespuestaSi) return;
+    trevalo::EliminarCargas(programa_.Viga);
+    DesmarcarTodos();
+    Modificar();
+}
+
+void VigaDatos::PerfilesMetalicos() {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    MostrarVigasMetalicas();
+    QApplication::restoreOverrideCursor();
+    Spread(8).setFocus();
+}
+
+void VigaDatos::MostrarVigasMetalicas() {
+    // The steel profile window comes in its own unit; until then the button says so.
+    QApplication::restoreOverrideCursor();
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
+                                 "Perfiles Metálicos", BotonesMensaje::Aceptar,
+                                 IconoMensaje::Informacion, 1});
+}
+
+// --- Tools, drawing, saving, leaving -------------------------------------------------------
+
+void VigaDatos::Despachar(const QString& clave) {
+    auto& vista = programa_.Vista;
+    setUpdatesEnabled(false);
+    if (clave == QStringLiteral("ID_ZoomIN"))
+        pantalla_->ZoomIn();
+    else if (clave == QStringLiteral("ID_ZoomOut"))
+        pantalla_->ZoomOut();
+    else if (clave == QStringLiteral("ID_ZoomExtents"))
+        pantalla_->ZoomExtents();
+    else {
+        if (clave == QStringLiteral("ID_NJuntas"))
+            vista.VerJuntas = Accion(clave)->isChecked();
+        else if (clave == QStringLiteral("ID_DIzquierda"))
+            DesplazarVista(vista, Direccion::Izquierda);
+        else if (clave == QStringLiteral("ID_DDerecha"))
+            DesplazarVista(vista, Direccion::Derecha);
+        else if (clave == QStringLiteral("ID_DArriba"))
+            DesplazarVista(vista, Direccion::Arriba);
+        else if (clave == QStringLiteral("ID_DAbajo"))
+            DesplazarVista(vista, Direccion::Abajo);
+        Redibujar();
+    }
+    setUpdatesEnabled(true);
+    if (!cargando_) pantalla_->setFocus();
+}
+
+void VigaDatos::Redibujar() {
+    if (agrupando_) {
+        redibujoPendiente_ = true;
+        return;
+    }
+    pantalla_->Pintar();
+}
+
+void VigaDatos::Modificar() {
+    modificada_ = true;
+}
+
+bool VigaDatos::Salvar() {
+    auto& estado = programa_.Estado;
+    try {
+        if (proyecto_ && estado.RsGeneralViga && proyecto_->FilaActiva() > 0)
+            estado.RsGeneralViga->AbsolutePosition(proyecto_->FilaActiva() - 1);
+        programa_.Viga.NombreVigaActual = Std(lblNombre_->text());
+        SalvarViga(estado, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+        return false;
+    }
+    modificada_ = false;
+    return true;
+}
+
+bool VigaDatos::PreguntarSalvar(bool conCancelar) {
+    if (!modificada_) return true;
+    const Pregunta pregunta{"Viga: " + programa_.Viga.NombreVigaActual + "        \n" +
+                                "Desea Salvar las Modificaciones en la Viga?       \n",
+                            "Datos Generales de la Viga",
+                            conCancelar ? BotonesMensaje::SiNoCancelar : BotonesMensaje::SiNo,
+                            IconoMensaje::Pregunta, 1};
+    switch (programa_.Dialogo().Mensaje(pregunta)) {
+    case RespuestaSi:
+        return Salvar();
+    case RespuestaNo:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void VigaDatos::reject() {
+    // A count or the factor being typed counts as entered before the question.
+    if (cambiando_) {
+        for (int n = 1; n <= 7; ++n)
+            if (Long(n).hasFocus()) TerminarLong(n, false);
+        if (double1_->hasFocus()) TerminarFactor(false);
+    }
+    if (!PreguntarSalvar(true)) return;
+    programa_.Vista.ModoEditor = false;
+    QDialog::reject();
+}
+
+void VigaDatos::MoverViga(int indice) {
+    if (!PreguntarSalvar(false) || !proyecto_) return;
+    programa_.SinFocoCanvas = true;
+    proyecto_->BtoMove_Click(indice);
     programa_.Vista.ModoEditor = true;
-    pantalla_->setFocus();
+    CopiarMovimientos();
+    auto& estado = programa_.Estado;
+    if (estado.RsGeneralViga && proyecto_->FilaActiva() > 0) {
+        estado.RsGeneralViga->AbsolutePosition(proyecto_->FilaActiva() - 1);
+        programa_.Viga.NombreVigaActual = estado.RsGeneralViga->Campo("NombreViga").Texto();
+    }
+    Rotulos();
+    try {
+        LeerViga(estado, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+    }
+    ColoquePantalla();
+    Redibujar();
+    modificada_ = false;
+}
+
+bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
+    // Leaving a count box or the factor ends its entry.
+    if (evento->type() == QEvent::FocusOut) {
+        for (int n = 1; n <= 7; ++n)
+            if (objeto == long_[static_cast<std::size_t>(n)]) TerminarLong(n, false);
+        if (objeto == double1_) TerminarFactor(false);
+        return false;
+    }
+    for (int n = 1; n <= 12; ++n) {
+        QTableWidget* g = spread_[static_cast<std::size_t>(n)];
+        if (!g) continue;
+        if (objeto == g && evento->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(evento)->matches(QKeySequence::Paste)) {
+            agrupando_ = true;
+            Delegado(*g).Pegar(QGuiApplication::clipboard()->text());
+            agrupando_ = false;
+            if (redibujoPendiente_) Redibujar();
+            redibujoPendiente_ = false;
+            return true;
+        }
+        // A block chosen with the mouse or with Shift and the arrows.
+        const bool suelta =
+            (objeto == g->viewport() && evento->type() == QEvent::MouseButtonRelease) ||
+            (objeto == g && evento->type() == QEvent::KeyRelease &&
+             static_cast<QKeyEvent*>(evento)->key() == Qt::Key_Shift);
+        if (suelta) BloqueSeleccionado(n);
+    }
+    return QDialog::eventFilter(objeto, evento);
 }
 
 } // namespace trevalo

@@ -1,27 +1,168 @@
 #pragma once
-// The beam editor. For now it shows the beam as the editor draws it (its elevation, zoom and
-// pan on the canvas) under the editor's title, and " Retorno "; the pages of grids, the load
-// dialogs and the save come with the full editor.
+// The beam editor: nine pages of grids beside a live drawing of the beam. Every accepted cell
+// changes the beam in the model at once and redraws; the file is written only by " Salvar "
+// (Ctrl+S) and by the question on leaving, which every way out asks (" Retorno ", the close
+// button, Esc, the moves to the previous and next beam). Validation is per cell, on entry:
+// what the grids accept is what is stored.
+//
+// Pages (moved through with " Anterior " / " Siguiente "; the tabs are not clickable):
+//   1 spans and axis names   2 displaced joints   3 restrained joints   4 spring joints
+//   5 concrete types         6 steel types        7 span loads          8 joint actions
+//   9 dimensions at the supports (not reached on a steel beam)
 
 #include <QDialog>
+#include <array>
+#include <cstdint>
+#include <map>
 
+#include "shell/DelegadosCelda.h"
 #include "shell/Programa.h"
+
+class QAction;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QTabWidget;
+class QTableWidget;
 
 namespace trevalo {
 
+class CampoNumero;
 class PantallaViga;
+class ToolTipTrevalo;
+class VigasProyecto;
+struct BandaSeleccion;
 
 class VigaDatos : public QDialog {
     Q_OBJECT
 
   public:
+    // `parent` is the project window when the editor is opened from it; the moves to the
+    // previous and next beam and the row the save writes to are its.
     VigaDatos(Programa& programa, QWidget* parent = nullptr);
+    ~VigaDatos() override;
 
     PantallaViga& Lienzo() { return *pantalla_; }
+    // Page in front, 1 to 9.
+    int Pagina() const;
+    bool Modificada() const { return modificada_; }
+    // The grid SpreadN and the count box LongN, as the pages number them.
+    QTableWidget& Spread(int n) { return *spread_.at(static_cast<std::size_t>(n)); }
+    QLineEdit& Long(int n) { return *long_.at(static_cast<std::size_t>(n)); }
+    QAction* Accion(const QString& clave) const;
+
+    // " Salvar ": true when the file took the beam.
+    bool Salvar();
+    // The whole window filled again from the model.
+    void ColoquePantalla();
+
+  public slots:
+    void reject() override; // every way out
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:
+    // Building the window.
+    QWidget* CrearPaginas();
+    QWidget* PaginaTramos();
+    QWidget* PaginaDesplazadas();
+    QWidget* PaginaRestringidas();
+    QWidget* PaginaResortes();
+    QWidget* PaginaTiposConcreto();
+    QWidget* PaginaTiposMetalicos();
+    QWidget* PaginaCargas();
+    QWidget* PaginaAcciones();
+    QWidget* PaginaAcotamiento();
+    QWidget* CrearHerramientas();
+    QWidget* CrearPie();
+    QTableWidget* CrearSpread(int n, const QString& nombre, const QStringList& columnas);
+    QLineEdit* CrearLong(int n, const QString& titulo, int maximo);
+    QPushButton* CrearBoton(const char* nombre, const char* titulo);
+    void ConfigurarSpread();
+    void ConfigurarToolTips();
+
+    // Filling the grids from the model.
+    void LlenarSpread(int n);
+    void EncabezadosTramos(QTableWidget& grid);
+    void LlenarMarcas();
+    void MostrarCuenta(int n);
+
+    // Moves between pages.
+    void Siguiente();
+    void Anterior();
+    void IrA(int pagina, bool juntas);
+    bool LongitudesValidas();
+
+    // Count boxes.
+    void TerminarLong(int n, bool retorno);
+    void ValorLong(int n);
+    void ValorLong1(long valor);
+    // The count of types in box 5 or 6: at least one, spans of a type beyond it on type 1.
+    void CuentaTipos(int caja, long valor);
+    void ValorLong5(long valor);
+    void ValorLong6(long valor);
+
+    // Cells.
+    Veredicto ReglaCelda(int n, const Celda& celda);
+    Veredicto Regla(int n, const Celda& celda);
+    std::optional<Pregunta> JuntaMayor(double valor, const char* titulo) const;
+    Veredicto ReglaTipo(long fila, double valor);
+    // A block of cells chosen: an input box for one value, or ticks on the load page.
+    void BloqueSeleccionado(int n);
+    void EntradaBloque(int n, int fila1, int fila2, int columna);
+    void MarcarBloque(int fila1, int fila2);
+
+    // Page 3, 7 and the material.
+    void ColocarApoyo(int tipo);
+    void Material(bool concreto);
+    void TerminarFactor(bool retorno);
+    void Marcar(int fila, bool marcada);
+    void SeleccionarTodos();
+    void DesmarcarTodos();
+    void BandaSoltada(const BandaSeleccion& banda);
+    void BotonCarga(int tipo);
+    // The load dialog of kind 1..8 over the marked spans; true when the load was accepted.
+    bool MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga);
+    void EliminarCargas();
+    void PerfilesMetalicos();
+    // The steel profile window over the beam's types.
+    void MostrarVigasMetalicas();
+
+    // Tools, drawing, leaving.
+    void Despachar(const QString& clave);
+    void Redibujar();
+    void Modificar();
+    bool PreguntarSalvar(bool conCancelar);
+    void MoverViga(int indice);
+    void Rotulos();
+    // The moves to the previous and next beam as the project window allows them.
+    void CopiarMovimientos();
+
     Programa& programa_;
-    PantallaViga* pantalla_;
+    VigasProyecto* proyecto_;
+    bool cargando_ = true;
+    int pagina_ = 1;
+    int cambiando_ = 0;
+    bool modificada_ = false;
+    bool agrupando_ = false; // a block or a paste: one redraw at its end
+    bool redibujoPendiente_ = false;
+
+    QLabel* lblNombre_ = nullptr;
+    QTabWidget* tab1_ = nullptr;
+    PantallaViga* pantalla_ = nullptr;
+    ToolTipTrevalo* toolTip_ = nullptr;
+    QPushButton* button1_ = nullptr;
+    QPushButton* button2_ = nullptr;
+    std::array<QPushButton*, 2> btoMove_{};
+    QRadioButton* option1_ = nullptr;
+    QRadioButton* option2_ = nullptr;
+    CampoNumero* double1_ = nullptr;
+    std::array<QTableWidget*, 13> spread_{};
+    std::array<QLineEdit*, 8> long_{};
+    std::map<QString, QAction*> acciones_;
+    std::map<QString, QPushButton*> botones_;
 };
 
 } // namespace trevalo

@@ -40,13 +40,6 @@ const char* const Pestanas[] = {
     "1.- Geometría y Cargas en la Viga", "2.- Diagramas de Cortes y Momentos",
     "3.- Análisis y Diseño de la Viga", "4.- Desplazamientos de las Juntas"};
 
-// A tool of the window: key, caption, and whether it stays pressed.
-struct Herramienta {
-    const char* clave;
-    const char* titulo;
-    bool presionable;
-};
-
 const Herramienta Herramientas[] = {
     {"ID_Abrir", "Abrir un Proyecto Existente", false},
     {"ID_Cuadricula", "Cuadrícula de Fondo", true},
@@ -200,24 +193,9 @@ VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
 VigasProyecto::~VigasProyecto() = default;
 
 QToolBar* VigasProyecto::CrearHerramientas() {
-    auto* barra = new QToolBar(this);
-    barra->setObjectName(QStringLiteral("ToolBar1"));
-    barra->setIconSize(QSize(24, 24));
-    for (const Herramienta& h : Herramientas) {
-        const QString clave = QString::fromUtf8(h.clave);
-        QAction* a = barra->addAction(IconoHerramienta(clave), QString::fromUtf8(h.titulo));
-        a->setObjectName(clave);
-        a->setCheckable(h.presionable);
-        if (clave == QStringLiteral("ID_PanRealtime"))
-            pantalla_->FijarHerramientaPan(a);
-        else
-            connect(a, &QAction::triggered, this, [this, clave] { Despachar(clave); });
-        acciones_[clave] = a;
-        if (clave == QStringLiteral("ID_Abrir") || clave == QStringLiteral("ID_PanRealtime") ||
-            clave == QStringLiteral("ID_LetraR"))
-            barra->addSeparator();
-    }
-    return barra;
+    return BarraHerramientas(
+        *this, Herramientas, *pantalla_, [this](const QString& clave) { Despachar(clave); },
+        {"ID_Abrir", "ID_PanRealtime", "ID_LetraR"}, acciones_);
 }
 
 QWidget* VigasProyecto::CrearBotones() {

@@ -264,3 +264,21 @@ TEST(Elevacion, AccionesDeJunta) {
 }
 
 } // namespace
+
+// Rows the editor has just added name joint 0 until their joint is typed: they draw nothing.
+TEST(Elevacion, FilasSinJuntaNoDibujanNada) {
+    const auto operaciones = [](const VigaActual& viga) {
+        LienzoGrabador lienzo{1000, 600};
+        EstadoPloteos estado;
+        ResultadosViga resultados;
+        VigaActual v = viga;
+        EXPECT_NO_THROW(PlotearViga(lienzo, estado, ProyectoActual{}, v, resultados));
+        return lienzo.Operaciones().size();
+    };
+    const VigaActual base = UnTramo();
+    VigaActual v = base;
+    PonerDesplazadas(v, {{0, 0.5, 0.5}});
+    PonerResortes(v, {{0, 0, 1000, 0}});
+    PonerAcciones(v, {{0, 100, 200, 300}});
+    EXPECT_EQ(operaciones(v), operaciones(base));
+}

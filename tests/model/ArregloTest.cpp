@@ -90,3 +90,31 @@ TEST(ModeloViga, ReiniciarUsaElLiteral15YConservaNT) {
     EXPECT_EQ(v.NombreEje(1), "");
     EXPECT_EQ(v.LDer(3), 0.15);
 }
+
+TEST(ModeloViga, EliminarCargasVaciaLasOchoClasesYConservaLoDemas) {
+    VigaActual v;
+    NuevaVigaDefecto(v);
+    v.NT = 2;
+    RedimensionarViga(v);
+    v.LT(2) = 3;
+    v.W1(2) = 500;
+    v.Gravedad(2) = 1;
+    v.CantW2(1) = 1;
+    v.P(1, 1) = 900;
+    v.LP(1, 1) = 1.5;
+    v.W5(2) = 40;
+    v.la5(2) = 0.7;
+    v.CantW8(2) = 5;
+    v.WDer8_(2, 5) = 70;
+    v.Lb7_(1, 5) = 2.5;
+    const VigaActual antes = v;
+    EliminarCargas(v);
+    EXPECT_EQ(v.W1(2) + v.Gravedad(2) + v.CantW2(1) + v.P(1, 1) + v.W5(2) + v.CantW8(2) +
+                  v.WDer8_(2, 5),
+              0);
+    EXPECT_EQ(v.LP(1, 1) + v.la5(2) + v.Lb7_(1, 5), 0.0);
+    EXPECT_EQ(v.P.Ubound2(), MaxCargas10);
+    EXPECT_EQ(v.WDer8_.Ubound2(), MaxCargas5);
+    EXPECT_EQ(v.LT, antes.LT);
+    EXPECT_EQ(v.R1, antes.R1);
+}

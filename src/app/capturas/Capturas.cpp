@@ -11,6 +11,7 @@
 #include <functional>
 #include <iostream>
 
+#include "CapturasEditor.h"
 #include "app/capturas/Capturas.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
@@ -22,7 +23,6 @@
 #include "shell/Splash.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
-#include "shell/VigaDatos.h"
 #include "shell/VigaSalvarComo.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
@@ -97,9 +97,12 @@ void Recorrido(Programa& programa) {
     if (QWidget* globo = ventana.ToolTip().Globo()) Guardar(*globo, QStringLiteral("05_tooltip"));
     ventana.ToolTip().Ocultar();
 
-    VigaDatos editor(programa, &ventana);
-    Capturar(editor, QStringLiteral("06_editor"));
-    CapturasCargas(programa, editor);
+    CapturasEditor(programa, ventana,
+                   [](QWidget& w, const QString& nombre) { Guardar(w, nombre); });
+    {
+        VigaDatos editor(programa, &ventana);
+        CapturasCargas(programa, editor);
+    }
     programa.Vista.ModoEditor = false;
 
     DatosG datos(programa, &menu);

@@ -1,0 +1,56 @@
+#include "CapturasEditor.h"
+
+#include <QPushButton>
+
+#include "shell/VigaDatos.h"
+#include "shell/VigasProyecto.h"
+
+namespace trevalo {
+
+namespace {
+
+// The pages of an editor, from the first, each moved to with " Siguiente " as a person does.
+void Paginas(VigaDatos& editor, const QString& prefijo,
+             const std::function<void(QWidget&, const QString&)>& guardar) {
+    editor.show();
+    auto* siguiente = editor.findChild<QPushButton*>(QStringLiteral("Button2"));
+    for (;;) {
+        const int pagina = editor.Pagina();
+        if (pagina == 7) // every span marked for loads, in its colour
+            editor.findChild<QPushButton*>(QStringLiteral("SSCommand1"))->click();
+        guardar(editor, prefijo + QStringLiteral("_pagina%1").arg(pagina));
+        if (!siguiente->isEnabled()) break;
+        siguiente->click();
+    }
+    editor.hide();
+}
+
+} // namespace
+
+void CapturasEditor(Programa& programa, VigasProyecto& ventana,
+                    const std::function<void(QWidget&, const QString&)>& guardar) {
+    {
+        VigaDatos editor(programa, &ventana);
+        Paginas(editor, QStringLiteral("06_editor_concreto"), guardar);
+    }
+    VigaActual& viga = programa.Viga;
+    viga.OpcionConcreto = 1;
+    viga.NTipos = 2;
+    viga.B1.Redim(2);
+    viga.T1.Redim(2);
+    viga.Designacion.Redim(2);
+    viga.Designacion(1) = "IPE 300";
+    viga.B1(1) = 53.8;
+    viga.T1(1) = 8356;
+    viga.Designacion(2) = "IPE 360";
+    viga.B1(2) = 72.7;
+    viga.T1(2) = 16270;
+    for (long t = 1; t <= viga.NT; ++t) viga.VT(t) = t % 2 == 0 ? 2 : 1;
+    {
+        VigaDatos editor(programa, &ventana);
+        Paginas(editor, QStringLiteral("06_editor_metalica"), guardar);
+    }
+    programa.Vista.ModoEditor = false;
+}
+
+} // namespace trevalo

@@ -1,0 +1,581 @@
+// Journeys of a person through the beam editor: a five-span beam typed from the default new
+// beam with the keyboard, saved with Ctrl+S and read back from the file; the limits of the
+// count boxes and of the cells; the block entry, the paste of a block with bad cells; the
+// moves between pages on a steel beam; every way out; a save the file refuses; and a seeded
+// storm of keys and clicks after which the beam saved is the beam in the model.
+
+#include <QAction>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRandomGenerator>
+#include <QTableWidget>
+#include <algorithm>
+
+#include "VentanasPrueba.h"
+#include "comun/Proyecto.h"
+#include "shell/CampoNumero.h"
+#include "shell/PantallaViga.h"
+#include "shell/VigaDatos.h"
+#include "shell/VigasProyecto.h"
+#include "store/BaseDatos.h"
+
+using namespace trevalo;
+using namespace trevalo::prueba;
+
+namespace {
+
+const std::string Proyecto = "Editor.trv";
+
+Pregunta Aviso(const std::string& texto, const std::string& titulo) {
+    return {texto, titulo, BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1};
+}
+
+Pregunta PreguntaSalir(bool conCancelar) {
+    return {"Viga: V-1        \nDesea Salvar las Modificaciones en la Viga?       \n",
+            "Datos Generales de la Viga",
+            conCancelar ? BotonesMensaje::SiNoCancelar : BotonesMensaje::SiNo,
+            IconoMensaje::Pregunta, 1};
+}
+
+// The project Editor.trv with the one beam V-1 (the default of a new beam unless given), open
+// in the program's state as the project window leaves it.
+void PrepararProyecto(ProgramaPrueba& p, VigaActual viga) {
+    viga.NombreVigaActual = "V-1";
+    const std::string ruta = p.programa.Carpetas.RutaProyectos + "/" + Proyecto;
+    CrearProyecto(ruta, {viga}, AjustesPrueba());
+    EstadoProyecto& estado = p.programa.Estado;
+    estado.NombreProyecto = Proyecto;
+    estado.BDProyecto = BaseDatos::Abrir(ruta);
+    AbrirRsGeneralViga(estado, ConsultaListaVigas);
+    LeerGeneralProyecto(*estado.BDProyecto, p.programa.Proyecto);
+    p.programa.Viga.NombreVigaActual = "V-1";
+    p.programa.Viga.VigaNueva = true; // the editor reads the beam
+}
+
+VigaActual VigaNuevaDefecto() {
+    VigaActual v;
+    NuevaVigaDefecto(v);
+    return v;
+}
+
+// The beam V-1 as the file holds it now.
+VigaActual EnArchivo(ProgramaPrueba& p) {
+    EstadoProyecto otro;
+    otro.BDProyecto = BaseDatos::Abrir(p.programa.Carpetas.RutaProyectos + "/" + Proyecto);
+    AbrirRsGeneralViga(otro, ConsultaListaVigas);
+    VigaActual v;
+    v.NombreVigaActual = "V-1";
+    LeerViga(otro, v);
+    return v;
+}
+
+std::unique_ptr<VigaDatos> Abrir(ProgramaPrueba& p) {
+    auto editor = std::make_unique<VigaDatos>(p.programa);
+    editor->show();
+    QApplication::setActiveWindow(editor.get());
+    if (!QTest::qWaitForWindowActive(editor.get()))
+        QTest::qFail("editor sin mostrar", __FILE__, __LINE__);
+    return editor;
+}
+
+void Pulsar(VigaDatos& e, const char* boton) {
+    QTest::mouseClick(Hijo<QPushButton>(e, QString::fromLatin1(boton)), Qt::LeftButton);
+}
+
+// A count typed into a box and entered with Return.
+void Contar(VigaDatos& e, int n, const QString& cuenta) {
+    QLineEdit& caja = e.Long(n);
+    caja.setFocus();
+    caja.selectAll();
+    QTest::keyClick(&caja, Qt::Key_Backspace);
+    QTest::keyClicks(&caja, cuenta);
+    QTest::keyClick(&caja, Qt::Key_Return);
+}
+
+// Rows typed into a grid from its cell (fila, columna) on: each value keyed into the cell and
+// entered with Return (which moves down) or Tab-free moves to the next column of the row.
+void Teclear(QTableWidget& g, int fila, int columna, const std::vector<const char*>& filas) {
+    g.setFocus();
+    for (int i = 0; i < static_cast<int>(filas.size()); ++i) {
+        const QStringList celdas =
+            QString::fromUtf8(filas[static_cast<std::size_t>(i)]).split(QLatin1Char('|'));
+        for (int j = 0; j < celdas.size(); ++j) {
+            g.setCurrentCell(fila - 1 + i, columna - 1 + j);
+            QTest::keyClick(&g, Qt::Key_F2);
+            auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+            if (!editor) return QTest::qFail("sin editor de celda", __FILE__, __LINE__);
+            editor->selectAll();
+            QTest::keyClicks(editor, celdas[j]);
+            QTest::keyClick(editor, Qt::Key_Return);
+        }
+    }
+}
+
+// A list of the beam as sorted rows: the file keeps the rows ordered by joint.
+template <typename A, typename... B> Filas Lista(long n, const A& a, const B&... b) {
+    Filas filas;
+    for (long i = 1; i <= n; ++i)
+        filas.push_back({static_cast<double>(a(i)), static_cast<double>(b(i))...});
+    std::sort(filas.begin(), filas.end());
+    return filas;
+}
+
+void Siguiente(VigaDatos& e, int veces = 1) {
+    for (int i = 0; i < veces; ++i) Pulsar(e, "Button2");
+}
+
+} // namespace
+
+class VigaDatosTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<ProgramaPrueba> p;
+    DialogosGuion& dialogos() { return *p->dialogos; }
+
+  private slots:
+    void init() { p = std::make_unique<ProgramaPrueba>(); }
+
+    // A five-span beam typed on the default new beam: axes, lengths, a displaced joint, four
+    // supports through the buttons, a spring, two types with a block entry, the load factor,
+    // a joint action and the dimensions at a support; Ctrl+S, and the file holds what was typed.
+    void VigaDeCincoTramos() {
+        PrepararProyecto(*p, VigaNuevaDefecto());
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        QCOMPARE(e.windowTitle(), QStringLiteral("Datos Generales de la Viga: [ V-1 ]"));
+        QCOMPARE(e.Pagina(), 1);
+        QVERIFY(!Hijo<QPushButton>(e, QStringLiteral("Button1"))->isEnabled());
+
+        Contar(e, 1, QStringLiteral("5"));
+        QVERIFY(!e.Modificada()); // a change of spans alone asks nothing
+        Teclear(e.Spread(1), 1, 1, {"A", "B", "C", "D", "E", "F"});
+        Teclear(e.Spread(2), 1, 1, {"4", "5.5", "3", "6.25", "4.5"});
+        QCOMPARE(e.Spread(2).verticalHeaderItem(1)->text(), QStringLiteral("B - C"));
+        Siguiente(e);
+        QCOMPARE(e.Pagina(), 2);
+        QVERIFY(e.Accion(QStringLiteral("ID_NJuntas"))->isChecked());
+        QVERIFY(p->programa.Vista.VerJuntas);
+
+        Contar(e, 2, QStringLiteral("1"));
+        Teclear(e.Spread(3), 1, 1, {"3|0|-0.015"});
+        Siguiente(e);
+        Contar(e, 3, QStringLiteral("4"));
+        Teclear(e.Spread(4), 1, 1, {"1", "2", "4", "6"});
+        e.Spread(4).setCurrentCell(0, 1);
+        for (const char* apoyo : {"ButtonP4", "ButtonP3", "ButtonP3", "ButtonP1"}) Pulsar(e, apoyo);
+        Siguiente(e);
+        Contar(e, 4, QStringLiteral("1"));
+        Teclear(e.Spread(5), 1, 1, {"5|0|250000|0"});
+        Siguiente(e);
+        QCOMPARE(e.Pagina(), 5);
+        Contar(e, 5, QStringLiteral("2"));
+        QCOMPARE(ValorCelda(e.Spread(6), 2, 1), 0.3); // a new type starts at 0.30 x 0.50
+        Teclear(e.Spread(6), 2, 1, {"0.25|0.45"});
+        dialogos().entradas.push_back("2");
+        e.Spread(7).setRangeSelected(QTableWidgetSelectionRange(1, 0, 2, 0), true);
+        QTest::mouseRelease(e.Spread(7).viewport(), Qt::LeftButton, {},
+                            e.Spread(7).visualItemRect(e.Spread(7).item(2, 0)).center());
+        QCOMPARE(dialogos().pedidos.back(),
+                 (PedidoTexto{"\n\n\n\n\nTipos de Vigas:", "Tipos de Viga", "0"}));
+        Siguiente(e);
+        QCOMPARE(e.Pagina(), 7);
+        CampoNumero* factor = Hijo<CampoNumero>(e, QStringLiteral("Double1"));
+        factor->setFocus();
+        factor->selectAll();
+        QTest::keyClicks(factor, QStringLiteral("1.6"));
+        QTest::keyClick(factor, Qt::Key_Return);
+        Siguiente(e);
+        Contar(e, 7, QStringLiteral("1"));
+        Teclear(e.Spread(11), 1, 1, {"3|100|2000|-50"});
+        Siguiente(e);
+        QCOMPARE(e.Pagina(), 9);
+        Teclear(e.Spread(12), 1, 1, {"0.2|0.25|0.6"});
+        QVERIFY(e.Modificada());
+
+        QTest::keyClick(&e, Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!e.Modificada());
+        QVERIFY(dialogos().preguntas.empty());
+
+        const VigaActual f = EnArchivo(*p);
+        QCOMPARE(f.NT, 5);
+        QCOMPARE(f.NombreEje(6), std::string("F"));
+        const double luces[] = {4, 5.5, 3, 6.25, 4.5};
+        const double tipos[] = {1, 2, 2, 1, 1};
+        for (long t = 1; t <= 5; ++t) {
+            QCOMPARE(f.LT(t), luces[t - 1]);
+            QCOMPARE(f.VT(t), tipos[t - 1]);
+        }
+        QCOMPARE(f.NJDesp, 1);
+        QCOMPARE(f.R3(1), 3);
+        QCOMPARE(f.YY(1), -0.02); // two decimals, half away from zero
+        QCOMPARE(f.NJRest, 4);
+        const std::int16_t juntas[] = {1, 2, 4, 6}, apoyos[] = {4, 3, 3, 1};
+        for (long k = 1; k <= 4; ++k) {
+            QCOMPARE(f.R1(k), juntas[k - 1]);
+            QCOMPARE(f.Apoyo(k), apoyos[k - 1]);
+        }
+        QCOMPARE(f.NJRes, 1);
+        QCOMPARE(f.R10(1), 5);
+        QCOMPARE(f.SV10(1), 250000.0);
+        QCOMPARE(f.NTipos, 2);
+        QCOMPARE(f.B1(2), 0.25);
+        QCOMPARE(f.T1(2), 0.45);
+        QCOMPARE(f.FMayoracion, 1.6);
+        QCOMPARE(f.NAcc, 1);
+        QCOMPARE(f.QC2(1), 2000.0);
+        QCOMPARE(f.QC3(1), -50.0);
+        QCOMPARE(f.HC(1), 0.6);
+        QCOMPARE(f.LDer(1), 0.25);
+        QCOMPARE(f.HC(3), 0.0); // joint 3 has no vertical support
+    }
+
+    // Counts: a box beyond NT + 1 is refused with its message and shows the old count; fewer
+    // spans keep a restraint on a joint past the end; a count of 0 types is one type.
+    void CuentasYSusLimites() {
+        VigaActual v = VigaDeTramos({4, 4, 4, 4, 4});
+        PonerApoyos(v, {{1, ApoyoFijo}, {6, Empotramiento}});
+        PrepararProyecto(*p, v);
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+
+        struct Caso {
+            int caja;
+            const char* texto;
+            const char* titulo;
+        };
+        const Caso casos[] = {
+            {2, "El Número de Juntas Desplazadas no puede ser mayor que 6    ",
+             "Juntas Desplazadas"},
+            {3, "El Número de Juntas ser mayor que 6    ", "Juntas Totalmente restringidas"},
+            {4, "El Número de Juntas ser mayor que 6    ", "Juntas con Resortes"},
+            {7, "El Número de la Junta no puede ser mayor que 6    \n", "Acciones Nodales"},
+        };
+        for (const Caso& c : casos) {
+            const QString antes = e.Long(c.caja).text();
+            Contar(e, c.caja, QStringLiteral("7"));
+            QCOMPARE(dialogos().preguntas.back(), Aviso(c.texto, c.titulo));
+            QCOMPARE(e.Long(c.caja).text(), antes);
+        }
+        QCOMPARE(p->programa.Viga.NJRest, 2);
+
+        // Nothing pruned: the drawing then faults on joint 6, as the analysis would.
+        Contar(e, 1, QStringLiteral("3"));
+        QCOMPARE(p->programa.Viga.NT, 3);
+        QCOMPARE(e.Spread(2).rowCount(), 3);
+        QCOMPARE(p->programa.Viga.R1(2), 6);
+        QCOMPARE(dialogos().preguntas.back().Titulo, std::string("Error Número: 9"));
+        dialogos().preguntas.clear();
+        Contar(e, 1, QStringLiteral("0"));
+        QCOMPARE(p->programa.Viga.NT, 3);
+        QCOMPARE(e.Long(1).text(), QStringLiteral("3"));
+
+        Contar(e, 5, QStringLiteral("0"));
+        QCOMPARE(p->programa.Viga.NTipos, 1);
+        QCOMPARE(e.Long(5).text(), QStringLiteral("1"));
+    }
+
+    // Cells: a zero length is taken by the cell and refused by " Siguiente "; " Salvar " then
+    // saves it. A type beyond NTipos becomes NTipos typed and is refused as a block; a
+    // joint beyond NT + 1 is refused with its message; a support beyond 4 becomes 1; a
+    // factor of 6 becomes 1.5.
+    void CeldasYSusReglas() {
+        VigaActual v = VigaDeTramos({4, 5, 6});
+        PonerTipos(v, {{0.3, 0.5}, {0.3, 0.6}, {0.4, 0.7}});
+        PonerApoyos(v, {{1, ApoyoFijo}});
+        PrepararProyecto(*p, v);
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        const auto& viga = p->programa.Viga;
+
+        Teclear(e.Spread(2), 2, 1, {"0"});
+        QCOMPARE(viga.LT(2), 0.0);
+        Siguiente(e);
+        QCOMPARE(e.Pagina(), 1);
+        QCOMPARE(dialogos().preguntas.back(),
+                 Aviso("¡No pueden existir Tramos con Longitud igual a Cero (0)!",
+                       "Longitud de los Tramos"));
+        QCOMPARE(e.Spread(2).currentRow(), 1);
+        Pulsar(e, "LSButton3");
+        QCOMPARE(EnArchivo(*p).LT(2), 0.0);
+        Teclear(e.Spread(2), 2, 1, {"5"});
+
+        Teclear(e.Spread(7), 1, 1, {"7"});
+        QCOMPARE(viga.VT(1), 3.0);
+        QCOMPARE(ValorCelda(e.Spread(7), 1, 1), 3.0);
+        Teclear(e.Spread(7), 2, 1, {"0"});
+        QCOMPARE(viga.VT(2), 1.0);
+        dialogos().entradas.push_back("7");
+        e.Spread(7).horizontalHeader()->sectionClicked(0);
+        QCOMPARE(dialogos().preguntas.back(),
+                 Aviso("El Tipo de Viga no puede ser mayor que 3      ", "Tipos de Viga"));
+        dialogos().entradas.push_back("abc");
+        e.Spread(2).horizontalHeader()->sectionClicked(0);
+        QCOMPARE(dialogos().preguntas.back(),
+                 Aviso("Debe Introducir un Número...    ", "Longitud de los Tramos"));
+        dialogos().entradas.push_back("2.5");
+        e.Spread(7).horizontalHeader()->sectionClicked(0);
+        QCOMPARE(viga.VT(3), 2.0); // ties to even
+
+        Teclear(e.Spread(4), 1, 1, {"5|9"});
+        QCOMPARE(dialogos().preguntas.back(),
+                 Aviso("El Número de la Junta no puede ser mayor que 4    ", "Juntas Desplazadas"));
+        QCOMPARE(viga.R1(1), 1);
+        QCOMPARE(viga.Apoyo(1), ApoyoFijo);
+        Teclear(e.Spread(4), 1, 2, {"3"});
+        QCOMPARE(viga.Apoyo(1), RodilloEnY);
+        Teclear(e.Spread(4), 1, 2, {"9"});
+        QCOMPARE(viga.Apoyo(1), ApoyoFijo);
+        QCOMPARE(ValorCelda(e.Spread(4), 1, 2), 1.0);
+
+        CampoNumero* factor = Hijo<CampoNumero>(e, QStringLiteral("Double1"));
+        factor->setFocus();
+        factor->selectAll();
+        QTest::keyClicks(factor, QStringLiteral("6"));
+        QTest::keyClick(factor, Qt::Key_Return);
+        QCOMPARE(viga.FMayoracion, 1.5);
+        QCOMPARE(factor->text(), QStringLiteral("1.50"));
+    }
+
+    // A block pasted from a spreadsheet: good cells taken, a bad one keeps its value, the
+    // joint beyond the beam shows its message once, the list grows within its count's limit.
+    void PegarUnBloque() {
+        PrepararProyecto(*p, VigaDeTramos({4, 5, 6}));
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        const auto& viga = p->programa.Viga;
+
+        QTableWidget& luces = e.Spread(2);
+        luces.setFocus();
+        luces.setCurrentCell(0, 0);
+        QGuiApplication::clipboard()->setText(QStringLiteral("4.5\n-3\n7.25\n8\n"));
+        QTest::keyClick(&luces, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(viga.LT(1), 4.5);
+        QCOMPARE(viga.LT(2), 5.0);
+        QCOMPARE(viga.LT(3), 7.25);
+        QCOMPARE(luces.rowCount(), 3); // spans grow through their count only
+        QVERIFY(e.Modificada());
+
+        Siguiente(e, 6);
+        QCOMPARE(e.Pagina(), 8);
+        QTableWidget& acciones = e.Spread(11);
+        acciones.setFocus();
+        acciones.setCurrentCell(0, 0);
+        QGuiApplication::clipboard()->setText(
+            QStringLiteral("2\t100\t0\t0\r\n9\t200\t0\t0\r\n12\t300\t0\t0\r\n3\t400\t5\t0\r\n"));
+        dialogos().preguntas.clear();
+        QTest::keyClick(&acciones, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(viga.NAcc, 4);
+        QCOMPARE(e.Long(7).text(), QStringLiteral("4"));
+        QCOMPARE(viga.R2(1), 2);
+        QCOMPARE(viga.R2(2), 0);
+        QCOMPARE(viga.QC1(2), 200.0);
+        QCOMPARE(viga.R2(4), 3);
+        QCOMPARE(viga.QC2(4), 5.0);
+        QCOMPARE(dialogos().preguntas,
+                 std::vector<Pregunta>{Aviso("El Número de la Junta no puede ser mayor que 4    ",
+                                             "Acciones Nodales")});
+    }
+
+    // A steel beam goes from page 4 to 6 and ends at page 8; back from 8 the move forward
+    // stays off until page 6.
+    void VigaMetalicaNoLlegaALaPagina9() {
+        VigaActual v = VigaDeTramos({4, 5});
+        v.OpcionConcreto = 1;
+        PrepararProyecto(*p, v);
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        QVERIFY(Hijo<QRadioButton>(e, QStringLiteral("Option2"))->isChecked());
+        auto* siguiente = Hijo<QPushButton>(e, QStringLiteral("Button2"));
+        std::vector<int> paginas;
+        for (int i = 0; i < 10; ++i) {
+            if (siguiente->isEnabled()) Siguiente(e);
+            paginas.push_back(e.Pagina());
+        }
+        QCOMPARE(paginas, (std::vector<int>{2, 3, 4, 6, 7, 8, 8, 8, 8, 8}));
+        Pulsar(e, "Button1");
+        QCOMPARE(e.Pagina(), 7);
+        QVERIFY(!siguiente->isEnabled());
+        Pulsar(e, "Button1");
+        QCOMPARE(e.Pagina(), 6);
+        QVERIFY(siguiente->isEnabled());
+        QVERIFY(!e.Modificada());
+    }
+
+    // Every way out asks about a changed beam: cancel keeps the window, no drops the edits,
+    // yes saves; a save the file refuses shows its error and keeps the beam changed.
+    void SalidasYSalvarRechazado() {
+        PrepararProyecto(*p, VigaDeTramos({4, 5}));
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        Teclear(e.Spread(2), 1, 1, {"4.75"});
+
+        dialogos().respuestas = {RespuestaCancelar, RespuestaCancelar, RespuestaCancelar};
+        Pulsar(e, "LSButton2");
+        QTest::keyClick(&e, Qt::Key_Escape);
+        e.close();
+        QVERIFY(e.isVisible());
+        QCOMPARE(dialogos().preguntas, std::vector<Pregunta>(3, PreguntaSalir(true)));
+        QCOMPARE(EnArchivo(*p).LT(1), 4.0);
+
+        // The file refuses: a table of the beam is gone underneath.
+        BaseDatos::Abrir(p->programa.Carpetas.RutaProyectos + "/" + Proyecto)
+            .Ejecutar("DROP TABLE Tramos");
+        dialogos().respuestas = {RespuestaSi};
+        Pulsar(e, "LSButton2");
+        QVERIFY(e.isVisible());
+        QVERIFY(e.Modificada());
+        QVERIFY(dialogos().preguntas.back().Titulo.rfind("Error: ", 0) == 0);
+
+        dialogos().respuestas = {RespuestaNo};
+        e.close();
+        QVERIFY(!e.isVisible());
+        QVERIFY(!p->programa.Vista.ModoEditor);
+    }
+
+    // From the project window, the moves to the next and previous beam ask about a changed
+    // beam with yes and no, then show the other beam; the moves follow the list's ends.
+    void MoverseEntreVigas() {
+        p->programa.Estado.NombreProyecto = "Ejemplo Demostrativo.trv";
+        VigasProyecto ventana(p->programa);
+        const auto nombres = ventana.NombresLista();
+        VigaDatos editor(p->programa, &ventana);
+        auto* anterior = Hijo<QPushButton>(editor, QStringLiteral("BtoMove0"));
+        auto* siguiente = Hijo<QPushButton>(editor, QStringLiteral("BtoMove1"));
+        QVERIFY(!anterior->isEnabled());
+        QVERIFY(siguiente->isEnabled());
+        editor.show();
+        QApplication::setActiveWindow(&editor);
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        Teclear(editor.Spread(2), 1, 1, {"7.5"});
+        dialogos().respuestas = {RespuestaNo};
+        QTest::mouseClick(siguiente, Qt::LeftButton);
+        const Pregunta pregunta{
+            "Viga: " + nombres[0] +
+                "        \nDesea Salvar las Modificaciones en la Viga?       \n",
+            "Datos Generales de la Viga", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1};
+        QCOMPARE(dialogos().preguntas, std::vector<Pregunta>{pregunta});
+        QCOMPARE(p->programa.Viga.NombreVigaActual, nombres[1]);
+        QCOMPARE(editor.windowTitle(), Qs("Datos Generales de la Viga: [ " + nombres[1] + " ]"));
+        QCOMPARE(ValorCelda(editor.Spread(2), 1, 1), p->programa.Viga.LT(1));
+        QVERIFY(!editor.Modificada());
+        QVERIFY(anterior->isEnabled());
+        QTest::mouseClick(anterior, Qt::LeftButton);
+        QCOMPARE(p->programa.Viga.NombreVigaActual, nombres[0]);
+        QVERIFY(p->programa.Viga.LT(1) != 7.5); // the edit was dropped
+        QCOMPARE(dialogos().preguntas.size(), std::size_t(1));
+        QVERIFY(p->programa.Vista.ModoEditor);
+    }
+
+    // Loads: with no span marked the load button warns; the band on the canvas marks spans;
+    // the marks and " Eliminar las cargas de la viga. " act on the model.
+    void CargasYMarcas() {
+        VigaActual v = VigaDeTramos({4, 5, 6});
+        PonerCargas(v, {{1, 1, {{500}}}, {2, 2, {{900, 1.5}}}, {3, 8, {{10, 20, 0.5, 2}}}});
+        PrepararProyecto(*p, v);
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        Siguiente(e, 5);
+        QCOMPARE(e.Pagina(), 7);
+        Pulsar(e, "LSButton25");
+        QCOMPARE(dialogos().preguntas.back(), Aviso("\nNo ha seleccionado ningún Tramo...       ",
+                                                    "Carga Uniforme en los Tramos"));
+        Pulsar(e, "LSButton27");
+        QCOMPARE(dialogos().preguntas.back(),
+                 Aviso("No ha seleccionado ningún Tramo...    ", "Cargas en los Tramos"));
+
+        // A band over the whole canvas takes every span.
+        PantallaViga& lienzo = e.Lienzo();
+        QTest::mousePress(&lienzo, Qt::LeftButton, {}, QPoint(2, 2));
+        QTest::mouseMove(&lienzo, QPoint(lienzo.width() - 2, lienzo.height() - 2));
+        QTest::mouseRelease(&lienzo, Qt::LeftButton, {},
+                            QPoint(lienzo.width() - 2, lienzo.height() - 2));
+        for (int t = 1; t <= 3; ++t) {
+            QVERIFY(p->programa.Viga.TramoMarcado(t));
+            QVERIFY(CeldaMarcada(e.Spread(10), t, 1));
+        }
+        Pulsar(e, "SSCommand2");
+        QVERIFY(!CeldaMarcada(e.Spread(10), 2, 1));
+        QVERIFY(!p->programa.Viga.TramoMarcado(2));
+
+        dialogos().respuestas = {RespuestaNo, RespuestaSi};
+        Pulsar(e, "ButtonE");
+        QCOMPARE(
+            dialogos().preguntas.back(),
+            (Pregunta{"Eliminar todas las Cargas en la Viga!        \nEsta Usted Seguro?        ",
+                      "Cargas en los Tramos", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 2}));
+        QCOMPARE(p->programa.Viga.W1(1), 500);
+        Pulsar(e, "ButtonE");
+        QCOMPARE(p->programa.Viga.W1(1), 0);
+        QCOMPARE(p->programa.Viga.CantW2(2), 0);
+        QCOMPARE(p->programa.Viga.CantW8(3), 0);
+        QVERIFY(e.Modificada());
+    }
+
+    // A few thousand seeded keys and clicks on the editor's controls of a loaded beam: no
+    // crash, no hang; then " Salvar ", and the file holds the beam the model held.
+    void TormentaDeTeclasYClics() {
+        VigaActual v = VigaPrueba("V-1", 3);
+        PrepararProyecto(*p, v);
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        QRandomGenerator azar(20261123);
+        // The storm stays inside the window: " Retorno " cannot be reached, by click or by key.
+        Hijo<QPushButton>(e, QStringLiteral("LSButton2"))->setEnabled(false);
+        const QList<QWidget*> controles = [&] {
+            QList<QWidget*> lista;
+            for (QWidget* w : e.findChildren<QWidget*>())
+                if (w->objectName() != QStringLiteral("LSButton2") && !w->objectName().isEmpty() &&
+                    (qobject_cast<QPushButton*>(w) || qobject_cast<QLineEdit*>(w) ||
+                     qobject_cast<QTableWidget*>(w) || qobject_cast<QRadioButton*>(w) ||
+                     qobject_cast<PantallaViga*>(w)))
+                    lista << w;
+            return lista;
+        }();
+        const int teclas[] = {Qt::Key_0,      Qt::Key_1,     Qt::Key_5,         Qt::Key_9,
+                              Qt::Key_Period, Qt::Key_Minus, Qt::Key_A,         Qt::Key_Return,
+                              Qt::Key_Tab,    Qt::Key_Up,    Qt::Key_Down,      Qt::Key_Left,
+                              Qt::Key_Right,  Qt::Key_F2,    Qt::Key_Backspace, Qt::Key_Delete,
+                              Qt::Key_Space};
+        QElapsedTimer reloj;
+        reloj.start();
+        for (int i = 0; i < 3000 && reloj.elapsed() < 8000; ++i) {
+            QWidget* w = controles[azar.bounded(static_cast<int>(controles.size()))];
+            if (!w->isVisible() || !w->isEnabled()) continue;
+            QWidget* destino =
+                qobject_cast<QTableWidget*>(w) ? static_cast<QTableWidget*>(w)->viewport() : w;
+            if (azar.bounded(3) == 0) {
+                const QPoint punto(azar.bounded(std::max(destino->width(), 1)),
+                                   azar.bounded(std::max(destino->height(), 1)));
+                QTest::mouseClick(destino, Qt::LeftButton, {}, punto);
+            } else {
+                QWidget* foco = QApplication::focusWidget() ? QApplication::focusWidget() : w;
+                QTest::keyClick(foco, static_cast<Qt::Key>(teclas[azar.bounded(17)]));
+            }
+        }
+        QVERIFY(e.isVisible());
+        e.setFocus();
+        QVERIFY(e.Salvar());
+        const VigaActual f = EnArchivo(*p);
+        const VigaActual& m = p->programa.Viga;
+        QCOMPARE(f.NT, m.NT);
+        QCOMPARE(f.LT, m.LT);
+        QCOMPARE(f.VT, m.VT);
+        QCOMPARE(f.NombreEje, m.NombreEje);
+        QCOMPARE(Lista(f.NTipos, f.B1, f.T1), Lista(m.NTipos, m.B1, m.T1));
+        QCOMPARE(Lista(f.NJRest, f.R1, f.Apoyo), Lista(m.NJRest, m.R1, m.Apoyo));
+        QCOMPARE(Lista(f.NJDesp, f.R3, f.XX, f.YY), Lista(m.NJDesp, m.R3, m.XX, m.YY));
+        QCOMPARE(Lista(f.NJRes, f.R10, f.SH10, f.SV10, f.SM10),
+                 Lista(m.NJRes, m.R10, m.SH10, m.SV10, m.SM10));
+        QCOMPARE(Lista(f.NAcc, f.R2, f.QC1, f.QC2, f.QC3),
+                 Lista(m.NAcc, m.R2, m.QC1, m.QC2, m.QC3));
+        QCOMPARE(f.FMayoracion, m.FMayoracion);
+        QCOMPARE(f.OpcionConcreto, m.OpcionConcreto);
+        QCOMPARE(f.W1, m.W1);
+    }
+};
+
+QTEST_MAIN(VigaDatosTest)
+#include "VigaDatosTest.moc"
