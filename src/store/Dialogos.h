@@ -57,7 +57,6 @@ struct DialogoArchivo {
     // Open mode: a name that does not exist may be chosen, after the dialog asks whether to
     // create it (the caller creates the file).
     bool CrearSiFalta = false;
-    std::string Nombre;              // the file name it starts with
     bool PreguntarReemplazo = false; // a save dialog asks before it overwrites a file
 
     bool operator==(const DialogoArchivo&) const = default;

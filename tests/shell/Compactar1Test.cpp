@@ -35,10 +35,6 @@ void Marcar(QListWidget* lista, const QStringList& nombres) {
         if (nombres.contains(lista->item(i)->text())) lista->item(i)->setCheckState(Qt::Checked);
 }
 
-void Pulsar(QWidget& v, const char* nombre) {
-    QTest::mouseClick(Hijo<QPushButton>(v, QString::fromUtf8(nombre)), Qt::LeftButton);
-}
-
 long CantidadVigas(const std::string& ruta) {
     EstadoProyecto estado;
     AbrirProyectoArchivo(ruta, estado);

@@ -30,14 +30,6 @@ void Dibujo(const std::string& ruta, int ancho, int alto) {
     QVERIFY(imagen.save(Qs(ruta), "BMP"));
 }
 
-QAbstractButton* Control(QWidget& v, const char* nombre) {
-    return Hijo<QAbstractButton>(v, QString::fromUtf8(nombre));
-}
-
-void Pulsar(QWidget& v, const char* nombre) {
-    QTest::mouseClick(Control(v, nombre), Qt::LeftButton);
-}
-
 // The bytes of a record of Tapiz.kvl, `ancho` of them from its start.
 QByteArray Registro(const QByteArray& archivo, int registro, int ancho) {
     return archivo.mid((registro - 1) * LongitudRegistroTapiz, ancho);
@@ -79,16 +71,18 @@ class ConfigurarProgramaTest : public QObject {
             QCOMPARE(tab->tabText(1), QStringLiteral("ToolTip de Ayuda de los Botones"));
             QCOMPARE(v.TapizNuevo(), Qs(tapices + "/TapizKorvel.jpg"));
             QVERIFY(!v.Imagen().isNull());
-            QCOMPARE(Control(v, "Abrir")->text(), QStringLiteral("Capturar Imagen"));
-            QCOMPARE(ToolTipTrevalo::Texto(Control(v, "Abrir")),
+            QCOMPARE(Control<QAbstractButton>(v, "Abrir")->text(),
+                     QStringLiteral("Capturar Imagen"));
+            QCOMPARE(ToolTipTrevalo::Texto(Control<QAbstractButton>(v, "Abrir")),
                      QStringLiteral("Capturar una Imágen para el tapiz del menú principal. "));
-            QVERIFY(Control(v, "Option5")->isChecked()); // the defaults: centre, left
-            QVERIFY(Control(v, "Option1")->isChecked());
+            QVERIFY(
+                Control<QAbstractButton>(v, "Option5")->isChecked()); // the defaults: centre, left
+            QVERIFY(Control<QAbstractButton>(v, "Option1")->isChecked());
 
             // A new picture: fitted into the 320 x 240 preview keeping 2 : 1, centred, left
             // to its natural size.
-            Control(v, "Option3")->click();
-            Control(v, "Check1")->click();
+            Control<QAbstractButton>(v, "Option3")->click();
+            Control<QAbstractButton>(v, "Check1")->click();
             Pulsar(v, "Abrir");
             const DialogoArchivo& d = p.dialogos->dialogosArchivo.back();
             QCOMPARE(d.Titulo, std::string("Cambiar el Tapiz del Menú Principal"));
@@ -98,12 +92,12 @@ class ConfigurarProgramaTest : public QObject {
             QCOMPARE(d.Carpeta, tapices);
             QCOMPARE(v.TapizNuevo(), Qs(otro));
             QCOMPARE(Hijo<QLabel>(v, QStringLiteral("Image1"))->size(), QSize(320, 160));
-            QVERIFY(Control(v, "Option1")->isChecked());
-            QVERIFY(Control(v, "Option4")->isChecked());
-            QVERIFY(!Control(v, "Check1")->isChecked());
-            Control(v, "Option3")->click(); // at the bottom
-            Control(v, "Option6")->click(); // at the right
-            Control(v, "Check1")->click();
+            QVERIFY(Control<QAbstractButton>(v, "Option1")->isChecked());
+            QVERIFY(Control<QAbstractButton>(v, "Option4")->isChecked());
+            QVERIFY(!Control<QAbstractButton>(v, "Check1")->isChecked());
+            Control<QAbstractButton>(v, "Option3")->click(); // at the bottom
+            Control<QAbstractButton>(v, "Option6")->click(); // at the right
+            Control<QAbstractButton>(v, "Check1")->click();
 
             // The tool tips: 14 points, a colour of the dialog then a swatch, the text
             // colour, centred and traditional; the sample follows at once.
@@ -119,9 +113,9 @@ class ConfigurarProgramaTest : public QObject {
                      QColor(0x56, 0x34, 0x12));
             QTest::mouseClick(Hijo<QLabel>(v, QStringLiteral("LSLabel5")), Qt::LeftButton);
             Pulsar(v, "OwlButton3");
-            Control(v, "Check3")->click();
-            Control(v, "Check4")->click();
-            auto* boton = Control(v, "OwlButton1");
+            Control<QAbstractButton>(v, "Check3")->click();
+            Control<QAbstractButton>(v, "Check4")->click();
+            auto* boton = Control<QAbstractButton>(v, "OwlButton1");
             v.ToolTip().Mostrar(boton);
             const auto etiquetas = v.ToolTip().Globo()->findChildren<QLabel*>();
             QCOMPARE(etiquetas.size(), 2);
@@ -196,10 +190,10 @@ class ConfigurarProgramaTest : public QObject {
 
         EnVentana<ConfigurarPrograma>([&](ConfigurarPrograma& v) {
             const QSize vista = Hijo<QLabel>(v, QStringLiteral("Image1"))->size();
-            Control(v, "Option2")->click();
+            Control<QAbstractButton>(v, "Option2")->click();
             // The same picture in capitals: nothing is reset.
             Pulsar(v, "Abrir");
-            QVERIFY(Control(v, "Option2")->isChecked());
+            QVERIFY(Control<QAbstractButton>(v, "Option2")->isChecked());
             QCOMPARE(v.TapizNuevo(), Qs(korvel));
             QCOMPARE(p.dialogos->dialogosArchivo.size(), std::size_t(1));
             // A file that is not a picture and a path too long for its record: a message
@@ -224,7 +218,7 @@ class ConfigurarProgramaTest : public QObject {
             // The font size takes effect for the run at once; Cancel keeps it and nothing
             // else.
             Hijo<QComboBox>(v, QStringLiteral("Combo1"))->setCurrentIndex(1);
-            Control(v, "Check3")->click();
+            Control<QAbstractButton>(v, "Check3")->click();
             Pulsar(v, "Command5");
         });
         menu.Despachar(Clave);

@@ -7,7 +7,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QAbstractButton>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -106,7 +106,7 @@ template <typename T> T* Hijo(QWidget& ventana, const QString& nombre) {
 
 // The child of `ventana` named `nombre`, which the journey cannot go on without.
 template <typename T = QLineEdit> T* Control(QWidget& ventana, const char* nombre) {
-    T* w = Hijo<T>(ventana, QString::fromLatin1(nombre));
+    T* w = Hijo<T>(ventana, QString::fromUtf8(nombre));
     if (!w) qFatal("falta el control %s", nombre);
     return w;
 }
@@ -121,16 +121,18 @@ inline void Escribir(QWidget& ventana, const char* campo, const QString& texto) 
 }
 
 inline void Pulsar(QWidget& ventana, const char* boton) {
-    QTest::mouseClick(Control<QPushButton>(ventana, boton), Qt::LeftButton);
-    // The project window on a project of the data folder, on screen.
-    inline std::unique_ptr<VigasProyecto> VentanaProyecto(ProgramaPrueba & p,
-                                                          const std::string& proyecto) {
-        p.programa.Estado.NombreProyecto = proyecto;
-        auto v = std::make_unique<VigasProyecto>(p.programa);
-        v->show();
-        if (!QTest::qWaitForWindowExposed(v.get()))
-            QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
-        return v;
-    }
+    QTest::mouseClick(Control<QAbstractButton>(ventana, boton), Qt::LeftButton);
+}
+
+// The project window on a project of the data folder, on screen.
+inline std::unique_ptr<VigasProyecto> VentanaProyecto(ProgramaPrueba& p,
+                                                      const std::string& proyecto) {
+    p.programa.Estado.NombreProyecto = proyecto;
+    auto v = std::make_unique<VigasProyecto>(p.programa);
+    v->show();
+    if (!QTest::qWaitForWindowExposed(v.get()))
+        QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
+    return v;
+}
 
 } // namespace trevalo::prueba

@@ -81,10 +81,6 @@ std::unique_ptr<VigaDatos> Abrir(ProgramaPrueba& p) {
     return editor;
 }
 
-void Pulsar(VigaDatos& e, const char* boton) {
-    QTest::mouseClick(Hijo<QPushButton>(e, QString::fromLatin1(boton)), Qt::LeftButton);
-}
-
 // A count typed into a box and entered with Return.
 void Contar(VigaDatos& e, int n, const QString& cuenta) {
     QLineEdit& caja = e.Long(n);

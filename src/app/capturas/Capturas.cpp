@@ -23,6 +23,7 @@
 #include "shell/Splash.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
+#include "shell/VigaDatos.h"
 #include "shell/VigaSalvarComo.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
