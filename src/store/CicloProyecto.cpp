@@ -96,13 +96,17 @@ bool PlataformaProyectoDisco::ExisteArchivo(const std::string& ruta) {
     return std::filesystem::is_regular_file(ruta, ec);
 }
 
-void PlataformaProyectoDisco::CopiarArchivo(const std::string& origen, const std::string& destino) {
+void CopiarArchivoDisco(const std::string& origen, const std::string& destino) {
     std::error_code ec;
-    if (!ExisteArchivo(origen))
+    if (!std::filesystem::is_regular_file(origen, ec))
         throw ErrorArchivo(std::make_error_code(std::errc::no_such_file_or_directory));
     std::filesystem::copy_file(origen, destino, std::filesystem::copy_options::overwrite_existing,
                                ec);
     if (ec) throw ErrorArchivo(ec);
+}
+
+void PlataformaProyectoDisco::CopiarArchivo(const std::string& origen, const std::string& destino) {
+    CopiarArchivoDisco(origen, destino);
 }
 
 void PlataformaProyectoDisco::BorrarArchivo(const std::string& ruta) {

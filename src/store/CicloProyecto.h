@@ -54,6 +54,10 @@ class PlataformaProyecto {
     virtual void PunteroEspera(bool espera) = 0;
 };
 
+// A copy of a file on the disk (a template, a project), replacing its destination. Errors as
+// those of PlataformaProyectoDisco below.
+void CopiarArchivoDisco(const std::string& origen, const std::string& destino);
+
 // The file and database operations on the disk, for the windows to build on. Errors: 53 "No se
 // encontró el archivo" for a missing source, 70 "Permiso denegado" when the system refuses, 75
 // "Error de acceso a la ruta o el archivo" otherwise. A copy replaces its destination.
