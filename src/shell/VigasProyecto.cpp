@@ -17,6 +17,7 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/OperacionesVista.h"
+#include "model/Conversiones.h"
 #include "shell/Iconos.h"
 #include "shell/NuevaViga.h"
 #include "shell/PantallaViga.h"
@@ -366,8 +367,9 @@ void VigasProyecto::Resolver() {
     try {
         AnalizarViga(LectorGeneralProyecto(*programa_.Estado.BDProyecto), programa_.Proyecto,
                      programa_.Viga, programa_.Resultados);
-    } catch (const ErrorTrevalo& e) {
-        programa_.Dialogo().Mensaje(MensajeFalla(e));
+    } catch (...) {
+        // The results are cleared by now; the picture that follows shows the elevation alone.
+        programa_.Dialogo().Mensaje(MensajeFalla(ErrorDeExcepcion(std::current_exception())));
     }
 }
 
