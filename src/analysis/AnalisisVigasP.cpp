@@ -1,10 +1,12 @@
 #include "analysis/AnalisisVigasP.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <vector>
 
 #include "analysis/FuerzasEmpotramiento.h"
+#include "model/Conversiones.h"
 #include "model/Redondeo.h"
 
 namespace trevalo {
@@ -76,7 +78,7 @@ IndicePorJunta Indexar(const Arreglo<std::int16_t>& juntas, long cuantos, long n
     for (long k = 1; k <= cuantos; ++k) ++ind.inicio[static_cast<std::size_t>(juntas(k) + 1)];
     for (long n = 1; n <= nJuntas + 1; ++n)
         ind.inicio[static_cast<std::size_t>(n)] += ind.inicio[static_cast<std::size_t>(n - 1)];
-    ind.lista.resize(static_cast<std::size_t>(cuantos));
+    ind.lista.resize(static_cast<std::size_t>(std::max(cuantos, 0L)));
     std::vector<long> siguiente(ind.inicio.begin(), ind.inicio.end());
     for (long k = 1; k <= cuantos; ++k)
         ind.lista[static_cast<std::size_t>(siguiente[static_cast<std::size_t>(juntas(k))]++)] = k;
@@ -110,8 +112,8 @@ void Geometria(const VigaActual& v, ResultadosViga& r) {
         r.YJunta(v.R3(k)) += v.YY(k);
     }
     for (long t = 1; t <= v.NT; ++t) {
-        r.JuntaI(t) = static_cast<std::int16_t>(t);
-        r.JuntaJ(t) = static_cast<std::int16_t>(t + 1);
+        r.JuntaI(t) = Entero<std::int16_t>(t);
+        r.JuntaJ(t) = Entero<std::int16_t>(t + 1);
         const double dX = r.XJunta(t + 1) - r.XJunta(t);
         const double dY = r.YJunta(t + 1) - r.YJunta(t);
         const double L = std::sqrt(Cuad(dX) + Cuad(dY));
@@ -183,7 +185,7 @@ void Ensamblar(const ProyectoActual& proyecto, const VigaActual& v, const Result
         for (int j = i; j < 6; ++j) sis.S(g[j] + 1 - g[i], g[i]) += K[i][j];
 
     FuerzasExtremos fe;
-    FuerzasEmpotramientoTramo(proyecto, v, static_cast<std::int16_t>(t), L, s, c, fe);
+    FuerzasEmpotramientoTramo(proyecto, v, Entero<std::int16_t>(t), L, s, c, fe);
     // Equivalent joint loads with their own sign: (NI, VI, -MI) at I, (NJ, VJ, MJ) at J.
     const double local[6] = {fe.NI, fe.VI, -fe.MI, fe.NJ, fe.VJ, fe.MJ};
     for (int e = 0; e < 6; e += 3) {
@@ -302,6 +304,24 @@ void VerificarFinitos(const ResultadosViga& r) {
             if (!std::isfinite((*a)(i))) throw ErrorTrevalo::Desbordamiento();
 }
 
+// Every value the solve reads is a finite number: a NaN or an infinity from a file stops here
+// with error 6 instead of spreading through the system.
+void VerificarEntradas(const ProyectoActual& p, const VigaActual& v) {
+    const auto finito = [](double x) {
+        if (!std::isfinite(x)) throw ErrorTrevalo::Desbordamiento();
+    };
+    for (double x :
+         {p.FC, p.ModuloAcero, p.PesoConcreto, p.PesoAcero, p.CFormaConcreto, p.CFormaAcero})
+        finito(x);
+    for (const Arreglo<double>* a : {&v.LT, &v.VT, &v.XX, &v.YY, &v.B1, &v.T1, &v.SH10, &v.SV10,
+                                     &v.SM10, &v.QC1, &v.QC2, &v.QC3, &v.la5})
+        for (long i = 1; i <= a->Ubound(); ++i) finito((*a)(i));
+    for (const Arreglo2<double>* a :
+         {&v.LP, &v.La3_, &v.Lb3_, &v.La6_, &v.Lb6_, &v.La7_, &v.Lb7_, &v.La8_, &v.Lb8_})
+        for (long i = 1; i <= a->Ubound1(); ++i)
+            for (long j = 1; j <= a->Ubound2(); ++j) finito((*a)(i, j));
+}
+
 // Every joint number of the lists lies within the joints; checked before any use.
 void VerificarListas(const VigaActual& v, long nj) {
     for (long k = 1; k <= v.NJRest; ++k) VerificarJunta(v.R1(k), nj);
@@ -311,16 +331,19 @@ void VerificarListas(const VigaActual& v, long nj) {
 
 void Analizar(const ProyectoActual& p, const VigaActual& v, ResultadosViga& r,
               ResolvedorBanda resolver) {
+    // A beam without spans has no bars to solve; its joints would be sized from nothing.
+    if (v.NT < 1) throw ErrorTrevalo::SubindiceFueraDeIntervalo();
+    VerificarEntradas(p, v);
     Trabajo w;
     w.mat = ConstantesMaterial(p, v);
     w.DEFCOR = p.DEFCOR;
     w.nJuntas = v.NT + 1;
-    r.NJuntas = static_cast<std::int16_t>(w.nJuntas);
+    r.NJuntas = Entero<std::int16_t>(w.nJuntas);
     DimensionarResultados(v.NT, r);
     Geometria(v, r);
     VerificarListas(v, w.nJuntas);
 
-    w.rest.resize(static_cast<std::size_t>(v.NJRest) + 1);
+    w.rest.resize(static_cast<std::size_t>(std::max<long>(v.NJRest, 0)) + 1);
     for (long k = 1; k <= v.NJRest; ++k)
         w.rest[static_cast<std::size_t>(k)] = RestriccionDeApoyo(v.Apoyo(k));
     Secciones(v, w);

@@ -21,10 +21,11 @@ using LectorProyecto = std::function<void(ProyectoActual&)>;
 // Step 1 calls leerProyecto, so a setting changed in the project file takes effect at the
 // next solve; an empty reader leaves the settings as they are.
 //
-// Errors: 5 the root of a negative (FC < 0 on a concrete beam); 9 a joint number in R1, R2,
-// R3 or R10 outside 1..NT + 1, or VT rounding to a type outside 1..NTipos; 11 a bar of no
-// length, a zero shear modulus with DEFCOR, a load position on a bar with CosX = 0;
-// 6 a result that is not a finite number. Whatever the reader raises passes through.
+// Errors: 5 the root of a negative (FC < 0 on a concrete beam); 9 NT below 1, a joint number
+// in R1, R2, R3 or R10 outside 1..NT + 1, or VT rounding to a type outside 1..NTipos; 11 a
+// bar of no length, a zero shear modulus with DEFCOR, a load position on a bar with
+// CosX = 0; 6 an input or a result that is not a finite number, or NT + 1 joints beyond the
+// 16-bit count. Whatever the reader raises passes through.
 void AnalizarViga(const LectorProyecto& leerProyecto, ProyectoActual& proyecto,
                   const VigaActual& viga, ResultadosViga& resultados);
 

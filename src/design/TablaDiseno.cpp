@@ -6,6 +6,7 @@
 #include "design/AceroFlexion.h"
 #include "design/Cociente.h"
 #include "design/SeparacionEstribos.h"
+#include "model/Conversiones.h"
 #include "model/Redondeo.h"
 
 namespace trevalo {
@@ -29,7 +30,7 @@ TramoDiseno Estaciones(const ProyectoActual& p, const VigaActual& v, const Resul
     const bool concreto = v.OpcionConcreto == 0;
     const bool acero = recorrido == Recorrido::CAD || concreto;
     const bool estribos = recorrido == Recorrido::Hoja && concreto;
-    tr.Estaciones.reserve(static_cast<std::size_t>(tr.n + 1));
+    if (tr.n > 0) tr.Estaciones.reserve(static_cast<std::size_t>(tr.n + 1));
     for (long i = 0; i <= tr.n; ++i) {
         EstacionDiseno e;
         e.i = i;
@@ -57,6 +58,7 @@ void VaciarResumen(ResumenAcero& res, long nt) {
 // Ends of the span; `redondeo` is applied to every stored value.
 template <typename Redondeo>
 void ResumenExtremos(const TramoDiseno& tr, ResumenAcero& res, Redondeo redondeo) {
+    if (tr.Estaciones.empty()) return;
     const EstacionDiseno& primera = tr.Estaciones.front();
     const EstacionDiseno& ultima = tr.Estaciones.back();
     res.AsSupIzquierda(tr.t) = redondeo(primera.AsSup);
@@ -72,7 +74,7 @@ std::string TextoAcero(double as, bool excede, char sd, char sm) {
 } // namespace
 
 long SegmentosTramo(double dX, double estacionesPorMetro) {
-    const long n = CI(dX * estacionesPorMetro);
+    const long n = CI16(dX * estacionesPorMetro);
     return n == 0 ? 1 : n;
 }
 

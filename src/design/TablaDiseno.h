@@ -71,7 +71,8 @@ struct TextosEstacion {
     std::string Progresiva; // "PROGRES": distance from the nearer joint, "0.00"
 };
 
-// Segments of a span of horizontal length dX at the given stations per metre.
+// Segments of a span of horizontal length dX at the given stations per metre, a 16-bit
+// count: error 6 beyond it. A span of negative length has none, and no stations.
 long SegmentosTramo(double dX, double estacionesPorMetro);
 
 // The stations of span t with their values (concrete steel and stirrups when OpcionConcreto

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "drawing/Ploteos.h"
+#include "model/Conversiones.h"
 
 namespace trevalo {
 
@@ -95,8 +96,10 @@ void ElegirPestana(EstadoPloteos& estado, int pestana) {
 }
 
 void AumentarEstaciones(EstadoPloteos& estado, int pestana) {
-    if (pestana == 2) ++estado.EstacionesDiagrama;
-    if (pestana == 3) ++estado.EstacionesDiseno;
+    // Kept in 16 bits: a press beyond them is error 6.
+    if (pestana == 2)
+        estado.EstacionesDiagrama = Entero<std::int16_t>(estado.EstacionesDiagrama + 1);
+    if (pestana == 3) estado.EstacionesDiseno = Entero<std::int16_t>(estado.EstacionesDiseno + 1);
 }
 
 void DisminuirEstaciones(EstadoPloteos& estado, int pestana) {

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "analysis/CorteMomentoTramo.h"
-#include "model/Redondeo.h"
+#include "model/Conversiones.h"
 
 namespace trevalo {
 
@@ -20,13 +20,13 @@ DireccionTramo DireccionDeTramo(const GeometriaJuntas& g, long i) {
 }
 
 long CantidadEstaciones(double ancho, long estaciones) {
-    return CI(ancho * estaciones);
+    return CI16(ancho * static_cast<double>(estaciones));
 }
 
 FuerzasEstacion FuerzasEnEstacion(const ProyectoActual& proyecto, const VigaActual& viga,
                                   const ResultadosViga& resultados, const GeometriaJuntas& g,
                                   long i, double x) {
-    const auto t = static_cast<std::int16_t>(i);
+    const auto t = Entero<std::int16_t>(i);
     const DireccionTramo d = DireccionDeTramo(g, i);
     FuerzasEstacion f;
     CorteMomentoTramo(viga, resultados, t, PesoPropioTramo(proyecto, viga, t), d.largo, x / d.cos,

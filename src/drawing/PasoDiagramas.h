@@ -26,7 +26,8 @@ struct DireccionTramo {
 };
 DireccionTramo DireccionDeTramo(const GeometriaJuntas& g, long i);
 
-// Number of stations of a span of plot width `ancho`: CI(ancho x estaciones).
+// Number of stations of a span of plot width `ancho`: CI(ancho x estaciones), a 16-bit count
+// (error 6 beyond it); a negative width has none.
 long CantidadEstaciones(double ancho, long estaciones);
 
 // Factored moment and shear of span i at plot abscissa x (measured from its left joint).

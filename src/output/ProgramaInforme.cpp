@@ -1,8 +1,8 @@
 #include "output/ProgramaInforme.h"
 
 #include <cstdlib>
-#include <filesystem>
 
+#include "model/Conversiones.h"
 #include "store/CicloProyecto.h"
 
 namespace trevalo {
@@ -31,7 +31,7 @@ std::int16_t PosicionVigaInforme(BaseDatos& bd, const std::vector<std::string>& 
     if (!ExisteViga(bd, nombre)) return 0;
     const auto guardado = NombreVigaGuardado(bd, nombre);
     for (std::size_t i = 0; i < vigas.size(); ++i)
-        if (vigas[i] == guardado) return static_cast<std::int16_t>(i + 1);
+        if (vigas[i] == guardado) return Entero<std::int16_t>(static_cast<long long>(i) + 1);
     return 0;
 }
 
@@ -40,10 +40,7 @@ void LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
                            const std::string& carpetaPrograma, const std::string& rutaTemporal,
                            const std::string& version,
                            const std::function<void(const std::string&, double)>& progreso) {
-    std::error_code ec;
-    std::filesystem::copy_file(carpetaPrograma + "/Imagen/Temporal.kvl", rutaTemporal,
-                               std::filesystem::copy_options::overwrite_existing, ec);
-    if (ec) throw ErrorArchivo(ec);
+    CopiarArchivoDisco(carpetaPrograma + "/Imagen/Temporal.kvl", rutaTemporal);
     auto pasos = PasosPrograma(modelo, dialogos);
     pasos.Progreso = progreso;
     LlenarImpreDatos(rutaTemporal, FilaGeneralesDe(modelo.proyecto, Usuario(), version), vigas,

@@ -27,7 +27,7 @@ std::int16_t PosicionVigaInforme(BaseDatos& bd, const std::vector<std::string>& 
 // window, or ListaVigasInforme) chosen by `opciones`. `progreso` receives the label and value of
 // the progress bar. The model's settings are those of the project (LeerGeneralProyecto) and the
 // project has beams; the model is left as PasosPrograma leaves it. Errors as LlenarImpreDatos; a
-// template that cannot be copied raises the store's file error (ErrorArchivo).
+// missing template is error 53 "No se encontró el archivo".
 void LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
                            const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
                            const std::string& carpetaPrograma, const std::string& rutaTemporal,

@@ -3,6 +3,7 @@
 #include <cassert>
 #include <cstdlib>
 
+#include "model/Conversiones.h"
 #include "model/Redondeo.h"
 #include "profiles/Recorte.h"
 #include "profiles/TablaPerfiles.h"
@@ -39,7 +40,7 @@ void CargarListaPerfiles(const std::string& ruta, int item, ListaPerfiles& lista
 
     ListaPerfiles nueva;
     nueva.ListaFamilia = static_cast<std::uint8_t>(item);
-    nueva.ListaPerfilesN = static_cast<std::int16_t>(tabla.Filas.size());
+    nueva.ListaPerfilesN = Entero<std::int16_t>(static_cast<long long>(tabla.Filas.size()));
     const long n = nueva.ListaPerfilesN;
     nueva.ListaDesignacion.Redim(n);
     nueva.ListaArea.Redim(n);

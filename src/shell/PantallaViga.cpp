@@ -8,6 +8,7 @@
 
 #include "drawing/OperacionesVista.h"
 #include "drawing/Ploteos.h"
+#include "model/Conversiones.h"
 #include "platform/lienzos/LienzoQt.h"
 
 namespace trevalo {
@@ -76,8 +77,8 @@ void PantallaViga::Pintar() {
     PintarCon([&](LienzoQt& lienzo) {
         try {
             PlotearViga(lienzo, vista, programa_.Proyecto, programa_.Viga, programa_.Resultados);
-        } catch (const ErrorTrevalo& e) {
-            falla = e;
+        } catch (...) {
+            falla = ErrorDeExcepcion(std::current_exception());
         }
     });
     vista.VerDiagramas = diagramas;

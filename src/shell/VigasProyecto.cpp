@@ -19,6 +19,7 @@
 #include "shell/CristalReport.h"
 #include "shell/EsquinaNo.h"
 #include "shell/ExportarCAD.h"
+#include "model/Conversiones.h"
 #include "shell/Iconos.h"
 #include "shell/ImpreReport.h"
 #include "shell/ImpreVigas.h"
@@ -328,8 +329,9 @@ void VigasProyecto::Resolver() {
     try {
         AnalizarViga(LectorGeneralProyecto(*programa_.Estado.BDProyecto), programa_.Proyecto,
                      programa_.Viga, programa_.Resultados);
-    } catch (const ErrorTrevalo& e) {
-        programa_.Dialogo().Mensaje(MensajeFalla(e));
+    } catch (...) {
+        // The results are cleared by now; the picture that follows shows the elevation alone.
+        programa_.Dialogo().Mensaje(MensajeFalla(ErrorDeExcepcion(std::current_exception())));
     }
 }
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "model/Conversiones.h"
 #include "store/ColumnasViga.h"
 
 namespace trevalo {
@@ -319,10 +320,12 @@ void LeerViga(EstadoProyecto& estado, VigaActual& v) {
         LeerCabecera(cabecera, v);
         cabecera.Close();
         LeerTablasHijas(bd, v);
-    } catch (const ErrorTrevalo& e) {
+    } catch (...) {
+        // Whatever stopped the read, nothing half read is left to be shown as the beam.
         NuevaVigaDefecto(v);
-        throw ErrorTrevalo(
-            e.Numero(), "Hay un Error en los Datos de la Viga: " + v.NombreVigaActual + "...    ");
+        throw ErrorTrevalo(ErrorDeExcepcion(std::current_exception()).Numero(),
+                           "Hay un Error en los Datos de la Viga: " + v.NombreVigaActual +
+                               "...    ");
     }
 }
 

@@ -1,7 +1,8 @@
 #include "store/ColumnasViga.h"
 
 #include <algorithm>
-#include <limits>
+
+#include "model/Conversiones.h"
 
 namespace trevalo {
 
@@ -136,8 +137,7 @@ double DimensionTipo(std::optional<double> valor, bool concreto, double defecto)
 long PrepararTabla(const TablaViga& t, VigaActual& v, long filas) {
     if (t.cuenta == nullptr) return filas > 0 ? FilasViga(t, v) : 0;
     const long n = t.filas == FilasTabla::Tipos ? std::max(filas, 1L) : filas;
-    if (n > std::numeric_limits<std::int16_t>::max()) throw ErrorTrevalo::Desbordamiento();
-    v.*t.cuenta = static_cast<std::int16_t>(n);
+    v.*t.cuenta = Entero<std::int16_t>(n);
     for (const ColumnaViga& c : t.columnas)
         std::visit(
             [&](auto campo) {

@@ -2,7 +2,9 @@
 // fault raises the program's error with its classic number and text, and leaves no results
 // that could be shown as if the run had worked.
 
+#include <cmath>
 #include <functional>
+#include <limits>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -29,6 +31,8 @@ void PrintTo(const Falla& f, std::ostream* os) {
 
 const std::string kDiv = "División por cero";
 const std::string kSub = "El subíndice está fuera del intervalo";
+const std::string kDes = "Desbordamiento";
+const double kInf = std::numeric_limits<double>::infinity();
 
 // Steel type 1 of 50 cm2 and 8000 cm4 under the given ModuloAcero.
 void Acero(VigaActual& v, ProyectoActual& p, double modulo) {
@@ -71,6 +75,16 @@ std::vector<Falla> Fallas() {
          },
          11, kDiv},
         {"ModuloInfinito", [](auto& v, auto& p) { Acero(v, p, 1e306); }, 6, "Desbordamiento"},
+        // Values no solve can use, stopped before the system is formed.
+        {"SinTramos", [](auto& v, auto&) { v.NT = 0; }, 9, kSub},
+        {"TramosNegativos", [](auto& v, auto&) { v.NT = -3; }, 9, kSub},
+        {"LongitudNoNumero", [](auto& v, auto&) { v.LT(2) = std::nan(""); }, 6, kDes},
+        {"PosicionInfinita",
+         [](auto& v, auto&) {
+             PonerCargas(v, 1, 2, {{100, kInf}});
+         },
+         6, kDes},
+        {"PesoNoNumero", [](auto&, auto& p) { p.PesoConcreto = std::nan(""); }, 6, kDes},
         // A vertical bar (CosX = 0) cannot place a load along its horizontal projection.
         {"CargaEnBarraVertical",
          [](auto& v, auto&) {

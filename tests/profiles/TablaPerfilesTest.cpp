@@ -196,6 +196,39 @@ TEST_F(ArchivosDeTablas, ArchivoDeOtraFamiliaFallaAlLeerElCampo) {
                          "esta familia de perfiles.");
 }
 
+TEST_F(ArchivosDeTablas, ArchivoDanadoEsErrorDelProgramaYQuedaComoEstaba) {
+    // Each damage to a saved table of two rows, and the number of the error it gives (0: the
+    // engine's own, whatever it is).
+    const std::pair<const char*, long> danos[] = {
+        {"DROP TABLE DatosPerfil", 0},
+        {"DROP TABLE GeneralPerfil", 0},
+        {"UPDATE DatosPerfil SET Designacion=X'00FF'", ErrTiposNoCoinciden},
+        {"UPDATE DatosPerfil SET Numero=40000", ErrDesbordamiento},
+        {"UPDATE DatosPerfil SET Numero='uno'", ErrTiposNoCoinciden},
+        {"UPDATE GeneralPerfil SET ResistenciaFY=1e12", ErrDesbordamiento},
+        {"ALTER TABLE DatosPerfil DROP COLUMN Designacion", ErrNoEnColeccion},
+        {"", 0}, // the file cut in half
+    };
+    for (const auto& [sql, numero] : danos) {
+        const std::string ruta = Nueva(F::SeccionU, "Danada.pfl");
+        SalvarTablaPerfiles(ruta, F::SeccionU,
+                            {"T", 1, {Fila(F::SeccionU, "A", 1), Fila(F::SeccionU, "B", 2)}});
+        if (*sql)
+            BaseDatos::Abrir(ruta).Ejecutar(sql);
+        else
+            prueba::EscribirArchivo(ruta, prueba::LeerArchivo(ruta).substr(0, 3000));
+        const std::string antes = prueba::LeerArchivo(ruta);
+        try {
+            LeerTablaPerfiles(ruta, F::SeccionU);
+            ADD_FAILURE() << "sin error: " << sql;
+        } catch (const ErrorTrevalo& e) {
+            EXPECT_TRUE(numero == 0 || e.Numero() == numero) << sql << ": " << e.Numero();
+            EXPECT_FALSE(e.Descripcion().empty());
+        }
+        EXPECT_EQ(prueba::LeerArchivo(ruta), antes) << sql;
+    }
+}
+
 TEST_F(ArchivosDeTablas, ArchivoInexistenteEsErrorDelMotor) {
     try {
         LeerTablaPerfiles(carpeta / "DobleTee_No.pfl", F::DobleTee);

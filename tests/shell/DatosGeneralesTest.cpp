@@ -194,5 +194,5 @@ class DatosGenerales : public QObject {
     }
 };
 
-QTEST_MAIN(DatosGenerales)
+TREVALO_PRUEBA_VENTANAS(DatosGenerales)
 #include "DatosGeneralesTest.moc"

@@ -174,5 +174,5 @@ class MenuPTest : public QObject {
     }
 };
 
-QTEST_MAIN(MenuPTest)
+TREVALO_PRUEBA_VENTANAS(MenuPTest)
 #include "MenuPTest.moc"

@@ -175,5 +175,5 @@ class NombresViga : public QObject {
     }
 };
 
-QTEST_MAIN(NombresViga)
+TREVALO_PRUEBA_VENTANAS(NombresViga)
 #include "NombresVigaTest.moc"

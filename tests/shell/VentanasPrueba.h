@@ -16,9 +16,17 @@
 
 #include "comun/Carpeta.h"
 #include "comun/DialogosGuion.h"
+#include "shell/AplicacionTrevalo.h"
 #include "shell/Programa.h"
 #include "shell/TextoQt.h"
 #include "shell/VigasProyecto.h"
+
+// The main of a window test: that of Qt Test with the program's own application object, so
+// that a fault reaching the event loop is shown to the scripted dialogs as the program
+// shows it.
+#define TREVALO_PRUEBA_VENTANAS(Clase)                                                             \
+    QTEST_MAIN_WRAPPER(Clase, QTEST_QAPP_SETUP(::trevalo::AplicacionTrevalo)                       \
+                                  QTEST_DISABLE_KEYPAD_NAVIGATION)
 
 namespace trevalo::prueba {
 
@@ -30,7 +38,13 @@ class ProgramaPrueba {
         entorno.CarpetaDocumentos = carpeta / "Documentos";
         entorno.Local = std::locale::classic();
         DatosUsuario(entorno, programa.Carpetas);
+        if (auto* aplicacion = AplicacionTrevalo::Actual()) aplicacion->FijarDialogos(dialogos);
     }
+    ~ProgramaPrueba() {
+        if (auto* aplicacion = AplicacionTrevalo::Actual()) aplicacion->FijarDialogos(nullptr);
+    }
+    ProgramaPrueba(const ProgramaPrueba&) = delete;
+    ProgramaPrueba& operator=(const ProgramaPrueba&) = delete;
 
     CarpetaTemporal carpeta;
     EntornoInicio entorno;             // the machine as the start-up sees it

@@ -307,5 +307,5 @@ class VigasProyectoTest : public QObject {
     }
 };
 
-QTEST_MAIN(VigasProyectoTest)
+TREVALO_PRUEBA_VENTANAS(VigasProyectoTest)
 #include "VigasProyectoTest.moc"

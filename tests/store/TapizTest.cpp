@@ -140,6 +140,26 @@ INSTANTIATE_TEST_SUITE_P(Registros, RangosTapiz,
                                            CasoRango{8, 4, 0x123456, 0x123456},
                                            CasoRango{9, 2, 0xFFFF, -1}));
 
+TEST_F(ArchivoTapiz, ArchivoCortoLargoOBasuraSeLeeEnSusRangos) {
+    std::string basura(5000, '\0');
+    for (std::size_t i = 0; i < basura.size(); ++i) basura[i] = static_cast<char>(i * 131 + 7);
+    for (const std::string& bytes :
+         {std::string(), std::string("\x05"), std::string(3, '\xFF'), std::string(1300, '\xFF'),
+          ArchivoValido(0xFF) + std::string(100000, 'x'), basura}) {
+        EscribirArchivo(ruta, bytes);
+        ConfiguracionTapiz tapiz;
+        LeerTapiz(carpetas, tapiz);
+        EXPECT_GE(tapiz.TapizVertical, 0);
+        EXPECT_LE(tapiz.TapizVertical, 2);
+        EXPECT_GE(tapiz.TapizHorizontal, 0);
+        EXPECT_LE(tapiz.TapizHorizontal, 2);
+        EXPECT_LE(tapiz.TapizEfecto, 27);
+        EXPECT_LE(tapiz.TipLetra, 7);
+        EXPECT_NE(tapiz.TipFondo, 0);
+        EXPECT_EQ(tapiz.TapizArchivo, tmp / "Tapices/TapizKorvel.jpg") << bytes.size();
+    }
+}
+
 TEST_F(ArchivoTapiz, ArchivoAusenteNace) {
     // Only the wallpaper is missing here: the defaults are written, no picture is given.
     fs::remove(tmp / "Tapices/TapizKorvel.jpg");

@@ -13,7 +13,7 @@ using namespace trevalo::prueba;
 
 // A default beam under load as a document, the same with a span of no length and with a
 // type it lacks; a text, a broken document, a database of another kind; a project of one
-// beam and an empty one.
+// beam and an empty one; a Jet file cut short.
 class Rechazos : public ConCarpeta {
   protected:
     void SetUp() override {
@@ -31,6 +31,9 @@ class Rechazos : public ConCarpeta {
         BaseDatos::Crear(Ruta("otra.trv")).EjecutarGuion("CREATE TABLE Otra (A TEXT);");
         CrearProyecto(Ruta("Obra.trv"), {VigaPrueba("V-1", 0)}, {});
         CrearProyecto(Ruta("Vacio.trv"), {}, {});
+        const std::string jet = LeerArchivo(TREVALO_DATOS_PRUEBA "/jet/testV1997.mdb");
+        EscribirArchivo(Ruta("corto.mdb"), jet.substr(0, 8192));
+        EscribirArchivo(Ruta("mitad.mdb"), jet.substr(0, jet.size() / 2));
     }
     // "@" stands for the folder.
     std::string Sustituir(std::string s) const {
@@ -95,6 +98,9 @@ TEST_F(Rechazos, CodigoMensajeYArchivosIntactos) {
         {"importar-jet|solo-uno.mdb", 2, ""},
         {"importar-jet|@/no.mdb|@/nuevo.trv", 1,
          "Error 53: No se encontró el archivo \"@/no.mdb\".\n"},
+        {"importar-jet|@/texto.trv|@/nuevo.trv", 1, "Error 3343: "},
+        {"importar-jet|@/corto.mdb|@/nuevo.trv", 1, "Error "},
+        {"importar-jet|@/mitad.mdb|@/nuevo.trv", 1, "Error "},
     };
     const std::string vigilados[] = {"Obra.trv", "Vacio.trv", "texto.trv", "otra.trv", "viga.json"};
     std::vector<std::string> antes;

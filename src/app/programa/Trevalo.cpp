@@ -1,12 +1,12 @@
 // The desktop program: builds the application and shows the start-up window; everything
 // else lives in the windows' library.
 
-#include <QApplication>
 #include <clocale>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
 
+#include "shell/AplicacionTrevalo.h"
 #include "shell/DialogosQt.h"
 #include "shell/Splash.h"
 
@@ -29,13 +29,16 @@ int main(int argc, char** argv) {
                      "WAYLAND_DISPLAY no están definidas).\n";
         return 1;
     }
-    QApplication aplicacion(argc, argv);
+    trevalo::AplicacionTrevalo aplicacion(argc, argv);
     // The toolkit takes the user's locale for the C library too; numbers are read and written
     // by the program's own rules with its separators, never by the C library's locale.
     std::setlocale(LC_NUMERIC, "C");
     trevalo::TraducirAlEspanol();
     trevalo::Programa programa(std::make_unique<trevalo::DialogosQt>());
+    aplicacion.FijarDialogos(&programa.Dialogo());
     auto* splash = new trevalo::Splash(programa, trevalo::EntornoDelSistema());
     splash->show();
-    return aplicacion.exec();
+    const int codigo = aplicacion.exec();
+    aplicacion.FijarDialogos(nullptr);
+    return codigo;
 }

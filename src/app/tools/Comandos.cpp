@@ -1,5 +1,7 @@
 #include "app/tools/Comandos.h"
 
+#include "model/Conversiones.h"
+
 namespace trevalo::calc {
 
 int ComandoResolver(const Argumentos&, std::ostream&, std::ostream&);
@@ -37,11 +39,27 @@ const std::vector<EntradaComando>& TablaComandos() {
     return tabla;
 }
 
+namespace {
+
+// Runs a command; what it did not foresee ends it with the program's error, never the tool.
+int Ejecutar(const EntradaComando& e, const Argumentos& args, std::ostream& salida,
+             std::ostream& errores) {
+    try {
+        return e.comando(args, salida, errores);
+    } catch (...) {
+        const auto error = ErrorDeExcepcion(std::current_exception());
+        errores << "Error " << error.Numero() << ": " << error.Descripcion() << "\n";
+        return 1;
+    }
+}
+
+} // namespace
+
 int EjecutarCalc(const Argumentos& args, std::ostream& salida, std::ostream& errores) {
     if (!args.empty())
         for (const auto& e : TablaComandos())
             if (args[0] == e.nombre)
-                return e.comando({args.begin() + 1, args.end()}, salida, errores);
+                return Ejecutar(e, {args.begin() + 1, args.end()}, salida, errores);
     errores << "Uso: trevalo-calc ORDEN ...\nÓrdenes:\n";
     for (const auto& e : TablaComandos()) errores << "  trevalo-calc " << e.uso << "\n";
     return 2;

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <limits>
 
+#include "model/Conversiones.h"
 #include "model/Errores.h"
 
 namespace trevalo {
@@ -182,22 +183,14 @@ std::int64_t Valor::Entero() const {
     return static_cast<std::int64_t>(d);
 }
 
-namespace {
-template <typename T> T EnIntervalo(std::int64_t v) {
-    if (v < std::numeric_limits<T>::min() || v > std::numeric_limits<T>::max())
-        throw ErrorTrevalo::Desbordamiento();
-    return static_cast<T>(v);
-}
-} // namespace
-
 std::int32_t Valor::Entero32() const {
-    return EnIntervalo<std::int32_t>(Entero());
+    return trevalo::Entero<std::int32_t>(Entero());
 }
 std::int16_t Valor::Entero16() const {
-    return EnIntervalo<std::int16_t>(Entero());
+    return trevalo::Entero<std::int16_t>(Entero());
 }
 std::uint8_t Valor::Byte() const {
-    return EnIntervalo<std::uint8_t>(Entero());
+    return trevalo::Entero<std::uint8_t>(Entero());
 }
 bool Valor::Logico() const {
     return Doble() != 0;
