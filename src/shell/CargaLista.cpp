@@ -76,7 +76,7 @@ void CargaLista::ConfigurarSpread() {
     spread1_->setTabKeyNavigation(false);
     const int ancho = 15 * spread1_->fontMetrics().averageCharWidth();
     for (int c = 0; c < columnas; ++c) spread1_->setColumnWidth(c, ancho);
-    // Every column in sight, and room for the rows of a list of ten.
+    // Every column in sight, and room for six rows.
     const int marco = 2 * spread1_->frameWidth();
     spread1_->setMinimumWidth(spread1_->verticalHeader()->minimumWidth() + columnas * ancho +
                               spread1_->verticalScrollBar()->sizeHint().width() + marco);
@@ -127,6 +127,17 @@ void CargaLista::AvisoLimite() {
     long1_->setText(Qs(limite));
 }
 
+std::vector<std::vector<double>> CargaLista::Tomadas() const {
+    std::vector<std::vector<double>> filas(static_cast<std::size_t>(n_));
+    for (int r = 1; r <= n_; ++r)
+        for (std::size_t c = 0; c < forma_.columnas.size(); ++c) {
+            const double v = ValorCelda(*spread1_, r, static_cast<int>(c) + 1);
+            filas[static_cast<std::size_t>(r - 1)].push_back(
+                EsCarga(forma_.columnas[c]) ? static_cast<double>(CI(v)) : v);
+        }
+    return filas;
+}
+
 void CargaLista::Aplicar() {
     Cantidad(false); // a count typed and not yet applied
     if (forma_.limiteAlAceptar && n_ > forma_.limite) {
@@ -137,13 +148,7 @@ void CargaLista::Aplicar() {
     // The lists of a span hold `limite` slots: a count beyond them, which only the limit's
     // check on Return stops, is the subscript error before anything is written.
     if (n_ > forma_.limite) throw ErrorTrevalo::SubindiceFueraDeIntervalo();
-    std::vector<std::vector<double>> filas(static_cast<std::size_t>(n_));
-    for (int r = 1; r <= n_; ++r)
-        for (std::size_t c = 0; c < forma_.columnas.size(); ++c) {
-            const double v = ValorCelda(*spread1_, r, static_cast<int>(c) + 1);
-            filas[static_cast<std::size_t>(r - 1)].push_back(
-                EsCarga(forma_.columnas[c]) ? static_cast<double>(CI(v)) : v);
-        }
+    const std::vector<std::vector<double>> filas = Tomadas();
     VigaActual& viga = programa_.Viga;
     for (long t = 1; t <= Tramos(); ++t) {
         if (!Marcado(t)) continue;

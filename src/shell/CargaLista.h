@@ -48,6 +48,8 @@ class CargaLista : public DialogoCarga {
     void Cantidad(bool retorno);
     void Filas(int n);
     void AvisoLimite();
+    // The first n_ rows as they are written: loads rounded to integers, ties to even.
+    std::vector<std::vector<double>> Tomadas() const;
     void Aplicar() override;
 
     FormaCargaLista forma_;

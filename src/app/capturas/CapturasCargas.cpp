@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTableWidget>
+#include <QTimer>
 
 #include "app/capturas/Capturas.h"
 #include "shell/Carga01.h"
@@ -60,6 +61,18 @@ void CapturasCargas(Programa& programa, QWidget& editor) {
     EntrarLong1(negativa, QStringLiteral("-350"));
     Guardar(negativa, QStringLiteral("06_carga01_negativa"));
     negativa.hide();
+    // A count over the limit of a list, told on Return.
+    Carga03 lista(programa, marcas, &editor);
+    lista.show();
+    QTimer::singleShot(300, [] {
+        if (QWidget* caja = QApplication::activeModalWidget()) {
+            Guardar(*caja, QStringLiteral("06_carga03_limite"));
+            caja->close();
+        }
+    });
+    EntrarLong1(lista, QStringLiteral("12"));
+    Guardar(lista, QStringLiteral("06_carga03_tras_limite"));
+    lista.hide();
 }
 
 } // namespace trevalo
