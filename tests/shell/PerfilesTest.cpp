@@ -296,7 +296,10 @@ class Perfiles : public QObject {
         Tabla(F::SeccionU, "U_E.pfl",
               {"Canales", 2530, {{1, "UPN 100", std::vector<double>(13, 1.0)}}});
         Editar(F::SeccionU, "U_E.pfl", [&](TablaPerfil& t) {
-            QVERIFY(!Control<QPushButton>(t, "LSButton5")->isVisible()); // the table is locked
+            // The table is locked: no delete, no entry.
+            QVERIFY(!Control<QPushButton>(t, "LSButton5")->isVisible());
+            QVERIFY(!Teclar(t, 1, 2, QStringLiteral("5")));
+            QCOMPARE(Muestra(t, 1, 2), QStringLiteral("1.00"));
             Control<QCheckBox>(t, "Check1")->setChecked(true);
             t.Grid().setCurrentCell(0, 0);
             dialogos().respuestas = {RespuestaNo, RespuestaSi};
