@@ -45,7 +45,6 @@ void Guardar(QWidget& ventana, const QString& nombre) {
     std::cout << Std(ruta) << "\n";
 }
 
-// Shows a dialog without its own loop, takes its picture and closes it.
 void Capturar(QDialog& dialogo, const QString& nombre) {
     dialogo.show();
     Guardar(dialogo, nombre);
@@ -101,6 +100,7 @@ void Recorrido(Programa& programa) {
 
     VigaDatos editor(programa, &ventana);
     Capturar(editor, QStringLiteral("06_editor"));
+    CapturasCargas(programa, editor);
     programa.Vista.ModoEditor = false;
 
     DatosG datos(programa, &menu);
@@ -121,6 +121,7 @@ void Recorrido(Programa& programa) {
         {"Viga: V-101\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
+    CapturasPerfiles(programa, ventana);
     CapturasExportar(programa, ventana);
     ventana.hide();
     menu.close();

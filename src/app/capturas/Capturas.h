@@ -21,6 +21,14 @@ void Capturar(QDialog& dialogo, const QString& nombre);
 // A message box as the program shows it, captured while it waits for an answer.
 void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre);
 
+// The eight load dialogs over the beam editor, on the sample beam with spans marked.
+void CapturasCargas(Programa& programa, QWidget& editor);
+
+// The steel profile windows: the family chooser, each table window on a shipped table with
+// the sketch of a section under the mouse, the generator on a computed section and the
+// steel beam window on a loaded table.
+void CapturasPerfiles(Programa& programa, QWidget& padre);
+
 // The export to the drawing program, from the project window on the sample project.
 void CapturasExportar(Programa& programa, VigasProyecto& ventana);
 

@@ -1,0 +1,357 @@
+#include "shell/DelegadosCelda.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
+#include <algorithm>
+#include <cassert>
+#include <vector>
+
+#include "model/Redondeo.h"
+#include "platform/lienzos/LienzoQt.h"
+#include "shell/TextoQt.h"
+
+namespace trevalo {
+
+namespace {
+
+constexpr double MinimoConSigno = -99999999.99;
+constexpr double Maximo = 9999999999.99;
+
+std::string Mascara(int decimales) {
+    return decimales > 0 ? "0." + std::string(static_cast<std::size_t>(decimales), '0') : "0";
+}
+
+// The pattern of a number as typed: a sign when allowed, digits with the thousands
+// separator, and decimals after the decimal separator.
+QRegularExpression PatronNumero(bool conSigno, char decimal, char miles) {
+    const QString d = QRegularExpression::escape(QString(QLatin1Char(decimal)));
+    const QString m = QRegularExpression::escape(QString(QLatin1Char(miles)));
+    return QRegularExpression(QStringLiteral("%1[0-9%2]*(%3[0-9]*)?")
+                                  .arg(conSigno ? QStringLiteral("-?") : QString(), m, d));
+}
+
+bool EsRetorno(const QEvent* evento) {
+    if (evento->type() != QEvent::KeyPress) return false;
+    const int tecla = static_cast<const QKeyEvent*>(evento)->key();
+    return tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+}
+
+void BajarUnaFila(QTableWidget& grid) {
+    const int fila = grid.currentRow();
+    if (fila >= 0 && fila + 1 < grid.rowCount())
+        grid.setCurrentCell(fila + 1, grid.currentColumn());
+}
+
+QTableWidgetItem& ItemDe(QTableWidget& grid, int fila, int columna) {
+    QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
+    if (!item) {
+        item = new QTableWidgetItem;
+        grid.setItem(fila - 1, columna - 1, item);
+    }
+    return *item;
+}
+
+} // namespace
+
+DelegadoNumero::DelegadoNumero(Programa& programa, QTableWidget& grid)
+    : QStyledItemDelegate(&grid), programa_(programa), grid_(grid) {
+    grid_.setItemDelegate(this);
+    grid_.installEventFilter(this);
+    grid_.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                          QAbstractItemView::AnyKeyPressed);
+    connect(this, &DelegadoNumero::Pito, this, [] { QApplication::beep(); });
+}
+
+void DelegadoNumero::Formato(int col1, int row1, int col2, int row2, int decimales, bool conSigno) {
+    for (int c = col1; c <= col2; ++c) {
+        if (row1 < 0)
+            columnas_[c] = {decimales, conSigno};
+        else
+            for (int f = row1; f <= row2; ++f) celdas_[{f, c}] = {decimales, conSigno};
+    }
+    grid_.viewport()->update();
+}
+
+void DelegadoNumero::Centrar(int columna) {
+    centradas_[columna] = true;
+    grid_.viewport()->update();
+}
+
+std::optional<DelegadoNumero::FormatoCelda> DelegadoNumero::FormatoDe(int fila, int columna) const {
+    if (auto c = celdas_.find({fila, columna}); c != celdas_.end()) return c->second;
+    if (auto c = columnas_.find(columna); c != columnas_.end()) return c->second;
+    return std::nullopt;
+}
+
+QString DelegadoNumero::Texto(int fila, int columna, double valor) const {
+    const auto formato = FormatoDe(fila, columna);
+    const int decimales = formato ? formato->Decimales : 2;
+    if (valor == 0.0) valor = 0.0; // no "-0"
+    const auto& carpetas = programa_.Carpetas;
+    return Qs(trevalo::Formato(valor, Mascara(decimales), carpetas.SeparadorDecimal,
+                               carpetas.SeparadorMiles));
+}
+
+void DelegadoNumero::ColocarValor(int fila, int columna, double valor) {
+    const auto& carpetas = programa_.Carpetas;
+    double mostrado = NumeroDeTexto(Std(Texto(fila, columna, valor)), carpetas.SeparadorDecimal,
+                                    carpetas.SeparadorMiles);
+    if (mostrado == 0.0) mostrado = 0.0;
+    Item(fila, columna).setData(Qt::EditRole, mostrado);
+}
+
+std::optional<double> DelegadoNumero::Leer(int fila, int columna, const QString& texto) const {
+    const auto formato = FormatoDe(fila, columna);
+    const auto& carpetas = programa_.Carpetas;
+    const auto valor = LeerNumero(texto, carpetas.SeparadorDecimal, carpetas.SeparadorMiles);
+    const double minimo = formato->ConSigno ? MinimoConSigno : 0.0;
+    if (!valor || *valor < minimo || *valor > Maximo) return std::nullopt;
+    return valor;
+}
+
+Veredicto DelegadoNumero::Entrar(int fila, int columna, const QString& texto) {
+    const auto formato = FormatoDe(fila, columna);
+    Celda celda{fila, columna, texto.trimmed(), std::nullopt};
+    if (formato && !celda.Texto.isEmpty()) {
+        celda.Numero = Leer(fila, columna, celda.Texto);
+        if (!celda.Numero) return Rechazar();
+    }
+    if (formato && celda.Texto.isEmpty() && !regla_) return Rechazar();
+    Veredicto veredicto = regla_ ? regla_(celda) : Aceptar();
+    if (!veredicto.Aceptado) return veredicto;
+    if (formato)
+        ColocarValor(fila, columna, veredicto.Valor.value_or(celda.Numero.value_or(0.0)));
+    else
+        Item(fila, columna).setText(celda.Texto);
+    return veredicto;
+}
+
+void DelegadoNumero::Mostrar(const Veredicto& veredicto) {
+    if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
+    if (veredicto.Pitido) emit Pito();
+}
+
+bool DelegadoNumero::Aplicar(int fila, int columna, const QString& texto) {
+    if (ocupado_) return false; // a message box took the focus from the editor
+    ocupado_ = true;
+    const Veredicto veredicto = Entrar(fila, columna, texto);
+    Mostrar(veredicto);
+    ocupado_ = false;
+    return veredicto.Aceptado;
+}
+
+void DelegadoNumero::Lote::Sumar(const Veredicto& v) {
+    tomadas += v.Aceptado ? 1 : 0;
+    pitido = pitido || v.Pitido;
+    if (v.Aviso && std::find(avisos.begin(), avisos.end(), *v.Aviso) == avisos.end())
+        avisos.push_back(*v.Aviso);
+}
+
+int DelegadoNumero::EnLote(const std::function<void(Lote&)>& entradas) {
+    if (ocupado_) return 0;
+    ocupado_ = true;
+    Lote lote;
+    entradas(lote);
+    for (const Pregunta& aviso : lote.avisos) programa_.Dialogo().Mensaje(aviso);
+    if (lote.pitido) emit Pito();
+    ocupado_ = false;
+    return lote.tomadas;
+}
+
+int DelegadoNumero::Pegar(const QString& bloque) {
+    QStringList filas = bloque.split(QLatin1Char('\n'));
+    if (!filas.isEmpty() && filas.back().trimmed().isEmpty()) filas.removeLast();
+    const int fila0 = std::max(grid_.currentRow(), 0) + 1;
+    const int columna0 = std::max(grid_.currentColumn(), 0) + 1;
+    const int necesarias = fila0 + static_cast<int>(filas.size()) - 1;
+    if (necesarias > grid_.rowCount() && crecer_) crecer_(necesarias);
+    return EnLote([&](Lote& lote) {
+        for (int i = 0; i < filas.size() && fila0 + i <= grid_.rowCount(); ++i) {
+            const QStringList celdas = filas[i].split(QLatin1Char('\t'));
+            for (int j = 0; j < celdas.size() && columna0 + j <= grid_.columnCount(); ++j)
+                if (!grid_.itemDelegateForColumn(columna0 + j - 1)) // not a check column
+                    lote.Sumar(Entrar(fila0 + i, columna0 + j, celdas[j]));
+        }
+    });
+}
+
+int DelegadoNumero::Llenar(int fila1, int fila2, int columna, const QString& texto) {
+    return EnLote([&](Lote& lote) {
+        for (int f = fila1; f <= fila2 && f <= grid_.rowCount(); ++f)
+            lote.Sumar(Entrar(f, columna, texto));
+    });
+}
+
+QTableWidgetItem& DelegadoNumero::Item(int fila, int columna) {
+    return ItemDe(grid_, fila, columna);
+}
+
+QWidget* DelegadoNumero::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                      const QModelIndex& index) const {
+    // A line of text for every cell: the value is typed as the cell shows it.
+    auto* linea = new QLineEdit(parent);
+    linea->setFrame(false);
+    const auto formato = FormatoDe(index.row() + 1, index.column() + 1);
+    if (formato) {
+        const auto& carpetas = programa_.Carpetas;
+        linea->setValidator(new QRegularExpressionValidator(
+            PatronNumero(formato->ConSigno, carpetas.SeparadorDecimal, carpetas.SeparadorMiles),
+            linea));
+        linea->setAlignment(centradas_.count(index.column() + 1)
+                                ? Qt::AlignCenter
+                                : Qt::AlignRight | Qt::AlignVCenter);
+    }
+    return linea;
+}
+
+void DelegadoNumero::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    auto* linea = qobject_cast<QLineEdit*>(editor);
+    if (!linea) return QStyledItemDelegate::setEditorData(editor, index);
+    const QVariant valor = index.data(Qt::EditRole);
+    const bool numero = FormatoDe(index.row() + 1, index.column() + 1) && valor.isValid() &&
+                        valor.typeId() == QMetaType::Double;
+    linea->setText(numero ? Texto(index.row() + 1, index.column() + 1, valor.toDouble())
+                          : valor.toString());
+}
+
+void DelegadoNumero::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                  const QModelIndex& index) const {
+    auto* linea = qobject_cast<QLineEdit*>(editor);
+    if (!linea) return QStyledItemDelegate::setModelData(editor, model, index);
+    // The rule and its message belong to the form; the grid is the form's, not const.
+    const_cast<DelegadoNumero*>(this)->Aplicar(index.row() + 1, index.column() + 1, linea->text());
+}
+
+void DelegadoNumero::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const int fila = index.row() + 1;
+    const int columna = index.column() + 1;
+    const QVariant valor = index.data(Qt::EditRole);
+    if (FormatoDe(fila, columna)) {
+        if (valor.typeId() == QMetaType::Double)
+            option->text = Texto(fila, columna, valor.toDouble());
+        option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    }
+    if (centradas_.count(columna)) option->displayAlignment = Qt::AlignCenter;
+}
+
+bool DelegadoNumero::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto != &grid_) {
+        auto* editor = qobject_cast<QWidget*>(objeto);
+        if (editor && EsRetorno(evento)) {
+            emit commitData(editor);
+            emit closeEditor(editor, QAbstractItemDelegate::NoHint);
+            BajarUnaFila(grid_);
+            return true;
+        }
+        return QStyledItemDelegate::eventFilter(objeto, evento);
+    }
+    if (evento->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(evento)->matches(QKeySequence::Paste)) {
+        Pegar(QGuiApplication::clipboard()->text());
+        return true;
+    }
+    if (EsRetorno(evento)) { // the grid has the focus: no cell is being edited
+        BajarUnaFila(grid_);
+        return true;
+    }
+    return false;
+}
+
+DelegadoMarca::DelegadoMarca(QTableWidget& grid, int columna, AlMarcar alMarcar)
+    : QStyledItemDelegate(&grid), grid_(grid), alMarcar_(std::move(alMarcar)) {
+    grid_.setItemDelegateForColumn(columna - 1, this);
+}
+
+void DelegadoMarca::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const {
+    QStyleOptionViewItem fondo = option;
+    initStyleOption(&fondo, index);
+    fondo.features &= ~QStyleOptionViewItem::HasCheckIndicator;
+    fondo.text.clear();
+    QStyle* estilo = fondo.widget ? fondo.widget->style() : QApplication::style();
+    estilo->drawControl(QStyle::CE_ItemViewItem, &fondo, painter, fondo.widget);
+
+    QStyleOptionButton caja;
+    const int ancho = estilo->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, fondo.widget);
+    const int alto = estilo->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, fondo.widget);
+    caja.rect = QRect(0, 0, ancho, alto);
+    caja.rect.moveCenter(option.rect.center());
+    const bool marcada = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    caja.state = QStyle::State_Enabled | (marcada ? QStyle::State_On : QStyle::State_Off);
+    estilo->drawPrimitive(QStyle::PE_IndicatorCheckBox, &caja, painter, fondo.widget);
+}
+
+bool DelegadoMarca::editorEvent(QEvent* evento, QAbstractItemModel* model,
+                                const QStyleOptionViewItem& option, const QModelIndex& index) {
+    bool cambia = false;
+    if (evento->type() == QEvent::MouseButtonRelease) {
+        const auto* raton = static_cast<QMouseEvent*>(evento);
+        cambia =
+            raton->button() == Qt::LeftButton && option.rect.contains(raton->position().toPoint());
+    } else if (evento->type() == QEvent::MouseButtonDblClick) {
+        return true; // no text editor on a check cell
+    } else if (evento->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent*>(evento)->key();
+        cambia = tecla == Qt::Key_Space || tecla == Qt::Key_Select;
+    }
+    if (!cambia) return false;
+    const bool marcada = index.data(Qt::CheckStateRole).toInt() != Qt::Checked;
+    model->setData(index, marcada ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    if (alMarcar_) alMarcar_(index.row() + 1, marcada);
+    return true;
+}
+
+std::optional<double> LeerNumero(const QString& texto, char decimal, char miles) {
+    const QString limpio = texto.trimmed();
+    const QRegularExpression patron(
+        QRegularExpression::anchoredPattern(PatronNumero(true, decimal, miles).pattern()));
+    if (!patron.match(limpio).hasMatch() ||
+        !limpio.contains(QRegularExpression(QStringLiteral("[0-9]"))))
+        return std::nullopt;
+    return NumeroDeTexto(Std(limpio), decimal, miles);
+}
+
+DelegadoNumero& Delegado(QTableWidget& grid) {
+    auto* delegado = qobject_cast<DelegadoNumero*>(grid.itemDelegate());
+    assert(delegado && "the form makes the grid's DelegadoNumero first");
+    return *delegado;
+}
+
+void FormatoCeldas(QTableWidget& grid, int col1, int row1, int col2, int row2, int decimales,
+                   bool conSigno) {
+    Delegado(grid).Formato(col1, row1, col2, row2, decimales, conSigno);
+}
+
+double ValorCelda(const QTableWidget& grid, int fila, int columna) {
+    const QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
+    return item ? item->data(Qt::EditRole).toDouble() : 0.0;
+}
+
+void ColocarTextoCelda(QTableWidget& grid, int fila, int columna, const QString& texto) {
+    ItemDe(grid, fila, columna).setText(texto);
+}
+
+bool CeldaMarcada(const QTableWidget& grid, int fila, int columna) {
+    const QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
+    return item && item->checkState() == Qt::Checked;
+}
+
+void MarcarCelda(QTableWidget& grid, int fila, int columna, bool marcada) {
+    QTableWidgetItem& item = ItemDe(grid, fila, columna);
+    item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    item.setCheckState(marcada ? Qt::Checked : Qt::Unchecked);
+}
+
+void ColorFila(QTableWidget& grid, int fila, std::int32_t color) {
+    const QColor fondo = ColorQt(static_cast<Color>(color));
+    for (int c = 1; c <= grid.columnCount(); ++c) ItemDe(grid, fila, c).setBackground(fondo);
+}
+
+} // namespace trevalo

@@ -1,0 +1,177 @@
+#pragma once
+// The cells of every grid of the program: one numeric-cell delegate and one check-cell
+// delegate.
+//
+// Rows and columns count from 1 as the forms number them; row 0 and column 0 are the headers
+// (Qt's own indexes are one less). A numeric cell keeps its value as a double in the item's
+// edit role and shows it plainly (no thousands separator) with its column's decimals and the
+// machine's decimal separator (Programa::Carpetas). The value kept is the one read back from
+// the text shown, so the model never holds more than the user sees.
+//
+// Every value entered, typed or pasted, goes through DelegadoNumero::Aplicar:
+//   1. the text is trimmed; a text that is not a number, or a number below the cell's
+//      minimum ("-99999999.99" with sign, "0.00" without) or above "9999999999.99", beeps
+//      and the old value is put back;
+//   2. the form's rule (ColocarRegla) sees the cell and the number (nothing for an empty
+//      text; an empty text with no rule is refused like a bad one) and answers with a
+//      Veredicto: the value the cell keeps, or a refusal that puts the old value back, and
+//      the message or beep to give. The rule writes the model; the delegate shows the message.
+// A column with no numeric format is a text column: its trimmed text goes to the rule with no
+// number, and is kept when accepted.
+//
+// Ctrl+V pastes tab-separated rows (a spreadsheet's copy) from the active cell: each cell
+// through Aplicar, each distinct message shown once; rows beyond the grid are added only when
+// the form's growth hook (ColocarCrecimiento) grows the grid; columns beyond are dropped.
+//
+// Enter in a cell's editor commits and moves to the next row; F2 edits.
+
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "shell/Programa.h"
+
+namespace trevalo {
+
+// A value entered in a cell, as the form's rule sees it.
+struct Celda {
+    int Fila = 0;
+    int Columna = 0;
+    QString Texto;                // trimmed
+    std::optional<double> Numero; // nothing for an empty text or a text column
+};
+
+// The rule's answer.
+struct Veredicto {
+    bool Aceptado = true;
+    std::optional<double> Valor;   // the value the cell keeps when it differs from the entry
+    std::optional<Pregunta> Aviso; // a message box to show
+    bool Pitido = false;           // a beep
+};
+
+inline Veredicto Aceptar(std::optional<double> valor = std::nullopt) {
+    return {true, valor, std::nullopt, false};
+}
+// A refusal with a message, or with a beep when there is none.
+inline Veredicto Rechazar(std::optional<Pregunta> aviso = std::nullopt) {
+    const bool pitido = !aviso;
+    return {false, std::nullopt, std::move(aviso), pitido};
+}
+
+class DelegadoNumero : public QStyledItemDelegate {
+    Q_OBJECT
+
+  public:
+    using Regla = std::function<Veredicto(const Celda&)>;
+    // Asked to grow the grid to `filas` rows for a paste; answers whether it did.
+    using Crecimiento = std::function<bool(int filas)>;
+
+    // Becomes the delegate of every column of `grid` (check columns take DelegadoMarca).
+    DelegadoNumero(Programa& programa, QTableWidget& grid);
+
+    // Numeric format of a block; row1 = -1 for all rows (present and future).
+    void Formato(int col1, int row1, int col2, int row2, int decimales, bool conSigno);
+    void Centrar(int columna);
+    void ColocarRegla(Regla regla) { regla_ = std::move(regla); }
+    void ColocarCrecimiento(Crecimiento crecer) { crecer_ = std::move(crecer); }
+
+    // The one way in for a value entered by the user; true when the cell took it.
+    bool Aplicar(int fila, int columna, const QString& texto);
+    // Pastes tab-separated rows from the active cell; returns the cells taken.
+    int Pegar(const QString& bloque);
+    // One text into rows fila1..fila2 of a column (a block entry), each cell as Aplicar
+    // takes it, each distinct message once; returns the cells taken.
+    int Llenar(int fila1, int fila2, int columna, const QString& texto);
+
+    // Writes a value from the model into a cell, rounded to the cell's decimals; no rule.
+    void ColocarValor(int fila, int columna, double valor);
+    // The text a value shows in a cell.
+    QString Texto(int fila, int columna, double valor) const;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override;
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+  signals:
+    void Pito(); // a refused entry beeps; connected to the system's beep
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+  private:
+    struct FormatoCelda {
+        int Decimales = 2;
+        bool ConSigno = false;
+    };
+    std::optional<FormatoCelda> FormatoDe(int fila, int columna) const;
+    std::optional<double> Leer(int fila, int columna, const QString& texto) const;
+    Veredicto Entrar(int fila, int columna, const QString& texto);
+    void Mostrar(const Veredicto& veredicto);
+    // The entries of a paste or a block: their messages gathered and shown once each.
+    struct Lote {
+        std::vector<Pregunta> avisos;
+        bool pitido = false;
+        int tomadas = 0;
+        void Sumar(const Veredicto& v);
+    };
+    int EnLote(const std::function<void(Lote&)>& entradas);
+    QTableWidgetItem& Item(int fila, int columna);
+
+    Programa& programa_;
+    QTableWidget& grid_;
+    std::map<int, FormatoCelda> columnas_;               // format of every row
+    std::map<std::pair<int, int>, FormatoCelda> celdas_; // format of given cells
+    std::map<int, bool> centradas_;
+    Regla regla_;
+    Crecimiento crecer_;
+    bool ocupado_ = false; // an entry is being applied
+};
+
+// A column of check cells: a centred box, ticked by a click or the space bar; the form hears
+// each tick through the hook. The mark lives in the item's check state.
+class DelegadoMarca : public QStyledItemDelegate {
+    Q_OBJECT
+
+  public:
+    using AlMarcar = std::function<void(int fila, bool marcada)>;
+
+    DelegadoMarca(QTableWidget& grid, int columna, AlMarcar alMarcar);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    bool editorEvent(QEvent* evento, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override;
+
+  private:
+    QTableWidget& grid_;
+    AlMarcar alMarcar_;
+};
+
+// A number as the user types it with the machine's separators (sign, thousands, decimals);
+// nothing for any other text.
+std::optional<double> LeerNumero(const QString& texto, char decimal, char miles);
+
+// The grid's numeric delegate; the form makes it first (a programmer's mistake otherwise).
+DelegadoNumero& Delegado(QTableWidget& grid);
+// Sets a block of cells to a numeric format: `decimales` places, with or without sign;
+// row1 = -1 stands for all rows.
+void FormatoCeldas(QTableWidget& grid, int col1, int row1, int col2, int row2, int decimales,
+                   bool conSigno);
+
+// Cells by the forms' numbering; an empty cell reads 0.
+double ValorCelda(const QTableWidget& grid, int fila, int columna);
+void ColocarTextoCelda(QTableWidget& grid, int fila, int columna, const QString& texto);
+bool CeldaMarcada(const QTableWidget& grid, int fila, int columna);
+void MarcarCelda(QTableWidget& grid, int fila, int columna, bool marcada);
+// The background of a row, colour 0xBBGGRR.
+void ColorFila(QTableWidget& grid, int fila, std::int32_t color);
+
+} // namespace trevalo
