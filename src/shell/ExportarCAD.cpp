@@ -13,8 +13,10 @@
 #include <QTableWidget>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <cstdint>
 
 #include "output/ExportarCAD.h"
+#include "shell/DelegadosCelda.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
@@ -24,8 +26,9 @@ namespace trevalo {
 
 namespace {
 
-// 0xC4EFFF as 0xBBGGRR.
-const QColor ColorMarcada(0xFF, 0xEF, 0xC4);
+// Rows marked and unmarked, 0xBBGGRR.
+constexpr std::int32_t ColorMarcada = 0xC4EFFF;
+constexpr std::int32_t ColorBlanco = 0xFFFFFF;
 
 const char* const Opciones[4] = {"Anexar a un Proyecto Existente", "Crear un Nuevo Proyecto",
                                  "Apoyada sobre Vigas", "Apoyada sobre Columnas"};
@@ -163,9 +166,6 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
             [this](int fila, int, int anterior, int) {
                 if (fila != anterior && fila >= 0) CambioFila(fila + 1);
             });
-    connect(spread1_, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* item) {
-        if (item->column() == 0) Marcar(item->row() + 1, item->text() == QStringLiteral("1"));
-    });
     resize(900, 600);
 }
 
@@ -192,10 +192,13 @@ void ExportarCAD::ColoquePantalla(const std::vector<std::string>& nombres) {
     spread1_->horizontalHeader()->setStretchLastSection(true);
     spread1_->verticalHeader()->setDefaultSectionSize(20);
     spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
-    spread1_->setMinimumWidth(280);
+    spread1_->setMinimumWidth(380);
+    spread1_->horizontalHeader()->resizeSection(0, 64);
+    new DelegadoMarca(*spread1_, 1, [this](int fila, bool marcada) {
+        ColorFila(*spread1_, fila, marcada ? ColorMarcada : ColorBlanco);
+    });
     spread1_->setRowCount(static_cast<int>(nombres.size()));
     for (int r = 0; r < spread1_->rowCount(); ++r) {
-        spread1_->setItem(r, 0, new QTableWidgetItem(QStringLiteral("0")));
         auto* nombre = new QTableWidgetItem(Qs(nombres[static_cast<std::size_t>(r)]));
         nombre->setFlags(nombre->flags() & ~Qt::ItemIsEditable);
         spread1_->setItem(r, 1, nombre);
@@ -204,14 +207,12 @@ void ExportarCAD::ColoquePantalla(const std::vector<std::string>& nombres) {
 }
 
 bool ExportarCAD::Marcada(int fila) const {
-    return spread1_->item(fila - 1, 0)->text() == QStringLiteral("1");
+    return CeldaMarcada(*spread1_, fila, 1);
 }
 
 void ExportarCAD::Marcar(int fila, bool marcada) {
-    const QSignalBlocker bloqueo(spread1_);
-    spread1_->item(fila - 1, 0)->setText(marcada ? QStringLiteral("1") : QStringLiteral("0"));
-    const QColor fondo = marcada ? ColorMarcada : QColor(Qt::white);
-    for (int c = 0; c < 2; ++c) spread1_->item(fila - 1, c)->setBackground(fondo);
+    MarcarCelda(*spread1_, fila, 1, marcada);
+    ColorFila(*spread1_, fila, marcada ? ColorMarcada : ColorBlanco);
 }
 
 void ExportarCAD::MarcarTodas(bool marcada) {

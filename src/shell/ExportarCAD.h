@@ -36,7 +36,8 @@ class ExportarCAD : public QDialog {
                 QWidget* parent = nullptr);
     ~ExportarCAD() override;
 
-    // The mark of row r (from 1) and its setting, as a click on the check cell does.
+    // The mark of row r (from 1) and its setting with the row's colour, as a click on the
+    // check cell does.
     bool Marcada(int fila) const;
     void Marcar(int fila, bool marcada);
     QPushButton* Boton(const QString& nombre) const;

@@ -15,11 +15,11 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/OperacionesVista.h"
+#include "model/Conversiones.h"
 #include "output/ProgramaInforme.h"
 #include "shell/CristalReport.h"
 #include "shell/EsquinaNo.h"
 #include "shell/ExportarCAD.h"
-#include "model/Conversiones.h"
 #include "shell/Iconos.h"
 #include "shell/ImpreReport.h"
 #include "shell/ImpreVigas.h"

@@ -38,6 +38,12 @@ QColor Fondo(ExportarCAD& f, int fila) {
     return Grilla(f).item(fila - 1, 1)->background().color();
 }
 
+// A click on the check cell of the row (from 1).
+void Tildar(QTableWidget& g, int fila) {
+    QTest::mouseClick(g.viewport(), Qt::LeftButton, {},
+                      g.visualRect(g.model()->index(fila - 1, 0)).center());
+}
+
 void Pulsar(ExportarCAD& f, const char* boton) {
     QTest::mouseClick(f.Boton(QString::fromLatin1(boton)), Qt::LeftButton);
 }
@@ -112,7 +118,7 @@ class ExportarCADTest : public QObject {
             // The second row: its beam in the preview, marked, to a new project.
             g.setCurrentCell(1, 1);
             QCOMPARE(p.programa.Viga.NombreVigaActual, nombres[1]);
-            g.item(1, 0)->setText(QStringLiteral("1"));
+            Tildar(g, 2);
             QVERIFY(f.Marcada(2));
             QCOMPARE(Fondo(f, 2), Crema);
             auto* nuevo = Hijo<QRadioButton>(f, QStringLiteral("Option2"));
@@ -154,7 +160,7 @@ class ExportarCADTest : public QObject {
         const std::string destino = p.carpeta / "Anexo.Cad";
         EnFormulario([&](ExportarCAD& f) {
             QTableWidget& g = Grilla(f);
-            g.item(g.rowCount() - 1, 0)->setText(QStringLiteral("1"));
+            Tildar(g, g.rowCount());
             p.dialogos->archivos.push_back({false, destino, "Anexo.Cad"});
             p.dialogos->respuestas.push_back(RespuestaSi);
             Pulsar(f, "LSButton1");
