@@ -82,9 +82,10 @@ const std::vector<std::pair<QString, QString>>& TemasVentanas() {
 }
 
 QString TemaDeVentana(const QWidget& ventana) {
-    const QString clase = Clase(ventana);
-    for (const auto& [nombre, tema] : TemasVentanas())
-        if (nombre == clase) return tema;
+    // One class may serve several windows, told apart by their object names.
+    for (const QString& nombre : {Clase(ventana), ventana.objectName()})
+        for (const auto& [ventanaTema, tema] : TemasVentanas())
+            if (ventanaTema == nombre) return tema;
     return {};
 }
 

@@ -15,11 +15,13 @@ namespace trevalo {
 
 class VentanaAyuda;
 
-// Every window of the program by its class name, with the file of its topic, in the order
-// of the manual's chapters. Windows of one family share a topic.
+// Every window of the program by its class name (or, for a class that serves several
+// windows, its object name), with the file of its topic. Windows of one family share a
+// topic.
 const std::vector<std::pair<QString, QString>>& TemasVentanas();
 
-// The topic of a window (by its class, without the namespace); "" for a window without one.
+// The topic of a window by its class, without the namespace, or else by its object name; ""
+// for a window without one.
 QString TemaDeVentana(const QWidget& ventana);
 
 // Opens the help window on `tema` ("" the first topic) over `frente`, the window in front,

@@ -114,6 +114,10 @@ class AyudaTest : public QObject {
             QVERIFY2(html.contains("<h1>"), qPrintable(clase + QStringLiteral(": ") + tema));
         }
         ayuda->close();
+        // The four profile tables are one class, told apart by name.
+        QDialog tabla;
+        tabla.setObjectName(QStringLiteral("TablaSeccionU"));
+        QCOMPARE(TemaDeVentana(tabla), QStringLiteral("TablasPerfiles.html"));
 
         QFile manual(Qs(p.programa.Carpetas.RutaPrograma + "/Manual/AyudaTrevalo6.pdf"));
         QVERIFY(manual.open(QIODevice::ReadOnly));
