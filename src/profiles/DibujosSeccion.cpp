@@ -1,5 +1,6 @@
 #include "profiles/DibujosSeccion.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "drawing/Ploteos.h"
@@ -42,11 +43,25 @@ void Texto(Lienzo& l, const std::string& t, double x, double y, bool centrado, d
     TextoRotado(l, t, esquina.x, esquina.y, angulo);
 }
 
+using Contorno = std::vector<std::pair<double, double>>;
+
+// Outlines in mm from the top left corner, clockwise: a double tee, and a channel open to
+// the right.
+Contorno ContornoDobleTee(const Dimensiones& m) {
+    const double b = m.bf, D = m.D, t = m.tf, izq = (b - m.tw) / 2, der = (b + m.tw) / 2;
+    return {{0, 0}, {b, 0}, {b, t},     {der, t},     {der, D - t}, {b, D - t},
+            {b, D}, {0, D}, {0, D - t}, {izq, D - t}, {izq, t},     {0, t}};
+}
+
+Contorno ContornoU(const Dimensiones& m) {
+    const double b = m.bf, D = m.D, t = m.tf, w = m.tw;
+    return {{0, 0}, {b, 0}, {b, t}, {w, t}, {w, D - t}, {b, D - t}, {b, D}, {0, D}};
+}
+
 // Draws the outline (points in mm relative to the top left corner) and the dimensions. The
 // web's faces are at `almaIzq` and `almaDer` mm from the left.
-void DibujeSeccion(Lienzo& l, const Dimensiones& m, double fraccion,
-                   const std::vector<std::pair<double, double>>& contorno, double almaIzq,
-                   double almaDer) {
+void DibujeSeccion(Lienzo& l, const Dimensiones& m, double fraccion, const Contorno& contorno,
+                   double almaIzq, double almaDer) {
     const double s = l.ScaleHeight() * fraccion / m.D;
     const double x0 = static_cast<double>(CI((l.ScaleWidth() - m.bf * s) / 2));
     const double y0 = static_cast<double>(CI((l.ScaleHeight() - m.D * s) / 2));
@@ -97,7 +112,77 @@ bool Preparar(Lienzo& l, FamiliaPerfil familia, const FilaPerfil& fila, Dimensio
     return m.D != 0 && m.bf != 0 && m.tf != 0 && m.tw != 0;
 }
 
+// A rectangle of w by h mm at (x, y), clockwise.
+Contorno Rectangulo(double x, double y, double w, double h) {
+    return {{x, y}, {x + w, y}, {x + w, y + h}, {x, y + h}};
+}
+
+Contorno Desplazado(Contorno c, double dx, bool espejo, double ancho) {
+    for (auto& [x, y] : c) x = (espejo ? ancho - x : x) + dx;
+    return c;
+}
+
+// The outlines of a family picture in mm, and which of them are holes (painted with the
+// background): the section alone or two of them side by side.
+struct Figura {
+    std::vector<Contorno> contornos;
+    std::vector<bool> huecos;
+    double ancho, alto;
+};
+
+// Two sections side by side with a gap between them; either may be mirrored.
+Figura Pareja(const Contorno& c, double ancho, double alto, bool espejoIzq, bool espejoDer) {
+    constexpr double Separacion = 12;
+    return {
+        {Desplazado(c, 0, espejoIzq, ancho), Desplazado(c, ancho + Separacion, espejoDer, ancho)},
+        {false, false},
+        2 * ancho + Separacion,
+        alto};
+}
+
+Figura FiguraFamilia(int item) {
+    const Dimensiones tee{200, 120, 16, 10}, canal{200, 80, 16, 12};
+    switch (item) {
+    case 1:
+        return {{ContornoDobleTee(tee)}, {false}, tee.bf, tee.D};
+    case 2: // two double tees side by side
+        return Pareja(ContornoDobleTee(tee), tee.bf, tee.D, false, false);
+    case 3:
+        return {{ContornoU(canal)}, {false}, canal.bf, canal.D};
+    case 4: // back to back
+        return Pareja(ContornoU(canal), canal.bf, canal.D, true, false);
+    case 5: // toe to toe
+        return Pareja(ContornoU(canal), canal.bf, canal.D, false, true);
+    case 6:
+        return {
+            {Rectangulo(0, 0, 160, 160), Rectangulo(16, 16, 128, 128)}, {false, true}, 160, 160};
+    default: // 7
+        return {{Rectangulo(0, 0, 120, 200), Rectangulo(14, 14, 92, 172)}, {false, true}, 120, 200};
+    }
+}
+
 } // namespace
+
+void DibujeFamiliaPerfil(Lienzo& lienzo, int item) {
+    lienzo.Cls();
+    const Figura f = FiguraFamilia(item);
+    const double margen = 6;
+    const double s = std::min((lienzo.ScaleWidth() - 2 * margen) / f.ancho,
+                              (lienzo.ScaleHeight() - 2 * margen) / f.alto);
+    const double x0 = (lienzo.ScaleWidth() - f.ancho * s) / 2;
+    const double y0 = (lienzo.ScaleHeight() - f.alto * s) / 2;
+    const Pluma anterior = lienzo.SelectObject({EstiloMarcoInterior, 1, BordeSeccion});
+    lienzo.FillStyle = RellenoSolido;
+    for (std::size_t i = 0; i < f.contornos.size(); ++i) {
+        std::vector<PuntoApi> puntos;
+        for (const auto& [x, y] : f.contornos[i])
+            puntos.push_back({CI(x0 + x * s), CI(y0 + y * s)});
+        lienzo.FillColor = f.huecos[i] ? lienzo.BackColor : RellenoSeccion;
+        lienzo.Polygon(puntos);
+    }
+    lienzo.FillStyle = RellenoTransparente;
+    lienzo.SelectObject(anterior);
+}
 
 void DibujarFondoP(Lienzo& lienzo, int paso) {
     const Pluma anterior = lienzo.SelectObject({EstiloSolido, 1, ColorFondo});
@@ -110,29 +195,13 @@ void DibujarFondoP(Lienzo& lienzo, int paso) {
 void DibujeDobleTee(Lienzo& lienzo, const FilaPerfil& fila) {
     Dimensiones m{};
     if (!Preparar(lienzo, FamiliaPerfil::DobleTee, fila, m)) return;
-    const double b = m.bf, D = m.D, t = m.tf, izq = (b - m.tw) / 2, der = (b + m.tw) / 2;
-    DibujeSeccion(lienzo, m, 0.58,
-                  {{0, 0},
-                   {b, 0},
-                   {b, t},
-                   {der, t},
-                   {der, D - t},
-                   {b, D - t},
-                   {b, D},
-                   {0, D},
-                   {0, D - t},
-                   {izq, D - t},
-                   {izq, t},
-                   {0, t}},
-                  izq, der);
+    DibujeSeccion(lienzo, m, 0.58, ContornoDobleTee(m), (m.bf - m.tw) / 2, (m.bf + m.tw) / 2);
 }
 
 void DibujeSeccionU(Lienzo& lienzo, const FilaPerfil& fila) {
     Dimensiones m{};
     if (!Preparar(lienzo, FamiliaPerfil::SeccionU, fila, m)) return;
-    const double b = m.bf, D = m.D, t = m.tf, w = m.tw;
-    DibujeSeccion(lienzo, m, 0.6,
-                  {{0, 0}, {b, 0}, {b, t}, {w, t}, {w, D - t}, {b, D - t}, {b, D}, {0, D}}, 0, w);
+    DibujeSeccion(lienzo, m, 0.6, ContornoU(m), 0, m.tw);
 }
 
 } // namespace trevalo

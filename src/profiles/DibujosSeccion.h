@@ -19,4 +19,9 @@ void DibujarFondoP(Lienzo& lienzo, int paso);
 void DibujeDobleTee(Lienzo& lienzo, const FilaPerfil& fila);
 void DibujeSeccionU(Lienzo& lienzo, const FilaPerfil& fila);
 
+// The picture of one of the seven items of the steel beam types (1 double tee, 2 two double
+// tees, 3 channel, 4 two channels back to back, 5 two channels toe to toe, 6 square tube,
+// 7 rectangular tube): the outlines alone, filled, fitted to the canvas.
+void DibujeFamiliaPerfil(Lienzo& lienzo, int item);
+
 } // namespace trevalo

@@ -22,6 +22,19 @@ std::string Texto(const Valor& v) {
     return v.EsNulo() ? std::string() : v.Texto();
 }
 
+// A field of a row read: a file of another family lacks one of the fields, and the message
+// names it, so the user knows the file is not a table of this family.
+const Valor& Leido(const Recordset& rs, const std::string& campo) {
+    try {
+        return rs.Campo(campo);
+    } catch (const ErrorTrevalo& e) {
+        if (e.Numero() != ErrNoEnColeccion) throw;
+        throw ErrorTrevalo(ErrNoEnColeccion,
+                           "La tabla no tiene el campo \"" + campo +
+                               "\": no es una tabla de esta familia de perfiles.");
+    }
+}
+
 } // namespace
 
 double ValorCampo(FamiliaPerfil familia, const FilaPerfil& fila, const std::string& campo) {
@@ -46,9 +59,9 @@ TablaPerfiles LeerTablaPerfiles(const std::string& ruta, FamiliaPerfil familia) 
     const DatosFamilia& f = Familia(familia);
     for (; !datos.AlFinal(); datos.MoveNext()) {
         FilaPerfil fila;
-        fila.Numero = datos.Campo("Numero").Entero16();
-        fila.Designacion = Texto(datos.Campo("Designacion"));
-        for (const auto& campo : f.Campos) fila.Valores.push_back(Numero(datos.Campo(campo)));
+        fila.Numero = Leido(datos, "Numero").Entero16();
+        fila.Designacion = Texto(Leido(datos, "Designacion"));
+        for (const auto& campo : f.Campos) fila.Valores.push_back(Numero(Leido(datos, campo)));
         tabla.Filas.push_back(std::move(fila));
     }
     return tabla;

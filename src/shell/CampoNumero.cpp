@@ -12,7 +12,7 @@ CampoNumero::CampoNumero(QWidget* parent) : QLineEdit(parent) {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // The text typed is shown again through the mask once the field is left.
     connect(this, &QLineEdit::editingFinished, this, [this] {
-        if (!text().isEmpty()) ColocarValor(Valor());
+        if (!text().isEmpty() && !mascara_.empty()) ColocarValor(Valor());
     });
 }
 
@@ -26,12 +26,18 @@ void CampoNumero::Configurar(const std::string& mascara, char separadorDecimal,
     setValidator(new QRegularExpressionValidator(
         QRegularExpression(QStringLiteral("-?[0-9%1]*(%2[0-9]*)?").arg(m, d)), this));
     // Wide enough for millions at the mask's decimals.
-    const QString ancho = Qs(Formato(-9999999, mascara_, decimal_, miles_));
+    const QString ancho =
+        Qs(Formato(-9999999, mascara_.empty() ? "0.00" : mascara_, decimal_, miles_));
     setMinimumWidth(fontMetrics().horizontalAdvance(ancho) + 4 * fontMetrics().averageCharWidth());
 }
 
 void CampoNumero::ColocarValor(double valor) {
-    setText(Qs(Formato(valor, mascara_, decimal_, miles_)));
+    if (!mascara_.empty()) {
+        setText(Qs(Formato(valor, mascara_, decimal_, miles_)));
+        return;
+    }
+    QString texto = QString::number(valor, 'g', 15);
+    setText(texto.replace(QLatin1Char('.'), QLatin1Char(decimal_)));
 }
 
 double CampoNumero::Valor() const {

@@ -15,6 +15,7 @@
 
 #include "shell/DatosG.h"
 #include "shell/Iconos.h"
+#include "shell/OpcionPerfil.h"
 #include "shell/Sobre.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
@@ -234,8 +235,10 @@ void MenuP::Despachar(const QString& clave) {
     else if (clave == QStringLiteral("ID_Acerca")) {
         Sobre sobre(programa_, this);
         sobre.exec();
+    } else if (clave == QStringLiteral("ID_BaseDatos_Perfiles")) {
+        OpcionPerfil opcion(programa_, this);
+        opcion.exec();
     } else if (clave == QStringLiteral("ID_ConfigurarPantalla") ||
-               clave == QStringLiteral("ID_BaseDatos_Perfiles") ||
                clave == QStringLiteral("ID_Mantenimiento_Reparar")) {
         programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
                                      Std(Accion(clave)->text().remove(QLatin1Char('&'))),

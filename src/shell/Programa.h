@@ -10,6 +10,8 @@
 
 #include "drawing/EstadoPloteos.h"
 #include "model/Viga.h"
+#include "profiles/ListaPerfiles.h"
+#include "profiles/TablaPerfiles.h"
 #include "store/CarpetasPrograma.h"
 #include "store/Dialogos.h"
 #include "store/EstadoProyecto.h"
@@ -27,8 +29,10 @@ struct Programa {
     ResultadosViga Resultados;
     EstadoPloteos Vista;
     EstadoProyecto Estado;
-    std::string ArchivoAyuda;   // the help file
-    bool SinFocoCanvas = false; // the editor drives the project window's moves
+    EstadoTablaPerfiles Perfiles; // the profile table open in an editor, the capture flag
+    ListaPerfiles ListaPerfil;    // the last table loaded for the steel beam types, for the run
+    std::string ArchivoAyuda;     // the help file
+    bool SinFocoCanvas = false;   // the editor drives the project window's moves
 
     Dialogos& Dialogo() { return *dialogos_; }
 

@@ -1,12 +1,10 @@
 #include "shell/VigasProyecto.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -17,6 +15,7 @@
 
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/OperacionesVista.h"
+#include "shell/EsquinaNo.h"
 #include "shell/Iconos.h"
 #include "shell/NuevaViga.h"
 #include "shell/PantallaViga.h"
@@ -74,24 +73,6 @@ const Orden Ordenes[] = {
     {"KorvelButton1", " Exportar a Korvel-CAD Estructural 8.0 ", "Exportar a Korvel-CAD",
      " Exportar las vigas al programa\nKorvel-CAD Estructural 8.0 "},
     {"LSButton2", " Retorno ", "", ""},
-};
-
-// Writes "No" in the corner of the list, over the column of row numbers.
-class EsquinaNo : public QObject {
-  public:
-    using QObject::QObject;
-
-  protected:
-    bool eventFilter(QObject* objeto, QEvent* evento) override {
-        if (evento->type() != QEvent::Paint) return false;
-        auto* esquina = static_cast<QWidget*>(objeto);
-        esquina->removeEventFilter(this);
-        QApplication::sendEvent(esquina, evento);
-        esquina->installEventFilter(this);
-        QPainter p(esquina);
-        p.drawText(esquina->rect(), Qt::AlignCenter, QStringLiteral("No"));
-        return true;
-    }
 };
 
 } // namespace
@@ -257,14 +238,12 @@ void VigasProyecto::ConfigurarSpread() {
     spread1_->setHorizontalHeaderLabels({QStringLiteral("Nombre de la Viga")});
     spread1_->horizontalHeader()->setStretchLastSection(true);
     spread1_->verticalHeader()->setDefaultSectionSize(18);
-    spread1_->verticalHeader()->setMinimumWidth(28); // room for "No" in the corner
     spread1_->horizontalHeader()->setFixedHeight(22);
     spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
     spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);
     spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     spread1_->setMinimumWidth(240);
-    if (auto* esquina = spread1_->findChild<QAbstractButton*>())
-        esquina->installEventFilter(new EsquinaNo(spread1_));
+    EsquinaNo(*spread1_);
     for (const char* clave :
          {"ID_Aumentar", "ID_Disminuir", "ID_LetraMas", "ID_LetraMenos", "ID_LetraR"})
         Accion(QString::fromUtf8(clave))->setEnabled(false);

@@ -114,7 +114,8 @@ TEST_F(ListaDePerfiles, ArchivoDeOtraFamiliaDejaLaListaAnterior) {
     CargarListaPerfiles(Tabla(F::DobleTee, {{"I", 1, 2}}), 1, lista);
     const std::string cuadrada = Tabla(F::TuboCuadrado, {{"T", 3, 4}});
     EXPECT_TREVALO_ERROR(CargarListaPerfiles(cuadrada, 1, lista), ErrNoEnColeccion,
-                         "Elemento no encontrado en esta colección.");
+                         "La tabla no tiene el campo \"DimensionD\": no es una tabla de "
+                         "esta familia de perfiles.");
     EXPECT_EQ(lista.ListaFamilia, 1);
     EXPECT_EQ(lista.ListaDesignacion(1), "1 I");
 }

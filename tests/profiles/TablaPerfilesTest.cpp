@@ -192,7 +192,8 @@ TEST_F(ArchivosDeTablas, ArchivoDeOtraFamiliaFallaAlLeerElCampo) {
     const std::string ruta = Nueva(F::TuboCuadrado, "A.pfl");
     SalvarTablaPerfiles(ruta, F::TuboCuadrado, {"T", 1, {Fila(F::TuboCuadrado, "T", 1)}});
     EXPECT_TREVALO_ERROR(LeerTablaPerfiles(ruta, F::TuboRectangular), ErrNoEnColeccion,
-                         "Elemento no encontrado en esta colección.");
+                         "La tabla no tiene el campo \"InerciaX\": no es una tabla de "
+                         "esta familia de perfiles.");
 }
 
 TEST_F(ArchivosDeTablas, ArchivoInexistenteEsErrorDelMotor) {

@@ -25,25 +25,6 @@ const Pregunta PreguntaSalvar{"Desea Salvar las Modificaciones?      ",
                               "Datos Generales del Proyecto", BotonesMensaje::SiNoCancelar,
                               IconoMensaje::Pregunta, 1};
 
-template <typename T = QLineEdit> T* Control(QWidget& ventana, const char* nombre) {
-    T* w = Hijo<T>(ventana, QString::fromLatin1(nombre));
-    if (!w) qFatal("falta el control %s", nombre);
-    return w;
-}
-
-// Replaces the text of a field as a person does: into the field, all selected, deleted, typed.
-void Escribir(QWidget& ventana, const char* campo, const QString& texto) {
-    QLineEdit* w = Control(ventana, campo);
-    w->setFocus();
-    w->selectAll();
-    QTest::keyClick(w, Qt::Key_Backspace);
-    Teclear(w, texto);
-}
-
-void Pulsar(QWidget& ventana, const char* boton) {
-    QTest::mouseClick(Control<QPushButton>(ventana, boton), Qt::LeftButton);
-}
-
 } // namespace
 
 class DatosGenerales : public QObject {

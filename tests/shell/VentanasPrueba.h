@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -71,6 +73,9 @@ template <typename T> void AlAbrirse(std::function<void(T&)> accion) {
 template <typename T>
 int Ejecutar(T& ventana, std::type_identity_t<std::function<void(T&)>> accion) {
     AlAbrirse<T>([accion](T& v) {
+        // Focus moves, and the ends of entries with it, only in the active window.
+        if (!QTest::qWaitForWindowActive(&v))
+            QTest::qFail("la ventana no se activó", __FILE__, __LINE__);
         accion(v);
         if (!v.isVisible()) return;
         QTest::qFail("la ventana quedó abierta", __FILE__, __LINE__);
@@ -90,6 +95,26 @@ template <typename T> T* Hijo(QWidget& ventana, const QString& nombre) {
     for (T* w : ventana.findChildren<T*>())
         if (w->objectName() == nombre || w->accessibleName() == nombre) return w;
     return nullptr;
+}
+
+// The child of `ventana` named `nombre`, which the journey cannot go on without.
+template <typename T = QLineEdit> T* Control(QWidget& ventana, const char* nombre) {
+    T* w = Hijo<T>(ventana, QString::fromLatin1(nombre));
+    if (!w) qFatal("falta el control %s", nombre);
+    return w;
+}
+
+// Replaces the text of a field as a person does: into the field, all selected, deleted, typed.
+inline void Escribir(QWidget& ventana, const char* campo, const QString& texto) {
+    QLineEdit* w = Control(ventana, campo);
+    w->setFocus();
+    w->selectAll();
+    QTest::keyClick(w, Qt::Key_Backspace);
+    Teclear(w, texto);
+}
+
+inline void Pulsar(QWidget& ventana, const char* boton) {
+    QTest::mouseClick(Control<QPushButton>(ventana, boton), Qt::LeftButton);
 }
 
 } // namespace trevalo::prueba

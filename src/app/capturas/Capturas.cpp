@@ -11,7 +11,7 @@
 #include <functional>
 #include <iostream>
 
-#include "CapturasEditor.h"
+#include "app/capturas/Capturas.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
@@ -22,13 +22,13 @@
 #include "shell/Splash.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
+#include "shell/VigaDatos.h"
 #include "shell/VigaSalvarComo.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
 #include "store/CicloProyecto.h"
 
 namespace trevalo {
-namespace {
 
 QString carpeta;
 
@@ -45,14 +45,12 @@ void Guardar(QWidget& ventana, const QString& nombre) {
     std::cout << Std(ruta) << "\n";
 }
 
-// Shows a dialog without its own loop, takes its picture and closes it.
 void Capturar(QDialog& dialogo, const QString& nombre) {
     dialogo.show();
     Guardar(dialogo, nombre);
     dialogo.hide();
 }
 
-// A message box as the program shows it, captured while it waits for an answer.
 void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre) {
     QTimer::singleShot(300, [nombre] {
         if (QWidget* caja = QApplication::activeModalWidget()) {
@@ -62,6 +60,8 @@ void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString
     });
     programa.Dialogo().Mensaje(pregunta);
 }
+
+namespace {
 
 void Recorrido(Programa& programa) {
     auto* splash = new Splash(programa, EntornoDelSistema());
@@ -97,8 +97,11 @@ void Recorrido(Programa& programa) {
     if (QWidget* globo = ventana.ToolTip().Globo()) Guardar(*globo, QStringLiteral("05_tooltip"));
     ventana.ToolTip().Ocultar();
 
-    CapturasEditor(programa, ventana,
-                   [](QWidget& w, const QString& nombre) { Guardar(w, nombre); });
+    {
+        VigaDatos editor(programa, &ventana);
+        CapturasCargas(programa, editor);
+    }
+    CapturasEditor(programa, ventana);
 
     DatosG datos(programa, &menu);
     Capturar(datos, QStringLiteral("07_datos_generales"));
@@ -118,6 +121,7 @@ void Recorrido(Programa& programa) {
         {"Viga: V-101\nLa Viga Seleccionada Será Eliminada!       \n¿Esta Usted Seguro?    ",
          "Eliminando Vigas del Proyecto", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2},
         QStringLiteral("12_mensaje"));
+    CapturasPerfiles(programa, ventana);
     ventana.hide();
     menu.close();
 }

@@ -1,0 +1,36 @@
+#pragma once
+// The pieces the screenshot tour shares with the captures of each area of the program.
+
+#include <QDialog>
+#include <QString>
+
+#include "shell/Programa.h"
+
+namespace trevalo {
+
+class VigasProyecto;
+
+// The folder the pictures go to.
+extern QString carpeta;
+
+void Esperar(int ms);
+// Writes the window's picture as carpeta/nombre.png.
+void Guardar(QWidget& ventana, const QString& nombre);
+// Shows a dialog without its own loop, takes its picture and closes it.
+void Capturar(QDialog& dialogo, const QString& nombre);
+// A message box as the program shows it, captured while it waits for an answer.
+void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre);
+
+// Every page of the beam editor on the beam of the project window's active row (concrete),
+// and every page it reaches on the same beam made of steel profiles.
+void CapturasEditor(Programa& programa, VigasProyecto& ventana);
+
+// The eight load dialogs over the beam editor, on the sample beam with spans marked.
+void CapturasCargas(Programa& programa, QWidget& editor);
+
+// The steel profile windows: the family chooser, each table window on a shipped table with
+// the sketch of a section under the mouse, the generator on a computed section and the
+// steel beam window on a loaded table.
+void CapturasPerfiles(Programa& programa, QWidget& padre);
+
+} // namespace trevalo

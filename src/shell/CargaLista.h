@@ -1,0 +1,60 @@
+#pragma once
+// The load dialogs of a list of loads per span (point loads, partial uniform loads, right and
+// left triangles, trapezoids of type 2). Long1 is the count of loads and Spread1 their rows;
+// the list of the last marked span is shown. Return in Long1 applies the count and warns
+// when it passes the limit of the kind (the field then shows the limit while the rows keep
+// the count typed until the field is changed again); leaving Long1 applies it unchecked.
+// The trapezoids check the limit on acceptance instead. On acceptance the count and the rows
+// are written to every marked span, loads rounded to the nearest integer, ties to even.
+// Positions are not compared with the span's length.
+
+#include <QString>
+#include <cstdint>
+#include <variant>
+#include <vector>
+
+#include "shell/DialogoCarga.h"
+
+class QTableWidget;
+
+namespace trevalo {
+
+// A column of the grid: loads (whole kgf, with sign) or positions (m, 2 decimals, no sign).
+struct ColumnaCarga {
+    const char* titulo;
+    std::variant<Arreglo2<std::int32_t> VigaActual::*, Arreglo2<double> VigaActual::*> valores;
+};
+
+struct FormaCargaLista {
+    const char* titulo;
+    const char* marco;
+    const char* etiqueta; // caption of Long1
+    long limite;          // loads per span
+    bool limiteAlAceptar; // the limit is checked on acceptance, not on Return
+    Arreglo<std::int16_t> VigaActual::*cantidad;
+    std::vector<ColumnaCarga> columnas;
+};
+
+class CargaLista : public DialogoCarga {
+    Q_OBJECT
+
+  protected:
+    CargaLista(Programa& programa, const Arreglo<std::int16_t>& tramoCarga, FormaCargaLista forma,
+               QWidget* parent);
+
+  private:
+    void ConfigurarSpread();
+    void Mostrar(long tramo);
+    void Cantidad(bool retorno);
+    void Filas(int n);
+    void AvisoLimite();
+    void Aplicar() override;
+
+    FormaCargaLista forma_;
+    QLineEdit* long1_;
+    QTableWidget* spread1_;
+    int n_ = 0;             // the count applied to the rows
+    QString textoAplicado_; // Long1's text when it was last applied
+};
+
+} // namespace trevalo

@@ -1,0 +1,173 @@
+#include "shell/DobleTee.h"
+
+#include <QApplication>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "platform/lienzos/LienzosArchivo.h"
+#include "profiles/DibujePerfil.h"
+#include "profiles/Recorte.h"
+#include "shell/CampoNumero.h"
+#include "shell/Ordenes.h"
+#include "shell/TextoQt.h"
+#include "shell/ToolTipTrevalo.h"
+
+namespace trevalo {
+
+namespace {
+
+const char* const Dimensiones[4] = {"d (mm) =", "tw (mm) =", "bf (mm) =", "tf (mm) ="};
+const char* const Propiedades[12] = {
+    "A (cm2) =", "Ix (cm4) =", "Sx (cm3) =", "Rx (cm) =",  "Iy (cm4) =", "Sy (cm3) =",
+    "Ry (cm) =", "Rt (cm) =",  "J (cm4) =",  "Cw (cm6) =", "Zx (cm3) =", "Zy (cm3) ="};
+
+} // namespace
+
+DobleTee::DobleTee(Programa& programa, Capturar capturar, QWidget* parent)
+    : QDialog(parent), programa_(programa), capturar_(std::move(capturar)) {
+    setObjectName(QStringLiteral("DobleTee"));
+    setWindowTitle(QStringLiteral("Propiedades Geométricas"));
+    programa_.Perfiles.CambioCaptura = false;
+    CrearControles();
+    Borrar();
+}
+
+void DobleTee::CrearControles() {
+    auto* seccion = new QGroupBox(QStringLiteral("Sección Doble Tee"), this);
+    auto* datos = new QFormLayout;
+    text1_ = new QLineEdit(seccion);
+    text1_->setObjectName(QStringLiteral("Text1"));
+    text1_->setMaxLength(50);
+    text1_->setMinimumWidth(180);
+    datos->addRow(QStringLiteral("Designación:"), text1_);
+    for (std::size_t i = 0; i < doubles_.size(); ++i) {
+        auto* campo = new CampoNumero(seccion);
+        campo->setObjectName(QStringLiteral("Double%1").arg(i + 1));
+        campo->Configurar("0.0", programa_.Carpetas.SeparadorDecimal,
+                          programa_.Carpetas.SeparadorMiles);
+        datos->addRow(QString::fromUtf8(Dimensiones[i]), campo);
+        doubles_[i] = campo;
+    }
+    for (QLabel* e : seccion->findChildren<QLabel*>())
+        if (e->buddy()) e->buddy()->setAccessibleName(e->text());
+    picture1_ = new QLabel(seccion);
+    picture1_->setObjectName(QStringLiteral("Picture1"));
+    picture1_->setFixedSize(340, 340);
+    picture1_->setFrameShape(QFrame::StyledPanel);
+    auto* filaSeccion = new QHBoxLayout(seccion);
+    filaSeccion->addLayout(datos);
+    filaSeccion->addWidget(picture1_);
+
+    auto* propiedades = new QGroupBox(QStringLiteral("Propiedades"), this);
+    auto* cuadro = new QGridLayout(propiedades);
+    for (std::size_t i = 0; i < etiquetas_.size(); ++i) {
+        auto* e = new QLabel(propiedades);
+        e->setObjectName(QStringLiteral("LSLabel%1").arg(i + 1));
+        e->setFrameShape(QFrame::StyledPanel);
+        e->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        e->setMinimumWidth(100);
+        auto* titulo = new QLabel(QString::fromUtf8(Propiedades[i]), propiedades);
+        e->setAccessibleName(titulo->text());
+        const int fila = static_cast<int>(i % 6), col = static_cast<int>(i / 6) * 2;
+        cuadro->addWidget(titulo, fila, col, Qt::AlignRight);
+        cuadro->addWidget(e, fila, col + 1);
+        etiquetas_[i] = e;
+    }
+
+    auto* botones = new QHBoxLayout;
+    CrearBotones(*this, *botones,
+                 {{"LSButton1", "Calcular el Perfil", "Calcular el Perfil",
+                   "Calcular las propiedades geométricas del perfil. "},
+                  {"LSButton3", "Capturar", "Capturar",
+                   "Capturar las dimensiones y propiedades del perfil.  "},
+                  {"LSButton14", "Borrar los Datos", "Borrar los Datos",
+                   "Borrar los datos para entrar nuevo perfil. "},
+                  {"LSButton8", " Retorno ", "", ""}});
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(seccion);
+    todo->addWidget(propiedades);
+    todo->addLayout(botones);
+
+    const auto boton = [this](const char* nombre) {
+        return findChild<QPushButton*>(QString::fromLatin1(nombre));
+    };
+    connect(boton("LSButton1"), &QPushButton::clicked, this, &DobleTee::Calcular);
+    connect(boton("LSButton3"), &QPushButton::clicked, this, &DobleTee::CapturarSeccion);
+    connect(boton("LSButton14"), &QPushButton::clicked, this, [this] {
+        if (programa_.Dialogo().Mensaje({"Entrar un Nuevo Perfil?     ", "Creando Perfiles",
+                                         BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1}) ==
+            RespuestaSi)
+            Borrar();
+    });
+    connect(boton("LSButton8"), &QPushButton::clicked, this, &DobleTee::reject);
+    // Enter walks d, tw, bf, tf and then to "Calcular el Perfil".
+    for (std::size_t i = 0; i < doubles_.size(); ++i) {
+        QWidget* siguiente =
+            i + 1 < doubles_.size() ? static_cast<QWidget*>(doubles_[i + 1]) : boton("LSButton1");
+        connect(doubles_[i], &QLineEdit::returnPressed, siguiente, qOverload<>(&QWidget::setFocus));
+    }
+    (new ToolTipTrevalo(this))->Configurar(programa_.Tapiz);
+}
+
+void DobleTee::MostrarEtiquetas() {
+    for (std::size_t i = 0; i < etiquetas_.size(); ++i)
+        etiquetas_[i]->setText(Qs(valores_.LSLabel(static_cast<long>(i) + 1)));
+}
+
+void DobleTee::Calcular() {
+    LienzoImagen lienzo(picture1_->width(), picture1_->height());
+    const auto& c = programa_.Carpetas;
+    const ResultadoCalculo r =
+        CalcularPerfil(lienzo, doubles_[0]->Valor(), doubles_[1]->Valor(), doubles_[2]->Valor(),
+                       doubles_[3]->Valor(), valores_, c.SeparadorDecimal, c.SeparadorMiles);
+    if (r == ResultadoCalculo::SinCambio) return;
+    imagen_ = lienzo.Imagen();
+    picture1_->setPixmap(QPixmap::fromImage(imagen_));
+    MostrarEtiquetas();
+    if (r == ResultadoCalculo::FallaGeometria)
+        programa_.Dialogo().Mensaje({MensajeErrorGeometria, TituloErrorGeometria,
+                                     BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1});
+}
+
+void DobleTee::CapturarSeccion() {
+    const std::string nombre = Recortar(Std(text1_->text()));
+    if (nombre.empty()) {
+        QApplication::beep();
+        text1_->setFocus();
+        return;
+    }
+    const double d = doubles_[0]->Valor(), tw = doubles_[1]->Valor(), bf = doubles_[2]->Valor(),
+                 tf = doubles_[3]->Valor();
+    if (!DimensionesCompletas(d, tw, bf, tf)) return;
+    const int respuesta =
+        programa_.Dialogo().Mensaje({MensajeCapturaSeccion(nombre), "Capturar Secciones",
+                                     BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1});
+    if (respuesta == RespuestaSi) {
+        CapturaSeccion captura;
+        const auto& c = programa_.Carpetas;
+        trevalo::CapturarSeccion(nombre, d, tw, bf, tf, valores_, captura, c.SeparadorDecimal,
+                                 c.SeparadorMiles);
+        capturar_(captura);
+        programa_.Perfiles.CambioCaptura = true;
+    }
+    doubles_[0]->setFocus();
+}
+
+void DobleTee::Borrar() {
+    text1_->clear();
+    for (CampoNumero* campo : doubles_) campo->ColocarValor(0);
+    for (long i = 1; i <= 12; ++i) valores_.LSLabel(i).assign(1, '0');
+    MostrarEtiquetas();
+    imagen_ = QImage(picture1_->size(), QImage::Format_RGB32);
+    imagen_.fill(Qt::white);
+    picture1_->setPixmap(QPixmap::fromImage(imagen_));
+    text1_->setFocus();
+}
+
+} // namespace trevalo

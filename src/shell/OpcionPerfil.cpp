@@ -1,0 +1,119 @@
+#include "shell/OpcionPerfil.h"
+
+#include <QEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <filesystem>
+
+#include "profiles/TablaPerfiles.h"
+#include "shell/Ordenes.h"
+#include "shell/TablaPerfil.h"
+#include "shell/TextoQt.h"
+#include "shell/ToolTipTrevalo.h"
+
+namespace trevalo {
+
+OpcionPerfil::OpcionPerfil(Programa& programa, QWidget* parent)
+    : QDialog(parent), programa_(programa) {
+    setObjectName(QStringLiteral("OpcionPerfil"));
+    setWindowTitle(QStringLiteral("Perfiles Metálicos"));
+    auto* marco = new QGroupBox(QStringLiteral("Tablas de Perfiles"), this);
+    auto* lista = new QVBoxLayout(marco);
+    for (std::size_t i = 0; i < opciones_.size(); ++i) {
+        auto* o = new QRadioButton(Qs(Familia(TodasLasFamilias[i]).Titulo), marco);
+        o->setObjectName(QStringLiteral("Option%1").arg(i + 1));
+        o->installEventFilter(this);
+        lista->addWidget(o);
+        opciones_[i] = o;
+    }
+    opciones_[0]->setChecked(true);
+
+    auto* botones = new QVBoxLayout;
+    CrearBotones(
+        *this, *botones,
+        {{"LSButton3", "Crear", "Crear", "Crear una nueva tabla de perfiles. "},
+         {"LSButton2", "Editar", "Editar", "Editar una tabla de perfiles existente. "},
+         {"LSButton4", "Eliminar", "Eliminar", "Eliminar la tabla de perfiles seleccionada. "},
+         {"LSButton1", " Retorno ", "", ""}});
+    botones->addStretch(1);
+    auto* todo = new QHBoxLayout(this);
+    todo->addWidget(marco, 1);
+    todo->addLayout(botones);
+
+    const auto boton = [this](const char* nombre) {
+        return findChild<QPushButton*>(QString::fromLatin1(nombre));
+    };
+    connect(boton("LSButton3"), &QPushButton::clicked, this, &OpcionPerfil::Crear);
+    connect(boton("LSButton2"), &QPushButton::clicked, this, &OpcionPerfil::Editar);
+    connect(boton("LSButton1"), &QPushButton::clicked, this, &OpcionPerfil::reject);
+    (new ToolTipTrevalo(this))->Configurar(programa_.Tapiz);
+}
+
+FamiliaPerfil OpcionPerfil::Elegida() const {
+    for (std::size_t i = 0; i < opciones_.size(); ++i)
+        if (opciones_[i]->isChecked()) return TodasLasFamilias[i];
+    return FamiliaPerfil::DobleTee;
+}
+
+bool OpcionPerfil::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() == QEvent::MouseButtonDblClick) {
+        static_cast<QRadioButton*>(objeto)->setChecked(true);
+        Editar();
+        return true;
+    }
+    return false;
+}
+
+// A new table: its name from the dialog's title alone, in the tables folder whatever folder
+// the dialog stood in, with the family's prefix unless the name has it.
+void OpcionPerfil::Crear() {
+    const FamiliaPerfil familia = Elegida();
+    const DatosFamilia& f = Familia(familia);
+    const CarpetasPrograma& c = programa_.Carpetas;
+    const ArchivoElegido elegido =
+        programa_.Dialogo().Archivo({"Crear Tabla de Perfiles Metálicos", ModoDialogo::Salvar,
+                                     f.Filtro, 1, c.RutaPerfiles, ""});
+    if (elegido.Cancelado) return;
+    const std::string titulo = TituloConPrefijo(familia, elegido.FileTitle);
+    const std::string ruta = RutaTablaNueva(c.RutaPerfiles, familia, elegido.FileTitle);
+    std::error_code ec;
+    if (std::filesystem::exists(ruta, ec) &&
+        programa_.Dialogo().Mensaje({MensajeTablaExiste(titulo), "Crear Nueva Tabla",
+                                     BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}) !=
+            RespuestaSi)
+        return;
+    auto& estado = programa_.Perfiles;
+    estado.ArchivoTabla = ruta;
+    estado.TituloTabla = titulo;
+    estado.TablaNueva = true;
+    try {
+        CrearTablaPerfiles(c.RutaPrograma, familia, ruta);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+        return;
+    }
+    AbrirTabla(familia);
+}
+
+void OpcionPerfil::Editar() {
+    const FamiliaPerfil familia = Elegida();
+    const ArchivoElegido elegido = programa_.Dialogo().Archivo(
+        {"Crear Tabla de Perfiles Metálicos", ModoDialogo::Abrir, Familia(familia).Filtro, 1,
+         programa_.Carpetas.RutaPerfiles, ""});
+    if (elegido.Cancelado) return;
+    auto& estado = programa_.Perfiles;
+    estado.ArchivoTabla = elegido.FileName;
+    estado.TituloTabla = elegido.FileTitle;
+    estado.TablaNueva = false;
+    AbrirTabla(familia);
+}
+
+void OpcionPerfil::AbrirTabla(FamiliaPerfil familia) {
+    TablaPerfil tabla(programa_, familia, this);
+    if (tabla.Leida()) tabla.exec();
+}
+
+} // namespace trevalo

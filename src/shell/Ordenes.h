@@ -1,0 +1,25 @@
+#pragma once
+// The command buttons of a form: the control's name, its caption, and the title and text of
+// its tool tip (taken over by ToolTipTrevalo when the form configures its tips).
+
+#include <vector>
+
+class QBoxLayout;
+class QPushButton;
+class QWidget;
+
+namespace trevalo {
+
+struct Orden {
+    const char* nombre;
+    const char* texto;
+    const char* tipTitulo;
+    const char* tipTexto; // "" for none
+};
+
+QPushButton* CrearBoton(QWidget& ventana, const Orden& orden);
+
+// The buttons in a row, in order, added to `fila`.
+void CrearBotones(QWidget& ventana, QBoxLayout& fila, const std::vector<Orden>& ordenes);
+
+} // namespace trevalo

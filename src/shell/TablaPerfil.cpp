@@ -1,0 +1,540 @@
+#include "shell/TablaPerfil.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "platform/lienzos/LienzosArchivo.h"
+#include "profiles/DibujosSeccion.h"
+#include "profiles/Recorte.h"
+#include "profiles/TablaPerfiles.h"
+#include "shell/CampoNumero.h"
+#include "shell/DelegadosCelda.h"
+#include "shell/DobleTee.h"
+#include "shell/EncabezadoPerfil.h"
+#include "shell/EsquinaNo.h"
+#include "shell/Ordenes.h"
+#include "shell/TextoQt.h"
+#include "shell/ToolTipTrevalo.h"
+
+namespace trevalo {
+
+namespace {
+
+constexpr int ColumnaTexto = -1; // decimals of a text column
+
+struct Columna {
+    const char* lineas[4]; // group, subgroup, symbol, unit
+    int decimales;
+    bool centrada;
+};
+
+// What the four tables differ in: the title, the columns (from 1), where the designation and
+// the first field stand, the last column that the count of rows fills with zeros, and the
+// sketch of the section under the mouse.
+struct Diseno {
+    const char* titulo;
+    std::vector<Columna> columnas;
+    int designacion;
+    int ultimaRellena;
+    void (*dibujo)(Lienzo&, const FilaPerfil&);
+    const char* fy;
+    const char* tipEliminar;
+    const char* preguntaEliminar;
+};
+
+const Columna Area{{"Area", "", "", "cm2"}, 2, false};
+const Columna Designacion{{"Designación", "", "", "mm x mm"}, ColumnaTexto, false};
+
+std::vector<Columna> Dimensiones(int decimales) {
+    return {{{"Dimensiones", "Altura", "d", "mm"}, decimales, true},
+            {{"Dimensiones", "Alas", "bf", "mm"}, decimales, true},
+            {{"Dimensiones", "Alas", "tf", "mm"}, decimales, true},
+            {{"Dimensiones", "Alma", "tw", "mm"}, decimales, true}};
+}
+
+std::vector<Columna> Eje(const char* eje, const char* i, const char* s, const char* r) {
+    return {{{"Propiedades", eje, i, "cm4"}, 2, false},
+            {{"Propiedades", eje, s, "cm3"}, 2, false},
+            {{"Propiedades", eje, r, "cm"}, 2, false}};
+}
+
+std::vector<Columna> Unir(std::initializer_list<std::vector<Columna>> partes) {
+    std::vector<Columna> todas;
+    for (const auto& p : partes) todas.insert(todas.end(), p.begin(), p.end());
+    return todas;
+}
+
+const char* const FyRolado = "Resistencia Fy (kgf/cm2) =";
+const char* const FyTubo = "Resistencia Fy (kgf/cm2):";
+const char* const EliminarRolado = "Eliminar el perfil seleccionado de la tabla. ";
+const char* const EliminarTubo = "Eliminar un perfil de la tabla. ";
+
+const Diseno& DisenoDe(FamiliaPerfil familia) {
+    static const Diseno dobleTee{
+        "Perfiles de Sección Doble Tee",
+        Unir({{{{"Referencia", "", "", ""}, ColumnaTexto, false}, Designacion, Area},
+              Dimensiones(0),
+              Eje("Eje X-X", "Ix", "Sx", "Rx"),
+              Eje("Eje Y-Y", "Iy", "Sy", "Ry"),
+              {{{"Constante", "Flexión", "Rt", "cm"}, 2, false},
+               {{"Constante", "Torsión", "J", "cm4"}, 3, false},
+               {{"", "", "Cw", "cm6"}, 1, false},
+               {{"Módulos Plásticos", "", "Zx", "cm3"}, 2, false},
+               {{"Módulos Plásticos", "", "Zy", "cm3"}, 2, false}}}),
+        2,
+        17,
+        DibujeDobleTee,
+        FyRolado,
+        EliminarRolado,
+        "Eliminar el Perfil: "};
+    static const Diseno u{"Perfiles de Sección en U",
+                          Unir({{Designacion, Area},
+                                Dimensiones(2),
+                                Eje("Eje X-X", "Ix", "Sx", "Rx"),
+                                Eje("Eje Y-Y", "Iy", "Sy", "Ry"),
+                                {{{"Constantes", "Torsión", "J", "cm4"}, 3, false},
+                                 {{"Constantes", "Torsión", "Cw", "cm6"}, 2, false}}}),
+                          1,
+                          14,
+                          DibujeSeccionU,
+                          FyRolado,
+                          EliminarRolado,
+                          "Eliminar el Perfil Seleccionado: "};
+    static const Diseno cuadrada{"Perfiles Tubulares de Sección Cuadrada",
+                                 {Designacion,
+                                  Area,
+                                  {{"Dimensiones", "Espesor", "t", "mm"}, 2, true},
+                                  {{"Dimensiones", "Radio", "r", "mm"}, 2, true},
+                                  {{"Propiedades", "Ejes  X-X  Y-Y", "I", "cm4"}, 2, false},
+                                  {{"Propiedades", "Ejes  X-X  Y-Y", "S", "cm3"}, 2, false},
+                                  {{"Propiedades", "Ejes  X-X  Y-Y", "R", "cm"}, 2, false},
+                                  {{"Propiedades", "Ejes  X-X  Y-Y", "Z", "cm3"}, 2, false}},
+                                 1,
+                                 8,
+                                 nullptr,
+                                 FyTubo,
+                                 EliminarTubo,
+                                 "Eliminar el Perfil Seleccionado: "};
+    static const Diseno rectangular{"Perfiles Tubulares de Sección Rectangular",
+                                    Unir({{Designacion,
+                                           Area,
+                                           {{"Dimensiones", "Espesor", "t", "mm"}, 2, true},
+                                           {{"Dimensiones", "Radio", "r", "mm"}, 2, true}},
+                                          Eje("Eje X-X", "Ix", "Sx", "Rx"),
+                                          Eje("Eje Y-Y", "Iy", "Sy", "Ry")}),
+                                    1,
+                                    10,
+                                    nullptr,
+                                    FyTubo,
+                                    EliminarTubo,
+                                    "Eliminar el Perfil Seleccionado: "};
+    switch (familia) {
+    case FamiliaPerfil::DobleTee:
+        return dobleTee;
+    case FamiliaPerfil::SeccionU:
+        return u;
+    case FamiliaPerfil::TuboCuadrado:
+        return cuadrada;
+    case FamiliaPerfil::TuboRectangular:
+        break;
+    }
+    return rectangular;
+}
+
+int Columnas(FamiliaPerfil familia) {
+    return static_cast<int>(DisenoDe(familia).columnas.size());
+}
+
+// The column of the first field of DatosPerfil after the designation.
+int PrimerCampo(FamiliaPerfil familia) {
+    return DisenoDe(familia).designacion + 1;
+}
+
+QLabel* Etiqueta(const char* texto, QWidget* control, QWidget* padre) {
+    auto* e = new QLabel(QString::fromUtf8(texto), padre);
+    e->setBuddy(control);
+    control->setAccessibleName(e->text().trimmed());
+    return e;
+}
+
+} // namespace
+
+TablaPerfil::TablaPerfil(Programa& programa, FamiliaPerfil familia, QWidget* parent)
+    : QDialog(parent), programa_(programa), familia_(familia), toolTip_(new ToolTipTrevalo(this)) {
+    setObjectName(Qs(trevalo::Familia(familia).Editor));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    setWindowTitle(QString::fromUtf8(DisenoDe(familia).titulo) + QStringLiteral("     Tabla: [") +
+                   Qs(programa_.Perfiles.TituloTabla) + QLatin1Char(']'));
+    CrearControles();
+    ConfigurarPantalla();
+    ColoquePantalla();
+    tablaCambiada_ = programa_.Perfiles.TablaNueva;
+    totalCambiado_ = false;
+    Modificar(false);
+
+    const QRect zona = (screen() ? screen() : QApplication::primaryScreen())->availableGeometry();
+    const bool rolado = DisenoDe(familia).dibujo != nullptr;
+    resize(rolado ? zona.width() * 95 / 100 : std::min(zona.width(), 900),
+           zona.height() * 90 / 100);
+    move(zona.center() - rect().center());
+    cargando_ = false;
+}
+
+TablaPerfil::~TablaPerfil() = default;
+
+void TablaPerfil::CrearControles() {
+    const Diseno& d = DisenoDe(familia_);
+    const char sep = programa_.Carpetas.SeparadorDecimal;
+    const char miles = programa_.Carpetas.SeparadorMiles;
+
+    auto* panel3 = new QWidget(this);
+    panel3->setObjectName(QStringLiteral("Panel3"));
+    text1_ = new QLineEdit(panel3);
+    text1_->setObjectName(QStringLiteral("Text1"));
+    text1_->setMaxLength(70);
+    long2_ = new CampoNumero(panel3);
+    long2_->setObjectName(QStringLiteral("Long2"));
+    long2_->Configurar("0", sep, miles);
+    long2_->setMaximumWidth(90);
+    check1_ = new QCheckBox(QStringLiteral("Modificar la Tabla"), panel3);
+    check1_->setObjectName(QStringLiteral("Check1"));
+    auto* arriba = new QHBoxLayout(panel3);
+    arriba->setContentsMargins(0, 0, 0, 0);
+    arriba->addWidget(Etiqueta("Descripción: ", text1_, panel3));
+    arriba->addWidget(text1_, 1);
+    arriba->addSpacing(12);
+    arriba->addWidget(Etiqueta(d.fy, long2_, panel3));
+    arriba->addWidget(long2_);
+    arriba->addSpacing(12);
+    arriba->addWidget(check1_);
+
+    spread1_ = new QTableWidget(this);
+    spread1_->setObjectName(QStringLiteral("Spread1"));
+    spread1_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
+
+    auto* panel1 = new QWidget(this);
+    panel1->setObjectName(QStringLiteral("Panel1"));
+    long1_ = new CampoNumero(panel1);
+    long1_->setObjectName(QStringLiteral("Long1"));
+    long1_->Configurar("0", sep, miles);
+    long1_->setMaximumWidth(70);
+    ssPanel3_ = new QWidget(panel1);
+    ssPanel3_->setObjectName(QStringLiteral("SSPanel3"));
+    auto* edicion = new QHBoxLayout(ssPanel3_);
+    edicion->setContentsMargins(0, 0, 0, 0);
+    if (familia_ == FamiliaPerfil::DobleTee)
+        CrearBotones(*this, *edicion,
+                     {{"LSButton2", "Crear", "Crear",
+                       "Crear un nuevo perfil generando las\npropiedades geométricas. "}});
+    CrearBotones(*this, *edicion, {{"LSButton5", "Eliminar", "Eliminar", d.tipEliminar}});
+    auto* abajo = new QHBoxLayout(panel1);
+    abajo->setContentsMargins(0, 0, 0, 0);
+    abajo->addWidget(Etiqueta("Total Perfiles:", long1_, panel1));
+    abajo->addWidget(long1_);
+    abajo->addSpacing(12);
+    abajo->addWidget(ssPanel3_);
+    abajo->addStretch(1);
+    CrearBotones(*this, *abajo,
+                 {{"LSButton4", "Salvar", "Salvar", "Salvar las modificaciones realizadas. "},
+                  {"LSButton1", " Retorno ", "", ""}});
+
+    auto* todo = new QVBoxLayout(this);
+    todo->setContentsMargins(4, 4, 4, 8);
+    todo->addWidget(panel3);
+    todo->addWidget(spread1_, 1);
+    todo->addWidget(panel1);
+
+    const auto boton = [this](const char* nombre) {
+        return findChild<QPushButton*>(QString::fromLatin1(nombre));
+    };
+    if (QPushButton* crear = boton("LSButton2"))
+        connect(crear, &QPushButton::clicked, this, &TablaPerfil::CrearPerfil);
+    connect(boton("LSButton5"), &QPushButton::clicked, this, &TablaPerfil::Eliminar);
+    connect(boton("LSButton4"), &QPushButton::clicked, this, &TablaPerfil::Salvar);
+    connect(boton("LSButton1"), &QPushButton::clicked, this, &TablaPerfil::reject);
+    connect(check1_, &QCheckBox::toggled, this, &TablaPerfil::Modificar);
+    const auto cambio = [this] {
+        if (!cargando_) tablaCambiada_ = true;
+    };
+    connect(text1_, &QLineEdit::textEdited, this, cambio);
+    connect(long2_, &QLineEdit::textEdited, this, cambio);
+    connect(spread1_, &QTableWidget::itemChanged, this, cambio);
+    connect(long1_, &QLineEdit::textEdited, this, [this] {
+        totalCambiado_ = true;
+        tablaCambiada_ = true;
+    });
+    connect(long1_, &QLineEdit::editingFinished, this, &TablaPerfil::AplicarTotal);
+    connect(long1_, &QLineEdit::returnPressed, spread1_, qOverload<>(&QWidget::setFocus));
+    toolTip_->Configurar(programa_.Tapiz);
+
+    if (!d.dibujo) return;
+    lsFrame3_ = new QFrame(this);
+    lsFrame3_->setObjectName(QStringLiteral("LSFrame3"));
+    lsFrame3_->setFrameShape(QFrame::Box);
+    lsFrame3_->setAutoFillBackground(true);
+    lsFrame3_->setFixedSize(240, 250);
+    auto* labelV4 = new QLabel(lsFrame3_);
+    labelV4->setObjectName(QStringLiteral("LabelV4"));
+    picture5_ = new QLabel(lsFrame3_);
+    picture5_->setObjectName(QStringLiteral("Picture5"));
+    labelV6_ = new QLabel(lsFrame3_);
+    labelV6_->setObjectName(QStringLiteral("LabelV6"));
+    labelV6_->setAlignment(Qt::AlignCenter);
+    auto* marco = new QVBoxLayout(lsFrame3_);
+    marco->setContentsMargins(15, 2, 15, 4);
+    marco->addWidget(labelV4);
+    marco->addWidget(picture5_, 1);
+    marco->addWidget(labelV6_);
+    lsFrame3_->hide();
+    timer1_.setInterval(200);
+    timer1_.setSingleShot(true);
+    connect(&timer1_, &QTimer::timeout, this, &TablaPerfil::MostrarEmergente);
+    spread1_->viewport()->installEventFilter(this);
+    spread1_->setMouseTracking(true);
+    connect(spread1_, &QTableWidget::cellPressed, this, [this](int fila, int) {
+        if (!popupActivo_) return;
+        filaEmergente_ = fila + 1;
+        timer1_.start();
+    });
+}
+
+void TablaPerfil::ConfigurarPantalla() {
+    const Diseno& d = DisenoDe(familia_);
+    std::vector<LineasEncabezado> lineas;
+    for (const Columna& c : d.columnas)
+        lineas.push_back({QString::fromUtf8(c.lineas[0]), QString::fromUtf8(c.lineas[1]),
+                          QString::fromUtf8(c.lineas[2]), QString::fromUtf8(c.lineas[3])});
+    auto* encabezado = new EncabezadoPerfil(std::move(lineas), spread1_);
+    spread1_->setColumnCount(Columnas(familia_));
+    spread1_->setHorizontalHeader(encabezado);
+    encabezado->setFixedHeight(encabezado->sizeHint().height());
+    spread1_->verticalHeader()->setDefaultSectionSize(18);
+    EsquinaNo(*spread1_);
+    auto* delegado = new DelegadoNumero(programa_, *spread1_);
+    for (int c = 1; c <= Columnas(familia_); ++c) {
+        const Columna& columna = d.columnas[static_cast<std::size_t>(c - 1)];
+        if (columna.decimales != ColumnaTexto)
+            delegado->Formato(c, -1, c, -1, columna.decimales, false);
+        if (columna.centrada) delegado->Centrar(c);
+        spread1_->setColumnWidth(c - 1, c == d.designacion ? 150 : 72);
+    }
+    if (familia_ == FamiliaPerfil::DobleTee) spread1_->setColumnHidden(0, true);
+}
+
+void TablaPerfil::ColoquePantalla() {
+    if (programa_.Perfiles.TablaNueva) return;
+    TablaPerfiles tabla;
+    try {
+        tabla = LeerTablaPerfiles(programa_.Perfiles.ArchivoTabla, familia_);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+        leida_ = false;
+        return;
+    }
+    text1_->setText(Qs(tabla.DescripcionTabla));
+    long2_->ColocarValor(tabla.ResistenciaFY);
+    const int n = static_cast<int>(tabla.Filas.size());
+    if (n == 0) return;
+    long1_->ColocarValor(n);
+    spread1_->setRowCount(n);
+    const int primero = PrimerCampo(familia_);
+    for (int r = 1; r <= n; ++r) {
+        const FilaPerfil& fila = tabla.Filas[static_cast<std::size_t>(r - 1)];
+        if (familia_ == FamiliaPerfil::DobleTee) ColocarTexto(r, 1, QString::number(fila.Numero));
+        ColocarTexto(r, DisenoDe(familia_).designacion, Qs(fila.Designacion));
+        for (std::size_t i = 0; i < fila.Valores.size(); ++i)
+            ColocarNumero(r, primero + static_cast<int>(i), fila.Valores[i]);
+    }
+}
+
+void TablaPerfil::Modificar(bool activo) {
+    spread1_->setEditTriggers(activo ? QAbstractItemView::DoubleClicked |
+                                           QAbstractItemView::EditKeyPressed |
+                                           QAbstractItemView::AnyKeyPressed
+                                     : QAbstractItemView::NoEditTriggers);
+    ssPanel3_->setVisible(activo);
+    long1_->setEnabled(activo);
+    spread1_->setFocus();
+}
+
+void TablaPerfil::AplicarTotal() {
+    if (!totalCambiado_) return;
+    const int n = static_cast<int>(std::clamp(long1_->Valor(), 0.0, 32767.0));
+    spread1_->setRowCount(n);
+    const Diseno& d = DisenoDe(familia_);
+    for (int r = 1; r <= n; ++r)
+        for (int c = 2; c <= d.ultimaRellena; ++c) {
+            if (!Texto(r, c).trimmed().isEmpty()) continue;
+            if (d.columnas[static_cast<std::size_t>(c - 1)].decimales == ColumnaTexto)
+                ColocarTexto(r, c, QStringLiteral("0"));
+            else
+                ColocarNumero(r, c, 0);
+        }
+    totalCambiado_ = false;
+}
+
+void TablaPerfil::CrearPerfil() {
+    DobleTee generador(
+        programa_, [this](const CapturaSeccion& c) { AgregarCaptura(c); }, this);
+    generador.exec();
+    if (programa_.Perfiles.CambioCaptura) tablaCambiada_ = true;
+    spread1_->setFocus();
+}
+
+// The generator writes from the first column on: the name in the reference column, the area
+// in the designation column and so on, one column to the left of the table's fields; the
+// last column stays empty. Tables made so keep that layout.
+void TablaPerfil::AgregarCaptura(const CapturaSeccion& captura) {
+    const int r = spread1_->rowCount() + 1;
+    spread1_->setRowCount(r);
+    ColocarTexto(r, 1, Qs(captura.Designacion));
+    ColocarTexto(r, 2,
+                 Qs(Formato(captura.Numeros.front(), "0.00", programa_.Carpetas.SeparadorDecimal)));
+    for (std::size_t i = 1; i < captura.Numeros.size(); ++i)
+        ColocarNumero(r, 2 + static_cast<int>(i), captura.Numeros[i]);
+    spread1_->setCurrentCell(r - 1, 1);
+}
+
+void TablaPerfil::Eliminar() {
+    if (spread1_->rowCount() == 0) {
+        QApplication::beep();
+        return;
+    }
+    const int fila = std::max(spread1_->currentRow(), 0) + 1;
+    const Diseno& d = DisenoDe(familia_);
+    const std::string nombre = Recortar(Std(Texto(fila, d.designacion)));
+    const std::string espacios = familia_ == FamiliaPerfil::DobleTee ? "!        " : "!      ";
+    const Pregunta pregunta{d.preguntaEliminar + nombre + espacios + "\n¿Esta Usted Seguro?    ",
+                            "Eliminando Perfiles de la Tabla", BotonesMensaje::SiNo,
+                            IconoMensaje::Advertencia, 2};
+    if (programa_.Dialogo().Mensaje(pregunta) != RespuestaSi) return;
+    spread1_->removeRow(fila - 1);
+    long1_->ColocarValor(spread1_->rowCount());
+    tablaCambiada_ = true;
+    spread1_->setFocus();
+}
+
+bool TablaPerfil::Salvar() {
+    TablaPerfiles tabla;
+    tabla.DescripcionTabla = Std(text1_->text());
+    tabla.ResistenciaFY = static_cast<std::int16_t>(std::clamp(long2_->Valor(), 0.0, 32767.0));
+    for (int r = 1; r <= spread1_->rowCount(); ++r) tabla.Filas.push_back(FilaDelGrid(r));
+    try {
+        if (!SalvarTablaPerfiles(programa_.Perfiles.ArchivoTabla, familia_, tabla)) {
+            text1_->setFocus();
+            return false;
+        }
+    } catch (const ErrorTrevalo& e) {
+        Pregunta mensaje = MensajeError(e);
+        mensaje.Texto += "...    ";
+        programa_.Dialogo().Mensaje(mensaje);
+        spread1_->setFocus();
+        return false;
+    }
+    tablaCambiada_ = false;
+    spread1_->setFocus();
+    return true;
+}
+
+void TablaPerfil::reject() {
+    if (tablaCambiada_) {
+        const int respuesta = programa_.Dialogo().Mensaje(
+            {"Desea Salvar las Modificaciones?      ", "Tabla de Perfiles",
+             BotonesMensaje::SiNoCancelar, IconoMensaje::Pregunta, 1});
+        if (respuesta == RespuestaCancelar) {
+            spread1_->setFocus();
+            return;
+        }
+        // Nothing is lost unasked: a save that did not happen keeps the window open.
+        if (respuesta == RespuestaSi && !Salvar()) return;
+    }
+    QDialog::reject();
+}
+
+FilaPerfil TablaPerfil::FilaDelGrid(int fila) const {
+    FilaPerfil f;
+    f.Designacion = Std(Texto(fila, DisenoDe(familia_).designacion));
+    for (int c = PrimerCampo(familia_); c <= Columnas(familia_); ++c)
+        f.Valores.push_back(Numero(fila, c));
+    return f;
+}
+
+QWidget* TablaPerfil::Emergente() const {
+    return lsFrame3_;
+}
+
+bool TablaPerfil::eventFilter(QObject* objeto, QEvent* evento) {
+    const auto tipo = evento->type();
+    if (objeto != spread1_->viewport() ||
+        (tipo != QEvent::MouseButtonPress && tipo != QEvent::MouseButtonRelease &&
+         tipo != QEvent::MouseMove))
+        return false;
+    const auto* raton = static_cast<QMouseEvent*>(evento);
+    if (tipo == QEvent::MouseMove) {
+        if (raton->buttons() == Qt::NoButton) lsFrame3_->hide();
+    } else if (raton->button() == Qt::LeftButton) {
+        popupActivo_ = tipo == QEvent::MouseButtonPress;
+        popup_ = raton->position().toPoint();
+        if (!popupActivo_) {
+            timer1_.stop();
+            lsFrame3_->hide();
+        }
+    }
+    return false;
+}
+
+void TablaPerfil::MostrarEmergente() {
+    if (filaEmergente_ < 1 || filaEmergente_ > spread1_->rowCount()) return;
+    lsFrame3_->hide();
+    LienzoImagen lienzo(picture5_->width(), picture5_->height());
+    lienzo.Cls();
+    DisenoDe(familia_).dibujo(lienzo, FilaDelGrid(filaEmergente_));
+    picture5_->setPixmap(QPixmap::fromImage(lienzo.Imagen()));
+    labelV6_->setText(Texto(filaEmergente_, DisenoDe(familia_).designacion).trimmed());
+    ColocarEmergente();
+    lsFrame3_->show();
+    lsFrame3_->raise();
+}
+
+// 200 twips right of and below the mouse; 200 twips to its left, or above it, when the
+// frame would come closer than 100 twips to the window's edge.
+void TablaPerfil::ColocarEmergente() {
+    constexpr int Lejos = 13, Cerca = 7;
+    const QPoint raton = spread1_->viewport()->mapTo(this, popup_);
+    const QSize tamano = lsFrame3_->size();
+    int x = raton.x() + Lejos, y = raton.y() + Lejos;
+    if (x + tamano.width() > width() - Cerca) x = raton.x() - Lejos - tamano.width();
+    if (y + tamano.height() > height() - Cerca) y = raton.y() - Lejos - tamano.height();
+    lsFrame3_->move(x, y);
+}
+
+// The cells, through the grid's numeric delegate: a numeric cell keeps what it shows.
+void TablaPerfil::ColocarNumero(int fila, int columna, double valor) {
+    Delegado(*spread1_).ColocarValor(fila, columna, valor);
+}
+
+double TablaPerfil::Numero(int fila, int columna) const {
+    return ValorCelda(*spread1_, fila, columna);
+}
+
+QString TablaPerfil::Texto(int fila, int columna) const {
+    const QTableWidgetItem* item = spread1_->item(fila - 1, columna - 1);
+    return item ? item->text() : QString();
+}
+
+void TablaPerfil::ColocarTexto(int fila, int columna, const QString& texto) {
+    ColocarTextoCelda(*spread1_, fila, columna, texto);
+}
+
+} // namespace trevalo

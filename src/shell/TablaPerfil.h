@@ -1,0 +1,102 @@
+#pragma once
+// The window of one profile table (the double-tee, channel, square tube and rectangular tube
+// tables differ only in their columns): the grid of profiles under its four-line header, the
+// table's description and yield strength, "Modificar la Tabla" that unlocks the cells, the
+// count of rows, the delete of a row, the save of the whole table in one transaction, and the
+// question on every way out while something is unsaved. The double-tee and channel tables
+// show a sketch of the section under the mouse while the button is held on a row; the
+// double-tee table also takes new rows from the section generator.
+//
+// The table opened is the program's Perfiles.ArchivoTabla; a table just made from its
+// template (TablaNueva) starts empty and is offered for saving even if left untouched.
+
+#include <QDialog>
+#include <QTimer>
+
+#include "profiles/FamiliasPerfil.h"
+#include "profiles/PropiedadesPerfil.h"
+#include "shell/Programa.h"
+
+class QCheckBox;
+class QFrame;
+class QLabel;
+class QLineEdit;
+class QTableWidget;
+class QWidget;
+
+namespace trevalo {
+
+class CampoNumero;
+class ToolTipTrevalo;
+
+class TablaPerfil : public QDialog {
+    Q_OBJECT
+
+  public:
+    TablaPerfil(Programa& programa, FamiliaPerfil familia, QWidget* parent = nullptr);
+    ~TablaPerfil() override;
+
+    FamiliaPerfil Familia() const { return familia_; }
+    // Whether the table was read (a file that is no table of this family is told and not
+    // shown).
+    bool Leida() const { return leida_; }
+    bool Cambiada() const { return tablaCambiada_; }
+    QTableWidget& Grid() { return *spread1_; }
+
+    // A section of the generator as a new last row, made the current row: its name in the
+    // first column, its numbers in the following ones, in the order the generator gives.
+    void AgregarCaptura(const CapturaSeccion& captura);
+
+    // Writes the whole table; false, with the focus on the description, when it is empty,
+    // and false, with the error shown, when the file refused it (the file is then as it was).
+    bool Salvar();
+    // The count of rows typed in "Total Perfiles:" applied to the grid.
+    void AplicarTotal();
+    void Eliminar();
+    // The sketch of the section of a row, as the mouse shows it (null for the tube tables).
+    QWidget* Emergente() const;
+
+    void reject() override;
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+  private:
+    void CrearControles();
+    void ConfigurarPantalla();
+    void ColoquePantalla();
+    void Modificar(bool activo);
+    void CrearPerfil();
+    void MostrarEmergente();
+    void ColocarEmergente();
+    FilaPerfil FilaDelGrid(int fila) const;
+
+    // Cells by the forms' numbering: rows and columns from 1.
+    void ColocarNumero(int fila, int columna, double valor);
+    double Numero(int fila, int columna) const;
+    QString Texto(int fila, int columna) const;
+    void ColocarTexto(int fila, int columna, const QString& texto);
+
+    Programa& programa_;
+    FamiliaPerfil familia_;
+    QTableWidget* spread1_;
+    QLineEdit* text1_;
+    CampoNumero* long2_;
+    CampoNumero* long1_;
+    QCheckBox* check1_;
+    QWidget* ssPanel3_;
+    QFrame* lsFrame3_ = nullptr;
+    QLabel* picture5_ = nullptr;
+    QLabel* labelV6_ = nullptr;
+    ToolTipTrevalo* toolTip_;
+    QTimer timer1_;
+    bool leida_ = true;
+    bool tablaCambiada_ = false;
+    bool totalCambiado_ = false;
+    bool cargando_ = true;
+    bool popupActivo_ = false;
+    QPoint popup_;
+    int filaEmergente_ = 0;
+};
+
+} // namespace trevalo

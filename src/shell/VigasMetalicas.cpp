@@ -1,0 +1,183 @@
+#include "shell/VigasMetalicas.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "platform/lienzos/LienzosArchivo.h"
+#include "profiles/DibujosSeccion.h"
+#include "shell/DelegadosCelda.h"
+#include "shell/OpcionPerfil.h"
+#include "shell/Ordenes.h"
+#include "shell/TextoQt.h"
+#include "shell/ToolTipTrevalo.h"
+
+namespace trevalo {
+
+namespace {
+
+// The beam type on which the editor's grid of types stands.
+long TipoActivo(const QWidget* editor) {
+    const auto* tipos =
+        editor ? editor->findChild<QAbstractItemView*>(QStringLiteral("Spread8")) : nullptr;
+    return tipos ? std::max(tipos->currentIndex().row(), 0) + 1 : 1;
+}
+
+QIcon Dibujo(int item) {
+    LienzoImagen lienzo(72, 72);
+    DibujeFamiliaPerfil(lienzo, item);
+    return QIcon(QPixmap::fromImage(lienzo.Imagen()));
+}
+
+} // namespace
+
+VigasMetalicas::VigasMetalicas(Programa& programa, QWidget* parent)
+    : QDialog(parent), programa_(programa), tipo_(TipoActivo(parent)) {
+    setObjectName(QStringLiteral("VigasMetalicas"));
+    setWindowTitle(QStringLiteral("Base de Datos de Perfiles Metálicos"));
+    CrearControles();
+    ColoquePantalla();
+}
+
+void VigasMetalicas::CrearControles() {
+    marco_ =
+        new QGroupBox(QStringLiteral("Seleccione el Perfil de la Viga Tipo: %1").arg(tipo_), this);
+    fpList1_ = new QListWidget(marco_);
+    fpList1_->setObjectName(QStringLiteral("fpList1"));
+    fpList1_->setAccessibleName(QStringLiteral("Perfiles"));
+    fpList1_->setViewMode(QListView::IconMode);
+    fpList1_->setIconSize(QSize(72, 72));
+    fpList1_->setGridSize(QSize(128, 112));
+    fpList1_->setMovement(QListView::Static);
+    fpList1_->setWrapping(false);
+    fpList1_->setFlow(QListView::LeftToRight);
+    fpList1_->setWordWrap(true);
+    fpList1_->setFixedHeight(136);
+    for (int i = 1; i <= NumeroItemsFamilia; ++i)
+        fpList1_->addItem(new QListWidgetItem(Dibujo(i), Qs(ItemLista(i).Texto)));
+
+    spread1_ = new QTableWidget(0, 3, marco_);
+    spread1_->setObjectName(QStringLiteral("Spread1"));
+    spread1_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
+    spread1_->setHorizontalHeaderLabels(
+        {QStringLiteral("Designación"), QStringLiteral("Area"), QStringLiteral("Inercia")});
+    spread1_->verticalHeader()->hide();
+    spread1_->verticalHeader()->setDefaultSectionSize(18);
+    spread1_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    spread1_->setColumnWidth(1, 100);
+    spread1_->setColumnWidth(2, 110);
+    spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
+    spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    (new DelegadoNumero(programa_, *spread1_))->Formato(2, -1, 3, -1, 2, false);
+    spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    auto* dentro = new QVBoxLayout(marco_);
+    dentro->addWidget(fpList1_);
+    dentro->addWidget(spread1_, 1);
+
+    auto* botones = new QHBoxLayout;
+    botones->addStretch(1);
+    CrearBotones(*this, *botones,
+                 {{"LSButton2", "Tablas", "Tablas", "Abrir una tabla de perfiles existente. "},
+                  {"LSButton4", "Capturar", "Capturar", "Capturar el perfil seleccionado. "},
+                  {"LSButton6", "Editar", "Editar", "Crear o Editar tabla de perfiles metálicos. "},
+                  {"LSButton1", " Retorno ", "", ""}});
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(marco_, 1);
+    todo->addLayout(botones);
+    resize(960, 560);
+
+    const auto boton = [this](const char* nombre) {
+        return findChild<QPushButton*>(QString::fromLatin1(nombre));
+    };
+    connect(boton("LSButton2"), &QPushButton::clicked, this, &VigasMetalicas::Tablas);
+    connect(boton("LSButton4"), &QPushButton::clicked, this, &VigasMetalicas::Capturar);
+    connect(boton("LSButton6"), &QPushButton::clicked, this, [this] {
+        OpcionPerfil opcion(programa_, this);
+        opcion.exec();
+    });
+    connect(boton("LSButton1"), &QPushButton::clicked, this, &VigasMetalicas::reject);
+    // A click on a picture loads a table for it; unless the load was cancelled, the picture
+    // becomes the current one.
+    connect(fpList1_, &QListWidget::itemClicked, this, [this] {
+        Tablas();
+        if (!cancelarItem_) itemActual_ = fpList1_->currentRow() + 1;
+        cancelarItem_ = false;
+    });
+    connect(spread1_, &QTableWidget::cellDoubleClicked, this, &VigasMetalicas::Capturar);
+    (new ToolTipTrevalo(this))->Configurar(programa_.Tapiz);
+}
+
+// The last table loaded, and the picture it was loaded for (the first before any).
+void VigasMetalicas::ColoquePantalla() {
+    ListaPerfiles& lista = programa_.ListaPerfil;
+    const int n = lista.ListaPerfilesN;
+    spread1_->setRowCount(n);
+    for (int r = 1; r <= n; ++r) {
+        ColocarTextoCelda(*spread1_, r, 1, Qs(lista.ListaDesignacion(r)));
+        Delegado(*spread1_).ColocarValor(r, 2, lista.ListaArea(r));
+        Delegado(*spread1_).ColocarValor(r, 3, lista.ListaInercia(r));
+    }
+    if (lista.ListaFamilia == 0) lista.ListaFamilia = 1;
+    ElegirItem(lista.ListaFamilia);
+    itemActual_ = lista.ListaFamilia;
+}
+
+void VigasMetalicas::ElegirItem(int item) {
+    fpList1_->setCurrentRow(item - 1);
+}
+
+void VigasMetalicas::Tablas() {
+    const int item = std::max(fpList1_->currentRow(), 0) + 1;
+    const ArchivoElegido elegido = programa_.Dialogo().Archivo(
+        {"Crear Tabla de Perfiles Metálicos", ModoDialogo::Abrir,
+         Familia(ItemLista(item).Familia).Filtro, 1, programa_.Carpetas.RutaPerfiles, ""});
+    if (!elegido.Cancelado) {
+        programa_.Perfiles.ArchivoTabla = elegido.FileName;
+        programa_.Perfiles.TituloTabla = elegido.FileTitle;
+        try {
+            CargarListaPerfiles(elegido.FileName, item, programa_.ListaPerfil);
+            ColoquePantalla();
+            spread1_->setFocus();
+            return;
+        } catch (const ErrorTrevalo& e) {
+            // A file of another family: told, and the earlier table stays, as on a cancel.
+            programa_.Dialogo().Mensaje(MensajeError(e));
+        }
+    }
+    ElegirItem(itemActual_);
+    cancelarItem_ = true;
+}
+
+void VigasMetalicas::Capturar() {
+    const ListaPerfiles& lista = programa_.ListaPerfil;
+    if (spread1_->rowCount() == 0) {
+        QApplication::beep();
+        return;
+    }
+    const long fila = std::max(spread1_->currentRow(), 0) + 1;
+    if (programa_.Dialogo().Mensaje({MensajeCapturaPerfil(lista, fila, tipo_),
+                                     "Capturar Sección de Perfil Metálico", BotonesMensaje::SiNo,
+                                     IconoMensaje::Pregunta, 1}) != RespuestaSi) {
+        spread1_->setFocus();
+        return;
+    }
+    try {
+        CapturarPerfil(lista, fila, tipo_, programa_.Viga);
+    } catch (const ErrorTrevalo& e) {
+        programa_.Dialogo().Mensaje(MensajeError(e));
+        return;
+    }
+    programa_.Perfiles.CambioCaptura = true;
+    tipoCapturado_ = tipo_;
+    emit PerfilCapturado(tipo_);
+    accept();
+}
+
+} // namespace trevalo
