@@ -16,17 +16,26 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QToolBar>
 #include <QTableWidget>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 #include "drawing/OperacionesVista.h"
 #include "model/Redondeo.h"
 #include "shell/CampoNumero.h"
+#include "shell/Carga01.h"
+#include "shell/Carga02.h"
+#include "shell/Carga03.h"
+#include "shell/Carga04.h"
+#include "shell/Carga05.h"
+#include "shell/Carga06.h"
+#include "shell/Carga07.h"
+#include "shell/Carga08.h"
 #include "shell/Iconos.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
+#include "shell/VigasMetalicas.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
 
@@ -1108,13 +1117,36 @@ void VigaDatos::BotonCarga(int tipo) {
     Modificar();
 }
 
-bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>&) {
-    // The load dialogs come in their own windows; until then the button says so.
-    programa_.Dialogo().Mensaje(
-        {"Esta parte del programa aún no está disponible.      ",
-         Std(botones_[QString::fromUtf8(BotonesCarga[tipo - 1].nombre)]->text().trimmed()),
-         BotonesMensaje::Aceptar, IconoMensaje::Informacion, 1});
-    return false;
+bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga) {
+    std::unique_ptr<DialogoCarga> dialogo;
+    switch (tipo) {
+    case 1:
+        dialogo = std::make_unique<Carga01>(programa_, tramoCarga, this);
+        break;
+    case 2:
+        dialogo = std::make_unique<Carga02>(programa_, tramoCarga, this);
+        break;
+    case 3:
+        dialogo = std::make_unique<Carga03>(programa_, tramoCarga, this);
+        break;
+    case 4:
+        dialogo = std::make_unique<Carga04>(programa_, tramoCarga, this);
+        break;
+    case 5:
+        dialogo = std::make_unique<Carga05>(programa_, tramoCarga, this);
+        break;
+    case 6:
+        dialogo = std::make_unique<Carga06>(programa_, tramoCarga, this);
+        break;
+    case 7:
+        dialogo = std::make_unique<Carga07>(programa_, tramoCarga, this);
+        break;
+    default:
+        dialogo = std::make_unique<Carga08>(programa_, tramoCarga, this);
+        break;
+    }
+    dialogo->exec();
+    return dialogo->CargaAceptada();
 }
 
 void VigaDatos::EliminarCargas() {
@@ -1129,18 +1161,16 @@ void VigaDatos::EliminarCargas() {
 
 void VigaDatos::PerfilesMetalicos() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    MostrarVigasMetalicas();
+    VigasMetalicas ventana(programa_, this);
     QApplication::restoreOverrideCursor();
+    // A captured section shows in its type's row; like the original, it does not mark the
+    // beam as changed.
+    if (ventana.exec() == QDialog::Accepted && ventana.TipoCapturado() > 0) {
+        LlenarSpread(8);
+        Spread(8).setCurrentCell(static_cast<int>(ventana.TipoCapturado()) - 1, 0);
+        Redibujar();
+    }
     Spread(8).setFocus();
-}
-
-void VigaDatos::MostrarVigasMetalicas() {
-    // The steel profile window comes in its own unit; until then the button says so.
-    QApplication::restoreOverrideCursor();
-    QApplication::setOverrideCursor(Qt::ArrowCursor);
-    programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
-                                 "Perfiles Metálicos", BotonesMensaje::Aceptar,
-                                 IconoMensaje::Informacion, 1});
 }
 
 // --- Tools, drawing, saving, leaving -------------------------------------------------------

@@ -126,9 +126,8 @@ class VigaDatos : public QDialog {
     // The load dialog of kind 1..8 over the marked spans; true when the load was accepted.
     bool MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga);
     void EliminarCargas();
+    // " Perfiles Metálicos ": the steel profile window over the type in front in Spread8.
     void PerfilesMetalicos();
-    // The steel profile window over the beam's types.
-    void MostrarVigasMetalicas();
 
     // Tools, drawing, leaving.
     void Despachar(const QString& clave);

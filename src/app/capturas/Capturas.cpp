@@ -11,7 +11,6 @@
 #include <functional>
 #include <iostream>
 
-#include "CapturasEditor.h"
 #include "app/capturas/Capturas.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
@@ -98,12 +97,11 @@ void Recorrido(Programa& programa) {
     if (QWidget* globo = ventana.ToolTip().Globo()) Guardar(*globo, QStringLiteral("05_tooltip"));
     ventana.ToolTip().Ocultar();
 
-    CapturasEditor(programa, ventana,
-                   [](QWidget& w, const QString& nombre) { Guardar(w, nombre); });
     {
         VigaDatos editor(programa, &ventana);
         CapturasCargas(programa, editor);
     }
+    CapturasEditor(programa, ventana);
     programa.Vista.ModoEditor = false;
 
     DatosG datos(programa, &menu);

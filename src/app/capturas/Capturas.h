@@ -22,6 +22,10 @@ void Capturar(QDialog& dialogo, const QString& nombre);
 // A message box as the program shows it, captured while it waits for an answer.
 void CapturarMensaje(Programa& programa, const Pregunta& pregunta, const QString& nombre);
 
+// Every page of the beam editor on the beam of the project window's active row (concrete),
+// and every page it reaches on the same beam made of steel profiles.
+void CapturasEditor(Programa& programa, VigasProyecto& ventana);
+
 // The eight load dialogs over the beam editor, on the sample beam with spans marked.
 void CapturasCargas(Programa& programa, QWidget& editor);
 

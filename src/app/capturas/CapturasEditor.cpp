@@ -1,4 +1,4 @@
-#include "CapturasEditor.h"
+#include "app/capturas/Capturas.h"
 
 #include <QPushButton>
 
@@ -10,15 +10,14 @@ namespace trevalo {
 namespace {
 
 // The pages of an editor, from the first, each moved to with " Siguiente " as a person does.
-void Paginas(VigaDatos& editor, const QString& prefijo,
-             const std::function<void(QWidget&, const QString&)>& guardar) {
+void Paginas(VigaDatos& editor, const QString& prefijo) {
     editor.show();
     auto* siguiente = editor.findChild<QPushButton*>(QStringLiteral("Button2"));
     for (;;) {
         const int pagina = editor.Pagina();
         if (pagina == 7) // every span marked for loads, in its colour
             editor.findChild<QPushButton*>(QStringLiteral("SSCommand1"))->click();
-        guardar(editor, prefijo + QStringLiteral("_pagina%1").arg(pagina));
+        Guardar(editor, prefijo + QStringLiteral("_pagina%1").arg(pagina));
         if (!siguiente->isEnabled()) break;
         siguiente->click();
     }
@@ -27,11 +26,10 @@ void Paginas(VigaDatos& editor, const QString& prefijo,
 
 } // namespace
 
-void CapturasEditor(Programa& programa, VigasProyecto& ventana,
-                    const std::function<void(QWidget&, const QString&)>& guardar) {
+void CapturasEditor(Programa& programa, VigasProyecto& ventana) {
     {
         VigaDatos editor(programa, &ventana);
-        Paginas(editor, QStringLiteral("06_editor_concreto"), guardar);
+        Paginas(editor, QStringLiteral("06_editor_concreto"));
     }
     VigaActual& viga = programa.Viga;
     viga.OpcionConcreto = 1;
@@ -48,7 +46,7 @@ void CapturasEditor(Programa& programa, VigasProyecto& ventana,
     for (long t = 1; t <= viga.NT; ++t) viga.VT(t) = t % 2 == 0 ? 2 : 1;
     {
         VigaDatos editor(programa, &ventana);
-        Paginas(editor, QStringLiteral("06_editor_metalica"), guardar);
+        Paginas(editor, QStringLiteral("06_editor_metalica"));
     }
     programa.Vista.ModoEditor = false;
 }
