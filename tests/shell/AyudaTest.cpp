@@ -126,5 +126,5 @@ class AyudaTest : public QObject {
     }
 };
 
-QTEST_MAIN(AyudaTest)
+TREVALO_PRUEBA_VENTANAS(AyudaTest)
 #include "AyudaTest.moc"

@@ -313,5 +313,5 @@ class CargasTramos : public QObject {
     }
 };
 
-QTEST_MAIN(CargasTramos)
+TREVALO_PRUEBA_VENTANAS(CargasTramos)
 #include "CargasTest.moc"

@@ -151,5 +151,5 @@ class Compactar1Test : public QObject {
     }
 };
 
-QTEST_MAIN(Compactar1Test)
+TREVALO_PRUEBA_VENTANAS(Compactar1Test)
 #include "Compactar1Test.moc"

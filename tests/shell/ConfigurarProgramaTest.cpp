@@ -240,5 +240,5 @@ class ConfigurarProgramaTest : public QObject {
     }
 };
 
-QTEST_MAIN(ConfigurarProgramaTest)
+TREVALO_PRUEBA_VENTANAS(ConfigurarProgramaTest)
 #include "ConfigurarProgramaTest.moc"

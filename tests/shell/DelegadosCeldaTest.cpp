@@ -192,5 +192,5 @@ class DelegadosCelda : public QObject {
     }
 };
 
-QTEST_MAIN(DelegadosCelda)
+TREVALO_PRUEBA_VENTANAS(DelegadosCelda)
 #include "DelegadosCeldaTest.moc"

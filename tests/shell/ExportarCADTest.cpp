@@ -174,5 +174,5 @@ class ExportarCADTest : public QObject {
     }
 };
 
-QTEST_MAIN(ExportarCADTest)
+TREVALO_PRUEBA_VENTANAS(ExportarCADTest)
 #include "ExportarCADTest.moc"

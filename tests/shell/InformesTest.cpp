@@ -296,5 +296,5 @@ class InformesTest : public QObject {
     }
 };
 
-QTEST_MAIN(InformesTest)
+TREVALO_PRUEBA_VENTANAS(InformesTest)
 #include "InformesTest.moc"

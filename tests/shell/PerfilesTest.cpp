@@ -466,5 +466,5 @@ class Perfiles : public QObject {
     }
 };
 
-QTEST_MAIN(Perfiles)
+TREVALO_PRUEBA_VENTANAS(Perfiles)
 #include "PerfilesTest.moc"

@@ -587,5 +587,5 @@ class VigaDatosTest : public QObject {
     }
 };
 
-QTEST_MAIN(VigaDatosTest)
+TREVALO_PRUEBA_VENTANAS(VigaDatosTest)
 #include "VigaDatosTest.moc"
