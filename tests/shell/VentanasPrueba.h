@@ -3,11 +3,11 @@
 // (made by the start-up as the program makes it, so the sample project is there), dialogs
 // answered from a script, and a way to act on a modal window once it is on screen.
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QAbstractButton>
 #include <QTest>
 #include <QTimer>
 #include <functional>
