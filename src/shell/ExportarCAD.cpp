@@ -17,6 +17,7 @@
 
 #include "output/ExportarCAD.h"
 #include "shell/DelegadosCelda.h"
+#include "shell/Ordenes.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
@@ -34,13 +35,6 @@ const char* const Opciones[4] = {"Anexar a un Proyecto Existente", "Crear un Nue
                                  "Apoyada sobre Vigas", "Apoyada sobre Columnas"};
 
 // The commands: object name, caption, tip title, tip text.
-struct Orden {
-    const char* nombre;
-    const char* titulo;
-    const char* tipTitulo;
-    const char* tipTexto;
-};
-
 const Orden Ordenes[] = {
     {"KorvelButton1", "Directorio", "Directorio de Korvel-CAD",
      "Visualizar el directorio de\nKorvel-CAD Estructural 8.0 "},
@@ -80,11 +74,7 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
         option_[i] = new QRadioButton(QString::fromUtf8(Opciones[i]), marco);
         option_[i]->setObjectName(QStringLiteral("Option%1").arg(i + 1));
     }
-    for (const Orden& o : Ordenes) {
-        auto* b = new QPushButton(QString::fromUtf8(o.titulo), this);
-        b->setObjectName(QString::fromUtf8(o.nombre));
-        b->setAutoDefault(false);
-    }
+    for (const Orden& o : Ordenes) CrearBoton(*this, o);
 
     auto* lista = new QVBoxLayout;
     lista->addWidget(spread1_, 1);
@@ -139,7 +129,6 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
     connect(picture1_, &PantallaViga::Redimensionado, picture1_, &PantallaViga::Pintar);
 
     // The load of the form.
-    InicializarToolTips();
     toolTip_->Configurar(programa_.Tapiz);
     try {
         listaConcreto_.emplace(
@@ -173,15 +162,6 @@ ExportarCAD::~ExportarCAD() = default;
 
 QPushButton* ExportarCAD::Boton(const QString& nombre) const {
     return findChild<QPushButton*>(nombre);
-}
-
-void ExportarCAD::InicializarToolTips() {
-    for (const Orden& o : Ordenes) {
-        if (*o.tipTexto == '\0') continue;
-        QPushButton* b = Boton(QString::fromUtf8(o.nombre));
-        b->setProperty("Tag", QString::fromUtf8(o.tipTitulo));
-        b->setToolTip(QString::fromUtf8(o.tipTexto));
-    }
 }
 
 void ExportarCAD::ColoquePantalla(const std::vector<std::string>& nombres) {

@@ -45,7 +45,6 @@ class ExportarCAD : public QDialog {
 
   private:
     void ColoquePantalla(const std::vector<std::string>& nombres);
-    void InicializarToolTips();
     void CambioFila(int fila);
     void MarcarTodas(bool marcada);
     void Exportar();

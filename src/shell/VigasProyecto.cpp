@@ -24,6 +24,7 @@
 #include "shell/ImpreReport.h"
 #include "shell/ImpreVigas.h"
 #include "shell/NuevaViga.h"
+#include "shell/Ordenes.h"
 #include "shell/PantallaViga.h"
 #include "shell/Renombrar.h"
 #include "shell/TextoQt.h"
@@ -58,13 +59,6 @@ const Herramienta Herramientas[] = {
 };
 
 // The commands of the window: object name, caption, tip title, tip text.
-struct Orden {
-    const char* nombre;
-    const char* titulo;
-    const char* tipTitulo;
-    const char* tipTexto;
-};
-
 const Orden Ordenes[] = {
     {"LSButton3", " Crear Nueva Viga ", "Crear Viga", "Crear una nueva viga en el proyecto. "},
     {"LSButton19", " Editar la Viga Seleccionada ", "Editar Viga", "Editar la viga seleccionada. "},
@@ -158,7 +152,6 @@ VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
     connect(pantalla_, &PantallaViga::Redimensionado, this, &VigasProyecto::Redimensionado);
 
     // The load of the window.
-    InicializarToolTips();
     toolTip_->Configurar(programa_.Tapiz);
     ConfigurarSpread();
     auto& estado = programa_.Estado;
@@ -204,10 +197,8 @@ QWidget* VigasProyecto::CrearBotones() {
     auto* capas = new QVBoxLayout(panel);
     capas->setContentsMargins(0, 0, 0, 0);
     for (const Orden& o : Ordenes) {
-        const QString nombre = QString::fromUtf8(o.nombre);
-        auto* b = new QPushButton(QString::fromUtf8(o.titulo), panel);
-        b->setObjectName(nombre);
-        b->setAutoDefault(false);
+        QPushButton* b = CrearBoton(*panel, o);
+        const QString nombre = b->objectName();
         botones_[nombre] = b;
         if (nombre == QStringLiteral("LSButton2")) capas->addSpacing(12);
         capas->addWidget(b);
@@ -228,15 +219,6 @@ QWidget* VigasProyecto::CrearBotones() {
             [this] { Despachar(QStringLiteral("ID_KorvelCAD")); });
     connect(botones_[QStringLiteral("LSButton2")], &QPushButton::clicked, this, &QDialog::reject);
     return panel;
-}
-
-void VigasProyecto::InicializarToolTips() {
-    for (const Orden& o : Ordenes) {
-        if (*o.tipTexto == '\0') continue;
-        QPushButton* b = Boton(QString::fromUtf8(o.nombre));
-        b->setProperty("Tag", QString::fromUtf8(o.tipTitulo));
-        b->setToolTip(QString::fromUtf8(o.tipTexto));
-    }
 }
 
 void VigasProyecto::ConfigurarSpread() {
@@ -449,13 +431,6 @@ void VigasProyecto::Despachar(const QString& clave) {
 
 void VigasProyecto::MostrarMenuContextual(const QPoint& lugar) {
     idPantalla_->popup(lugar);
-}
-
-void VigasProyecto::Pendiente(const QString& titulo) {
-    programa_.Dialogo().Mensaje({"Esta parte del programa aún no está disponible.      ",
-                                 Std(titulo), BotonesMensaje::Aceptar, IconoMensaje::Informacion,
-                                 1});
-    pantalla_->setFocus();
 }
 
 // --- Beam commands -------------------------------------------------------------------------

@@ -59,7 +59,6 @@ class VigasProyecto : public QDialog {
 
   private:
     void ConfigurarSpread();
-    void InicializarToolTips();
     QToolBar* CrearHerramientas();
     QWidget* CrearBotones();
 
@@ -85,7 +84,6 @@ class VigasProyecto : public QDialog {
     void RenombrarSeleccionada();
     void EliminarVigaSeleccionada();
     void AbrirProyectoVentana();
-    void Pendiente(const QString& titulo);
     // The editor over the beam in the model.
     void MostrarEditor();
     // The new beam, last record of the list, on a last row of its own, loaded and shown.
