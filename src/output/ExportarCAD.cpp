@@ -208,6 +208,53 @@ struct OcultarPanel {
     }
 };
 
+// The names of the beams to export as GeneralViga stores them: those named, or every
+// concrete beam.
+std::vector<std::string> VigasConcreto(BaseDatos& bd, const std::vector<std::string>& nombres) {
+    std::vector<std::string> vigas;
+    if (nombres.empty())
+        for (auto rs = bd.AbrirRecordset(ConsultaListaConcreto); !rs.AlFinal(); rs.MoveNext())
+            vigas.push_back(rs.Campo("NombreViga").Texto());
+    for (const std::string& nombre : nombres) {
+        vigas.push_back(NombreVigaGuardado(bd, nombre));
+        if (bd.AbrirRecordset("SELECT OpcionConcreto FROM GeneralViga WHERE NombreViga=?",
+                              {vigas.back()})
+                .Campo("OpcionConcreto")
+                .Logico())
+            throw ErrorTrevalo(ErrLlamadaNoValida,
+                               "La viga es de acero; sólo las vigas de concreto se exportan a "
+                               "Korvel-CAD Estructural 8.0: " +
+                                   vigas.back());
+    }
+    return vigas;
+}
+
+// One beam with the steel of its own analysis, under its own name.
+void ExportarVigaPropia(EstadoProyecto& estado, ProyectoActual& proyecto, BaseDatos& cad,
+                        const std::string& nombre, bool sobreColumnas, double estaciones) {
+    VigaActual viga;
+    viga.NombreVigaActual = nombre;
+    LeerViga(estado, viga);
+    ResultadosViga resultados;
+    AnalizarViga(LectorGeneralProyecto(*estado.BDProyecto), proyecto, viga, resultados);
+    LimpieRegistrosViga(cad, nombre);
+    EscribirVigaCAD(cad, viga, proyecto, sobreColumnas);
+    GeometriaJuntas geometria;
+    GeometriaPlot(viga, geometria);
+    ResumenAcero acero;
+    DisenoParaCAD(proyecto, viga, resultados, geometria.XPlot, geometria.YPlot, estaciones, acero);
+    EscribirRefTeorico(cad, nombre, viga.NT, acero);
+}
+
+// A new project in the making beside its target: removed unless it took the target's place.
+struct ProyectoEnCurso {
+    std::string ruta;
+    ~ProyectoEnCurso() {
+        std::error_code ec;
+        if (!ruta.empty()) std::filesystem::remove(ruta, ec);
+    }
+};
+
 } // namespace
 
 std::string CarpetaProyectosCAD(const CarpetasPrograma& carpetas) {
@@ -336,6 +383,41 @@ long ExportarCAD70(ModeloCAD& m, Dialogos& dialogos, const CarpetasPrograma& car
     }
     dialogos.Mensaje(MensajeExportadas(cuenta));
     return cuenta;
+}
+
+std::vector<std::string> ExportarVigasCAD(EstadoProyecto& estado, ProyectoActual& proyecto,
+                                          const std::vector<std::string>& nombres,
+                                          const std::string& destino, const std::string& plantilla,
+                                          const OpcionesCAD& opciones, double estacionesPorMetro,
+                                          const std::function<void(const std::string&)>& progreso) {
+    const std::vector<std::string> vigas = VigasConcreto(*estado.BDProyecto, nombres);
+    const bool existe = ExisteArchivoDisco(destino);
+    if (existe) AbrirProyectoCAD(destino);
+    ProyectoEnCurso nuevo;
+    if (opciones.NuevoProyecto || !existe) {
+        nuevo.ruta = destino + ".nuevo";
+        CopiarArchivoDisco(plantilla, nuevo.ruta);
+    }
+    {
+        BaseDatos cad = AbrirProyectoCAD(nuevo.ruta.empty() ? destino : nuevo.ruta);
+        Transaccion transaccion(cad);
+        if (opciones.NuevoProyecto) EscribirProyectoCAD(cad, proyecto, Hoy());
+        for (const std::string& nombre : vigas) {
+            if (progreso) progreso(nombre);
+            ExportarVigaPropia(estado, proyecto, cad, nombre, opciones.SobreColumnas,
+                               estacionesPorMetro);
+        }
+        transaccion.Confirmar();
+    }
+    if (!nuevo.ruta.empty()) {
+        std::error_code ec;
+        std::filesystem::rename(nuevo.ruta, destino, ec);
+        if (ec)
+            throw ErrorTrevalo(ErrAccesoArchivo, "No se pudo escribir el archivo: " + destino +
+                                                     " (" + ec.message() + ")");
+        nuevo.ruta.clear();
+    }
+    return vigas;
 }
 
 } // namespace trevalo

@@ -103,4 +103,21 @@ long ExportarCAD70(ModeloCAD& modelo, Dialogos& dialogos, const CarpetasPrograma
                    const std::vector<FilaCAD>& filas, int filaActiva, const OpcionesCAD& opciones,
                    const PasosCAD& pasos);
 
+// The export for scripts: the concrete beams `nombres` of the open project (names in any
+// case; every concrete beam, in the list's order, when none is named), each with the
+// theoretical steel of its own analysis at `estacionesPorMetro`, into the project `destino`.
+// With opciones.NuevoProyecto the target becomes a new project made from `plantilla` with the
+// project's row; otherwise the beams are appended to it, a missing target made from the
+// template. All or nothing: the beams go in one transaction, and a new target is built beside
+// the file and put in its place only when complete. `progreso` is told each beam's name
+// before its export. Returns the names exported, as the project stores them.
+// Errors, all before the target is touched: 3265 for a name the project lacks, 5 for a steel
+// beam named, 3343 for an existing target that is not a project of the drawing program (even
+// with NuevoProyecto: a file of another kind is never replaced), 70 for a read-only one.
+std::vector<std::string> ExportarVigasCAD(EstadoProyecto& estado, ProyectoActual& proyecto,
+                                          const std::vector<std::string>& nombres,
+                                          const std::string& destino, const std::string& plantilla,
+                                          const OpcionesCAD& opciones, double estacionesPorMetro,
+                                          const std::function<void(const std::string&)>& progreso);
+
 } // namespace trevalo

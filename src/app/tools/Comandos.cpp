@@ -14,6 +14,7 @@ int ComandoPerfiles(const Argumentos&, std::ostream&, std::ostream&);
 int ComandoSeccion(const Argumentos&, std::ostream&, std::ostream&);
 int ComandoImportarJet(const Argumentos&, std::ostream&, std::ostream&);
 int ComandoInforme(const Argumentos&, std::ostream&, std::ostream&);
+int ComandoCad(const Argumentos&, std::ostream&, std::ostream&);
 
 const std::vector<EntradaComando>& TablaComandos() {
     static const std::vector<EntradaComando> tabla = {
@@ -35,6 +36,8 @@ const std::vector<EntradaComando>& TablaComandos() {
          "informe PROYECTO.trv [--viga NOMBRE] [--diagramas] [--reacciones] "
          "-o ARCHIVO.pdf|.htm|.xlsx|.rtf",
          &ComandoInforme},
+        {"cad", "cad PROYECTO.trv -o OBRA.Cad [--nuevo] [--columnas] [--viga NOMBRE]...",
+         &ComandoCad},
     };
     return tabla;
 }

@@ -13,6 +13,7 @@
 
 #include "app/tools/Comandos.h"
 #include "app/tools/DialogosConsola.h"
+#include "app/tools/ProyectoCalc.h"
 #include "output/BaseInforme.h"
 #include "output/EscritoresInforme.h"
 #include "output/PaginaInforme.h"
@@ -75,11 +76,6 @@ void AsegurarAplicacion() {
     static QGuiApplication aplicacion(argc, argv);
 }
 
-// The program's own folder: where the executable lies.
-fs::path RutaPrograma() {
-    return fs::read_symlink("/proc/self/exe").parent_path();
-}
-
 // A working folder of its own for the report database, removed on leaving.
 struct CarpetaTrabajo {
     CarpetaTrabajo() {
@@ -126,7 +122,7 @@ int Informe(const PedidoInforme& pedido, std::ostream& salida, std::ostream& err
     EstadoPloteos vista;
     ModeloInforme modelo{estado, proyecto, viga, resultados, vista};
     DialogosConsola dialogos(errores);
-    LlenarInformePrograma(modelo, dialogos, vigas, opciones, RutaPrograma().string(), temporal,
+    LlenarInformePrograma(modelo, dialogos, vigas, opciones, RutaProgramaCalc(), temporal,
                           TREVALO_VERSION, [&errores](const std::string& etiqueta, double valor) {
                               errores << etiqueta << " (" << static_cast<int>(valor + 0.5)
                                       << " %)\n";

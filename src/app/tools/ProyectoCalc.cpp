@@ -1,5 +1,7 @@
 #include "app/tools/ProyectoCalc.h"
 
+#include <filesystem>
+
 #include "store/BaseDatos.h"
 
 namespace trevalo::calc {
@@ -11,6 +13,10 @@ void CargarVigaCalc(EstadoProyecto& estado, const std::string& nombre, ProyectoA
         throw ErrorTrevalo(ErrSinRegistroActual, "El proyecto no tiene datos generales.");
     LeerGeneralProyecto(*estado.BDProyecto, proyecto);
     LeerViga(estado, viga);
+}
+
+std::string RutaProgramaCalc() {
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
 }
 
 } // namespace trevalo::calc

@@ -19,4 +19,7 @@ namespace trevalo::calc {
 void CargarVigaCalc(EstadoProyecto& estado, const std::string& nombre, ProyectoActual& proyecto,
                     VigaActual& viga);
 
+// The program's own folder, where the executable lies: Imagen/ beside it holds the templates.
+std::string RutaProgramaCalc();
+
 } // namespace trevalo::calc

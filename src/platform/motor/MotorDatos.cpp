@@ -255,8 +255,14 @@ Transaccion::~Transaccion() {
     if (!abierta_) return;
     --conexion_->profundidad;
     try {
-        conexion_->db.exec("ROLLBACK TO " + nombre_);
-        conexion_->db.exec("RELEASE " + nombre_);
+        // The outermost guard ends the transaction with a rollback, which leaves the file
+        // byte for byte as it was; releasing it would commit and count a change in the header.
+        if (conexion_->profundidad == 0) {
+            conexion_->db.exec("ROLLBACK");
+        } else {
+            conexion_->db.exec("ROLLBACK TO " + nombre_);
+            conexion_->db.exec("RELEASE " + nombre_);
+        }
     } catch (const SQLite::Exception&) {
         // Nothing more can be done while an error is already on its way up.
     }

@@ -189,6 +189,7 @@ TEST_F(MotorDatos, UnaConsultaCompuestaEsDeSoloLectura) {
 
 TEST_F(MotorDatos, UnaTransaccionSinConfirmarDejaElArchivoComoEstaba) {
     Poner({"a"});
+    const std::string antes = prueba::LeerArchivo(bd_->Ruta());
     try {
         Transaccion t(*bd_);
         bd_->Ejecutar("DELETE FROM Nombres");
@@ -201,6 +202,7 @@ TEST_F(MotorDatos, UnaTransaccionSinConfirmarDejaElArchivoComoEstaba) {
         EXPECT_EQ(e.Descripcion(), "no such table: NoExiste");
     }
     EXPECT_EQ(Leer("Nombres"), std::vector<std::string>{"a"});
+    EXPECT_TRUE(prueba::LeerArchivo(bd_->Ruta()) == antes); // not even the change counter
     {
         Transaccion fuera(*bd_);
         {
