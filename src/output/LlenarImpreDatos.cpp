@@ -1,5 +1,7 @@
 #include "output/LlenarImpreDatos.h"
 
+#include "output/GraficoPng.h"
+
 #include <algorithm>
 #include <cassert>
 #include <condition_variable>
@@ -161,6 +163,7 @@ void LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& gene
                       const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
                       const PasosInforme& pasos, int hilos) {
     assert(!vigas.empty());
+    const MemoriaGraficos memoria;
     EscrituraBaseInforme base(rutaTemporal);
     base.EscribirGenerales(generales);
     base.VaciarGraficos();

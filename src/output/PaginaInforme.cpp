@@ -121,39 +121,61 @@ void PintarCabecera(QPainter& p, const ContenidoInforme& c) {
           QStringLiteral("Calculista"));
 }
 
-// The painted bands of a picture: runs of rows that are not all white, split where at least
-// BandaBlanca white rows part them, each cut to the columns that hold paint. Only these go
-// to the page, which looks the same on white paper and spares a PDF the compression of the
-// blank parts of every picture; bands never touch, so no seam can show between them.
-std::vector<QRect> ZonasPintadas(const QImage& rgb) {
-    constexpr int BandaBlanca = 12;
-    const auto ancho = static_cast<std::size_t>(rgb.width());
+// The painted zones of a picture, found by cutting it along white gaps of at least
+// BandaBlanca rows, then each piece along white gaps of as many columns, and so on until no
+// piece can be cut; each zone is trimmed to its paint. Only these go to the page, which looks
+// the same on white paper and spares a PDF the compression of the blank parts of every
+// picture; zones never touch, so no seam can show between them.
+constexpr int BandaBlanca = 12;
+
+// The runs of painted lines of `zona` (rows, or columns when `porColumnas`) separated by
+// more than BandaBlanca white ones, as offsets from the zone's edge.
+std::vector<std::pair<int, int>> TramosPintados(const QImage& rgb, const QRect& zona,
+                                                bool porColumnas) {
     const QRgb blanco = qRgb(255, 255, 255);
-    const std::vector<QRgb> blanca(ancho, blanco);
-    auto filaBlanca = [&](int y) {
-        return std::memcmp(rgb.constScanLine(y), blanca.data(), ancho * sizeof(QRgb)) == 0;
-    };
-    std::vector<QRect> zonas;
-    int izquierda = rgb.width(), derecha = -1, arriba = -1, ultima = -1;
-    auto cerrar = [&] {
-        if (arriba >= 0) zonas.emplace_back(QPoint(izquierda, arriba), QPoint(derecha, ultima));
-        izquierda = rgb.width();
-        derecha = arriba = -1;
-    };
-    for (int y = 0; y < rgb.height(); ++y) {
-        if (filaBlanca(y)) continue;
-        if (arriba >= 0 && y - ultima > BandaBlanca) cerrar();
-        if (arriba < 0) arriba = y;
-        ultima = y;
+    std::vector<char> pintada(static_cast<std::size_t>(porColumnas ? zona.width() : zona.height()));
+    for (int y = zona.top(); y <= zona.bottom(); ++y) {
         const auto* fila = reinterpret_cast<const QRgb*>(rgb.constScanLine(y));
-        int x = 0;
-        while (x < izquierda && fila[x] == blanco) ++x;
-        izquierda = std::min(izquierda, x);
-        x = rgb.width() - 1;
-        while (x > derecha && fila[x] == blanco) --x;
-        derecha = std::max(derecha, x);
+        for (int x = zona.left(); x <= zona.right(); ++x) {
+            if (fila[x] == blanco) continue;
+            if (!porColumnas) {
+                pintada[static_cast<std::size_t>(y - zona.top())] = 1;
+                break;
+            }
+            pintada[static_cast<std::size_t>(x - zona.left())] = 1;
+        }
     }
-    cerrar();
+    std::vector<std::pair<int, int>> tramos;
+    for (int i = 0; i < static_cast<int>(pintada.size()); ++i) {
+        if (!pintada[static_cast<std::size_t>(i)]) continue;
+        if (tramos.empty() || i - tramos.back().second > BandaBlanca)
+            tramos.emplace_back(i, i);
+        else
+            tramos.back().second = i;
+    }
+    return tramos;
+}
+
+// Cuts `zona` across its rows or its columns; `otraEntera` says the other direction left it
+// whole, so a zone that neither direction cuts is final.
+void Cortar(const QImage& rgb, const QRect& zona, bool porColumnas, bool otraEntera,
+            std::vector<QRect>& zonas) {
+    const auto tramos = TramosPintados(rgb, zona, porColumnas);
+    for (const auto& [desde, hasta] : tramos) {
+        const QRect pieza =
+            porColumnas ? QRect(zona.left() + desde, zona.top(), hasta - desde + 1, zona.height())
+                        : QRect(zona.left(), zona.top() + desde, zona.width(), hasta - desde + 1);
+        const bool entera = pieza == zona;
+        if (entera && otraEntera)
+            zonas.push_back(pieza);
+        else
+            Cortar(rgb, pieza, !porColumnas, entera, zonas);
+    }
+}
+
+std::vector<QRect> ZonasPintadas(const QImage& rgb) {
+    std::vector<QRect> zonas;
+    if (!rgb.isNull()) Cortar(rgb, rgb.rect(), false, false, zonas);
     return zonas;
 }
 
@@ -237,6 +259,7 @@ void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInfo
 }
 
 bool PintarInforme(QPagedPaintDevice& dispositivo, const ContenidoInforme& contenido) {
+    const MemoriaGraficos memoria;
     QPainter pintor;
     if (!pintor.begin(&dispositivo)) return false;
     const QRectF pagina(0, 0, dispositivo.width(), dispositivo.height());

@@ -17,7 +17,7 @@ namespace trevalo {
 inline constexpr double AnchoPaginaPuntos = 595.28;
 inline constexpr double AltoPaginaPuntos = 841.89;
 
-// A picture ready for its page: decoded, and the bands of it that hold paint.
+// A picture ready for its page: decoded, and the zones of it that hold paint.
 struct GraficoPreparado {
     QImage Imagen;
     std::vector<QRect> Zonas;

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
 
@@ -238,17 +239,42 @@ TEST_F(EscritoresTest, PagesPlaceEachPictureLargeAndCentred) {
     }
 }
 
+// Every pixel back, by this program's reader and by the toolkit's own PNG reader; a PNG of
+// another writer (filtered rows, several chunks) read all the same; a picture too wide for
+// the drawing compressor.
 TEST_F(EscritoresTest, PngKeepsEveryPixelAndCarriesThePrintResolution) {
-    QImage imagen(AnchoGrafico, AltoGrafico, QImage::Format_RGB32);
-    for (int y = 0; y < imagen.height(); ++y)
-        for (int x = 0; x < imagen.width(); ++x)
-            imagen.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
-    const QImage vuelta = DecodificarPng(CodificarPng(imagen));
+    auto patron = [](int ancho, int alto) {
+        QImage imagen(ancho, alto, QImage::Format_RGB32);
+        for (int y = 0; y < alto; ++y)
+            for (int x = 0; x < ancho; ++x)
+                imagen.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
+        return imagen;
+    };
+    const QImage imagen = patron(AnchoGrafico, AltoGrafico);
+    const std::vector<std::uint8_t> png = CodificarPng(imagen);
+    const QImage vuelta = DecodificarPng(png);
     ASSERT_EQ(vuelta.size(), imagen.size());
     EXPECT_EQ(vuelta.convertToFormat(QImage::Format_RGB32), imagen);
     EXPECT_NEAR(vuelta.dotsPerMeterX() * 0.0254, 96 * FactorImpresion, 0.5);
+    const QImage ajena = QImage::fromData(png.data(), static_cast<int>(png.size()), "PNG");
+    EXPECT_EQ(ajena.convertToFormat(QImage::Format_RGB32), imagen);
+    EXPECT_EQ(ajena.dotsPerMeterY(), vuelta.dotsPerMeterY());
+
+    QByteArray deOtro;
+    QBuffer buffer(&deOtro);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(imagen.save(&buffer, "PNG", 0));
+    EXPECT_EQ(DecodificarPng({deOtro.begin(), deOtro.end()}).convertToFormat(QImage::Format_RGB32),
+              imagen);
+
+    const QImage ancha = patron(11000, 3);
+    EXPECT_EQ(DecodificarPng(CodificarPng(ancha)).convertToFormat(QImage::Format_RGB32), ancha);
+
     EXPECT_TRUE(DecodificarPng({}).isNull());
     EXPECT_TRUE(DecodificarPng({1, 2, 3}).isNull());
+    std::vector<std::uint8_t> danado = png;
+    danado[danado.size() / 2] ^= 0x40; // inside the compressed rows: the chunk's CRC fails
+    EXPECT_TRUE(DecodificarPng(danado).isNull());
 }
 
 } // namespace
