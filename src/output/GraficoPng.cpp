@@ -97,8 +97,10 @@ std::optional<QImage> LeerPngSimple(const std::vector<std::uint8_t>& png) {
             break;
         }
     }
-    // Pictures are a few thousand pixels a side; a larger header is not this program's.
-    if (ancho == 0 || alto == 0 || ancho > 32768 || alto > 32768) return std::nullopt;
+    // Pictures are a few million pixels; a larger header is not this program's.
+    constexpr std::uint64_t PixelesMaximos = std::uint64_t{1} << 26;
+    if (ancho == 0 || alto == 0 || std::uint64_t{ancho} * alto > PixelesMaximos)
+        return std::nullopt;
     if (idat.empty()) return std::nullopt;
     if (idat.size() > 1) { // the zlib stream split over several chunks, joined
         std::size_t total = 0;

@@ -6,6 +6,8 @@
 #include <system_error>
 #include <vector>
 
+#include "store/CicloProyecto.h"
+
 namespace trevalo {
 
 namespace fs = std::filesystem;
@@ -21,11 +23,6 @@ bool ExisteCarpeta(const std::string& ruta) {
     return fs::is_directory(ruta, ec);
 }
 
-bool ExisteArchivo(const std::string& ruta) {
-    std::error_code ec;
-    return fs::is_regular_file(ruta, ec);
-}
-
 void CrearCarpetaSiFalta(const std::string& ruta) {
     std::error_code ec;
     if (!ExisteCarpeta(ruta)) fs::create_directory(ruta, ec);
@@ -33,7 +30,7 @@ void CrearCarpetaSiFalta(const std::string& ruta) {
 
 void CopiarSiFalta(const std::string& origen, const std::string& destino) {
     std::error_code ec;
-    if (!ExisteArchivo(destino)) fs::copy_file(origen, destino, ec);
+    if (!ExisteArchivoDisco(destino)) fs::copy_file(origen, destino, ec);
 }
 
 std::string SinBarraFinal(std::string ruta) {
@@ -88,7 +85,7 @@ void SeparadoresNumericos(const std::locale& local, char& decimal, char& miles) 
 
 void VerificaTapizKorvel(const CarpetasPrograma& carpetas) {
     const std::string usuario = carpetas.RutaBase + "/Tapices/TapizKorvel.jpg";
-    if (!ExisteArchivo(usuario)) return;
+    if (!ExisteArchivoDisco(usuario)) return;
     std::error_code ec1, ec2;
     const auto tamanoUsuario = fs::file_size(usuario, ec1);
     const auto tamanoPrograma = fs::file_size(carpetas.RutaPrograma + TapizPrograma, ec2);
@@ -122,7 +119,7 @@ void DatosUsuario(const EntornoInicio& entorno, CarpetasPrograma& carpetas) {
     // The report database starts clean at every start (note the change of extension).
     const std::string temporal = base + "/Trabajo/Temporal.mdb";
     std::error_code ec;
-    if (ExisteArchivo(temporal)) fs::remove(temporal, ec);
+    if (ExisteArchivoDisco(temporal)) fs::remove(temporal, ec);
     fs::copy_file(imagen + "Temporal.kvl", temporal, ec);
 
     carpetas.RutaExplorador = raiz + CarpetaTrevalo;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/Errores.h"
+#include "store/CicloProyecto.h"
 #include "store/Nombres.h"
 
 namespace trevalo {
@@ -26,7 +27,7 @@ Bytes LeerBytes(const std::string& ruta) {
 }
 
 // Little-endian unsigned value of `ancho` bytes at `pos`; bytes past the end read as zero.
-std::uint32_t Valor(const Bytes& bytes, std::size_t pos, int ancho) {
+std::uint32_t LeerValor(const Bytes& bytes, std::size_t pos, int ancho) {
     std::uint32_t valor = 0;
     for (int i = ancho - 1; i >= 0; --i) {
         const std::size_t k = pos + static_cast<std::size_t>(i);
@@ -43,12 +44,7 @@ void PonerValor(Bytes& bytes, std::size_t pos, int ancho, std::uint32_t valor) {
 }
 
 std::int16_t Entero16(const Bytes& bytes, int registro) {
-    return static_cast<std::int16_t>(Valor(bytes, Inicio(registro), 2));
-}
-
-bool ExisteArchivo(const std::string& ruta) {
-    std::error_code ec;
-    return !ruta.empty() && std::filesystem::is_regular_file(ruta, ec);
+    return static_cast<std::int16_t>(LeerValor(bytes, Inicio(registro), 2));
 }
 
 } // namespace
@@ -56,16 +52,16 @@ bool ExisteArchivo(const std::string& ruta) {
 ConfiguracionTapiz LeerRegistrosTapiz(const std::string& ruta) {
     const Bytes bytes = LeerBytes(ruta);
     ConfiguracionTapiz t;
-    const std::size_t longitud = std::min<std::size_t>(Valor(bytes, 0, 2), MaxTextoTapiz);
+    const std::size_t longitud = std::min<std::size_t>(LeerValor(bytes, 0, 2), MaxTextoTapiz);
     for (std::size_t i = 0; i < longitud && 2 + i < bytes.size(); ++i)
         t.TapizArchivo.push_back(static_cast<char>(bytes[2 + i]));
     t.TapizVertical = Entero16(bytes, 2);
     t.TapizHorizontal = Entero16(bytes, 3);
     t.TapizAjustar = Entero16(bytes, 4);
-    t.TapizEfecto = static_cast<std::uint8_t>(Valor(bytes, Inicio(5), 1));
-    t.TipLetra = static_cast<std::uint8_t>(Valor(bytes, Inicio(6), 1));
-    t.TipFondo = static_cast<std::int32_t>(Valor(bytes, Inicio(7), 4));
-    t.TipTexto = static_cast<std::int32_t>(Valor(bytes, Inicio(8), 4));
+    t.TapizEfecto = static_cast<std::uint8_t>(LeerValor(bytes, Inicio(5), 1));
+    t.TipLetra = static_cast<std::uint8_t>(LeerValor(bytes, Inicio(6), 1));
+    t.TipFondo = static_cast<std::int32_t>(LeerValor(bytes, Inicio(7), 4));
+    t.TipTexto = static_cast<std::int32_t>(LeerValor(bytes, Inicio(8), 4));
     t.TipCentrado = Entero16(bytes, 9);
     t.TipTradicional = Entero16(bytes, 10);
     return t;
@@ -102,14 +98,14 @@ ConfiguracionTapiz TapizDefecto(const CarpetasPrograma& carpetas) {
 
 std::string LeerTapiz(const CarpetasPrograma& carpetas, ConfiguracionTapiz& tapiz) {
     const std::string ruta = carpetas.RutaBase + "/Tapiz.kvl";
-    if (!ExisteArchivo(ruta)) std::ofstream(ruta, std::ios::binary);
+    if (!ExisteArchivoDisco(ruta)) std::ofstream(ruta, std::ios::binary);
     tapiz = LeerRegistrosTapiz(ruta);
     if (tapiz.TapizVertical < 0 || tapiz.TapizVertical > 2) tapiz.TapizVertical = 0;
     if (tapiz.TapizHorizontal < 0 || tapiz.TapizHorizontal > 2) tapiz.TapizHorizontal = 0;
     if (tapiz.TapizEfecto > 27) tapiz.TapizEfecto = 0;
 
     const std::string archivo = Recortado(tapiz.TapizArchivo);
-    if (archivo.empty() || !ExisteArchivo(archivo)) {
+    if (archivo.empty() || !ExisteArchivoDisco(archivo)) {
         const ConfiguracionTapiz defecto = TapizDefecto(carpetas);
         try {
             EscribirRegistrosTapiz(ruta, defecto, AnchosTapizDefecto);
@@ -121,7 +117,7 @@ std::string LeerTapiz(const CarpetasPrograma& carpetas, ConfiguracionTapiz& tapi
 
     if (tapiz.TipLetra > 7) tapiz.TipLetra = 4;
     if (tapiz.TipFondo == 0) tapiz.TipFondo = TipFondoDefecto;
-    return ExisteArchivo(tapiz.TapizArchivo) ? tapiz.TapizArchivo : std::string();
+    return ExisteArchivoDisco(tapiz.TapizArchivo) ? tapiz.TapizArchivo : std::string();
 }
 
 int PuntosLetraTip(int indice) {
