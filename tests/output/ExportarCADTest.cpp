@@ -15,6 +15,7 @@
 #include "comun/Carpeta.h"
 #include "comun/DialogosGuion.h"
 #include "comun/Proyecto.h"
+#include "comun/ProyectoCAD.h"
 #include "drawing/GeometriaPlot.h"
 #include "output/ExportarCAD.h"
 #include "store/CicloProyecto.h"
@@ -86,18 +87,6 @@ class ExportarCADTest : public testing::Test {
 
     Recordset Leer(const std::string& sql, const Parametros& p = {}) {
         return BaseDatos::Abrir(destino).AbrirRecordset(sql, p);
-    }
-
-    // Every row of every table whose name is not `excepto`, in the order of the file.
-    std::string Volcado(const std::string& excepto) {
-        std::string texto;
-        for (const char* tabla : TablasVigaCAD)
-            for (auto rs =
-                     Leer(std::string("SELECT * FROM ") + tabla + " WHERE Nombre<>? ORDER BY rowid",
-                          {excepto});
-                 !rs.AlFinal(); rs.MoveNext())
-                for (const auto& c : rs.Columnas()) texto += rs.Campo(c).Texto() + "|";
-        return texto;
     }
 
     long Cuenta(const std::string& tabla, const std::string& nombre) {
@@ -319,11 +308,11 @@ TEST_F(ExportarCADTest, AppendReplacesOnlyTheBeamExported) {
     }
     Elegir(destino);
     ASSERT_EQ(Exportar({1}, 1), 1);
-    const std::string otras = Volcado("V-1");
+    const std::string otras = VolcadoCAD(destino, "V-1");
     const long tramos = Cuenta("VigaTramos", "V-1");
     Elegir(destino);
     ASSERT_EQ(Exportar({1}, 1), 1);
-    EXPECT_EQ(Volcado("V-1"), otras);
+    EXPECT_EQ(VolcadoCAD(destino, "V-1"), otras);
     EXPECT_EQ(Cuenta("VigaTramos", "V-1"), tramos);
     EXPECT_EQ(Cuenta("VigaRefTeorico", "V-1"), 2);
     EXPECT_EQ(Cuenta("VigaDatos", "V-1"), 1);

@@ -8,7 +8,7 @@
 
 #include "CalcPrueba.h"
 #include "comun/Proyecto.h"
-#include "output/ExportarCAD.h"
+#include "comun/ProyectoCAD.h"
 
 namespace trevalo::calc {
 namespace {
@@ -49,18 +49,6 @@ class CadTest : public ConCarpeta {
              !rs.AlFinal(); rs.MoveNext())
             nombres.push_back(rs.Campo("Nombre").Texto());
         return nombres;
-    }
-
-    // Every row of the beam tables not of `excepto`, in the order of the file.
-    std::string Volcado(const std::string& excepto) const {
-        std::string texto;
-        for (const char* tabla : TablasVigaCAD)
-            for (auto rs =
-                     Leer(std::string("SELECT * FROM ") + tabla + " WHERE Nombre<>? ORDER BY rowid",
-                          {excepto});
-                 !rs.AlFinal(); rs.MoveNext())
-                for (const auto& c : rs.Columnas()) texto += rs.Campo(c).Texto() + "|";
-        return texto;
     }
 
     // VigaRefTeorico of `nombre` against the steel summary of the design sheet's export.
@@ -109,9 +97,9 @@ TEST_F(CadTest, AppendsTheBeamsNamed) {
     EXPECT_EQ(Leer("SELECT * FROM VigaEjes WHERE OpcionColInf=1").RecordCount(), 0);
 
     ASSERT_EQ(Correr({proyecto, "-o", destino, "--viga", "V-1"}), 0) << r.errores;
-    const std::string otras = Volcado("V-1");
+    const std::string otras = VolcadoCAD(destino, "V-1");
     ASSERT_EQ(Correr({proyecto, "-o", destino, "--viga", "V-1", "--viga", "V-1"}), 0);
-    EXPECT_EQ(Volcado("V-1"), otras);
+    EXPECT_EQ(VolcadoCAD(destino, "V-1"), otras);
     EXPECT_EQ(Nombres("VigaDatos"), (std::vector<std::string>{"V-1", "V-2"}));
     EXPECT_EQ(Leer("SELECT * FROM VigaRefTeorico WHERE Nombre='V-1'").RecordCount(), 1);
     CompararAcero("V-2", 4);
