@@ -6,7 +6,9 @@
 #include <cassert>
 #include <cstring>
 #include <deque>
+#include <functional>
 #include <future>
+#include <string_view>
 #include <vector>
 
 #include "output/GraficoPng.h"
@@ -179,6 +181,55 @@ std::vector<QRect> ZonasPintadas(const QImage& rgb) {
     return zonas;
 }
 
+// A digest of a zone: its size and every sixteenth row. Zones with equal digests are
+// compared whole before one stands for the other.
+std::size_t Huella(const QImage& zona) {
+    constexpr int Paso = 16;
+    std::size_t h = std::hash<long long>()(static_cast<long long>(zona.width()) << 32 |
+                                           static_cast<unsigned>(zona.height()));
+    const auto bytes = static_cast<std::size_t>(zona.width()) * sizeof(QRgb);
+    for (int y = 0; y < zona.height(); y += Paso) {
+        const std::string_view fila(reinterpret_cast<const char*>(zona.constScanLine(y)), bytes);
+        h = h * 1099511628211u ^ std::hash<std::string_view>()(fila);
+    }
+    return h;
+}
+
+bool MismosPixeles(const QImage& a, const QImage& b) {
+    if (a.size() != b.size() || a.format() != b.format()) return false;
+    const auto bytes = static_cast<std::size_t>(a.width()) * sizeof(QRgb);
+    for (int y = 0; y < a.height(); ++y)
+        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), bytes) != 0) return false;
+    return true;
+}
+
+// The zones of the last pictures written. A zone with the pixels of one of them takes that
+// one's image, which a PDF writer recognises and stores once: the elevation of a beam heads
+// several of its pictures.
+class ZonasEscritas {
+  public:
+    void Reusar(GraficoPreparado& preparado) {
+        for (ZonaGrafico& zona : preparado.Zonas) {
+            const auto igual =
+                std::find_if(zonas_.begin(), zonas_.end(), [&](const ZonaGrafico& z) {
+                    return z.Huella == zona.Huella && MismosPixeles(z.Imagen, zona.Imagen);
+                });
+            if (igual != zonas_.end()) zona.Imagen = igual->Imagen;
+        }
+        cuantas_.push_back(preparado.Zonas.size());
+        zonas_.insert(zonas_.end(), preparado.Zonas.begin(), preparado.Zonas.end());
+        if (cuantas_.size() > Ventana) {
+            zonas_.erase(zonas_.begin(), zonas_.begin() + static_cast<long>(cuantas_.front()));
+            cuantas_.pop_front();
+        }
+    }
+
+  private:
+    static constexpr std::size_t Ventana = 6; // the pictures of two beams
+    std::deque<ZonaGrafico> zonas_;
+    std::deque<std::size_t> cuantas_;
+};
+
 void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme& grafico,
                    const GraficoPreparado& preparado) {
     Letra(p, 8, true, ColorEtiqueta);
@@ -198,12 +249,12 @@ void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme&
     const QSizeF tamano(AnchoGraficoPantalla * escala, AltoGraficoPantalla * escala);
     const QRectF marco(Izquierda + (AnchoUtil - tamano.width()) / 2, arriba, tamano.width(),
                        tamano.height());
-    const QImage& imagen = preparado.Imagen;
-    for (const QRect& zona : preparado.Zonas) {
-        const double e = marco.width() / imagen.width();
-        p.drawImage(QRectF(marco.left() + zona.left() * e, marco.top() + zona.top() * e,
-                           zona.width() * e, zona.height() * e),
-                    imagen, zona);
+    const double e = marco.width() / preparado.Tamano.width();
+    for (const ZonaGrafico& zona : preparado.Zonas) {
+        const QRect& z = zona.Lugar;
+        p.drawImage(QRectF(marco.left() + z.left() * e, marco.top() + z.top() * e, z.width() * e,
+                           z.height() * e),
+                    zona.Imagen);
     }
     p.setPen(QPen(ColorRaya, 0.5));
     p.setBrush(Qt::NoBrush);
@@ -241,10 +292,14 @@ int CantidadPaginasInforme(const ContenidoInforme& contenido) {
 
 GraficoPreparado PrepararGrafico(const GraficoInforme& grafico) {
     GraficoPreparado preparado;
-    const QImage imagen = DecodificarPng(grafico.Grafico);
+    const QImage imagen = DecodificarPng(grafico.Grafico).convertToFormat(QImage::Format_RGB32);
     if (imagen.isNull()) return preparado;
-    preparado.Imagen = imagen.convertToFormat(QImage::Format_RGB32);
-    preparado.Zonas = ZonasPintadas(preparado.Imagen);
+    preparado.Tamano = imagen.size();
+    for (const QRect& lugar : ZonasPintadas(imagen)) {
+        QImage pixeles = imagen.copy(lugar);
+        const std::size_t huella = Huella(pixeles);
+        preparado.Zonas.push_back({lugar, std::move(pixeles), huella});
+    }
     return preparado;
 }
 
@@ -267,6 +322,7 @@ bool PintarInforme(QPagedPaintDevice& dispositivo, const ContenidoInforme& conte
     const auto adelante = static_cast<std::size_t>(2 * HilosPintura());
     std::deque<std::future<GraficoPreparado>> preparados;
     std::size_t siguiente = 0;
+    ZonasEscritas escritas;
     for (int k = 1; k <= CantidadPaginasInforme(contenido); ++k) {
         for (; siguiente < contenido.Graficos.size() && preparados.size() < adelante; ++siguiente)
             preparados.push_back(std::async(std::launch::async, PrepararGrafico,
@@ -275,6 +331,7 @@ bool PintarInforme(QPagedPaintDevice& dispositivo, const ContenidoInforme& conte
         if (k > 1) {
             preparado = preparados.front().get();
             preparados.pop_front();
+            escritas.Reusar(preparado);
             dispositivo.newPage();
         }
         PintarPaginaInforme(pintor, pagina, contenido, k, preparado);

@@ -17,10 +17,18 @@ namespace trevalo {
 inline constexpr double AnchoPaginaPuntos = 595.28;
 inline constexpr double AltoPaginaPuntos = 841.89;
 
-// A picture ready for its page: decoded, and the zones of it that hold paint.
-struct GraficoPreparado {
+// A zone of a picture that holds paint: where it lies in the picture, its own copy of the
+// pixels, and a digest of them by which a writer finds a zone it has written already.
+struct ZonaGrafico {
+    QRect Lugar;
     QImage Imagen;
-    std::vector<QRect> Zonas;
+    std::size_t Huella = 0;
+};
+
+// A picture ready for its page: its size, and the zones of it that hold paint.
+struct GraficoPreparado {
+    QSize Tamano;
+    std::vector<ZonaGrafico> Zonas;
 };
 
 // Decodes a picture of the report; a picture that does not decode has no bands.

@@ -130,15 +130,32 @@ TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
     EXPECT_EQ(PreguntaAbrirArchivo("Obra.pdf"), "¿Desea Abrir el Archivo Obra.pdf?    ");
 }
 
+// Each picture's painted zones become images, lossless (no JPEG stream); a zone that
+// repeats one of the pictures just before it is stored once (picture 4 repeats picture 1);
+// zones apart across the columns are separate images.
 TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
-    for (int n : {0, 1, 4}) {
-        const auto ruta = carpeta / ("r" + std::to_string(n) + ".pdf");
-        EscribirInformePdf(Contenido(n), ruta);
+    struct Caso {
+        ContenidoInforme contenido;
+        std::size_t paginas, imagenes;
+    };
+    ContenidoInforme lado = Contenido(0);
+    QImage dos(AnchoGrafico, AltoGrafico, QImage::Format_RGB32);
+    dos.fill(Qt::white);
+    QPainter p(&dos);
+    p.fillRect(10, 10, 100, 100, Qt::red);
+    p.fillRect(300, 10, 100, 100, Qt::blue);
+    p.end();
+    lado.Graficos.push_back({1, CodificarPng(dos)});
+    const Caso casos[] = {
+        {Contenido(0), 1, 0}, {Contenido(1), 2, 1}, {Contenido(4), 5, 3}, {lado, 2, 2}};
+    int k = 0;
+    for (const Caso& c : casos) {
+        const auto ruta = carpeta / ("r" + std::to_string(++k) + ".pdf");
+        EscribirInformePdf(c.contenido, ruta);
         const std::string pdf = prueba::LeerArchivo(ruta);
         EXPECT_EQ(pdf.rfind("%PDF-", 0), 0u);
-        EXPECT_EQ(Contar(pdf, "/Type /Page\n"), static_cast<std::size_t>(1 + n));
-        // One image a picture page, lossless: no JPEG stream.
-        EXPECT_EQ(Contar(pdf, "/Subtype /Image"), static_cast<std::size_t>(n));
+        EXPECT_EQ(Contar(pdf, "/Type /Page\n"), c.paginas) << k;
+        EXPECT_EQ(Contar(pdf, "/Subtype /Image"), c.imagenes) << k;
         EXPECT_EQ(pdf.find("/DCTDecode"), std::string::npos);
     }
 }
