@@ -41,6 +41,9 @@ class FinCampo : public QObject {
     std::function<void(bool)> fin_;
 };
 
+// A dialog button that keeps the dialog's auto-default: Return presses the button that has
+// the focus, else " Aceptar ". The main windows' command buttons (CrearBoton) turn it off,
+// since there Return must not run a command.
 QPushButton* Boton(const char* nombre, const char* texto, QWidget* padre) {
     auto* boton = new QPushButton(QString::fromUtf8(texto), padre);
     boton->setObjectName(QString::fromLatin1(nombre));
