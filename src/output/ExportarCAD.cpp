@@ -412,9 +412,7 @@ std::vector<std::string> ExportarVigasCAD(EstadoProyecto& estado, ProyectoActual
     if (!nuevo.ruta.empty()) {
         std::error_code ec;
         std::filesystem::rename(nuevo.ruta, destino, ec);
-        if (ec)
-            throw ErrorTrevalo(ErrAccesoArchivo, "No se pudo escribir el archivo: " + destino +
-                                                     " (" + ec.message() + ")");
+        if (ec) throw ErrorArchivo(ec);
         nuevo.ruta.clear();
     }
     return vigas;

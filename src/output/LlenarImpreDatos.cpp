@@ -1,18 +1,16 @@
 #include "output/LlenarImpreDatos.h"
 
-#include "output/GraficoPng.h"
-
 #include <algorithm>
 #include <cassert>
-#include <condition_variable>
 #include <deque>
 #include <future>
-#include <mutex>
 #include <thread>
 #include <variant>
 
 #include "model/Errores.h"
 #include "output/BaseInforme.h"
+#include "output/GraficoPng.h"
+#include "output/HilosTrabajo.h"
 
 namespace trevalo {
 
@@ -30,58 +28,6 @@ int HilosPintura() {
 }
 
 namespace {
-
-// Threads that run the paintings handed to them, each in its own time.
-class Pintores {
-  public:
-    explicit Pintores(int hilos) {
-        for (int i = 0; i < hilos; ++i) hilos_.emplace_back([this] { Trabajar(); });
-    }
-    // Paintings not begun are dropped; those under way are waited for.
-    ~Pintores() {
-        {
-            const std::lock_guard cerrojo(mutex_);
-            fin_ = true;
-            cola_.clear();
-        }
-        aviso_.notify_all();
-        for (auto& h : hilos_) h.join();
-    }
-    Pintores(const Pintores&) = delete;
-    Pintores& operator=(const Pintores&) = delete;
-
-    std::future<GraficoPintado> Encargar(TrabajoGrafico trabajo) {
-        std::packaged_task<GraficoPintado()> tarea(std::move(trabajo));
-        auto futuro = tarea.get_future();
-        {
-            const std::lock_guard cerrojo(mutex_);
-            cola_.push_back(std::move(tarea));
-        }
-        aviso_.notify_one();
-        return futuro;
-    }
-
-  private:
-    void Trabajar() {
-        for (;;) {
-            std::packaged_task<GraficoPintado()> tarea;
-            {
-                std::unique_lock cerrojo(mutex_);
-                aviso_.wait(cerrojo, [this] { return fin_ || !cola_.empty(); });
-                if (fin_) return;
-                tarea = std::move(cola_.front());
-                cola_.pop_front();
-            }
-            tarea(); // a fault travels to the future
-        }
-    }
-
-    std::mutex mutex_;
-    std::condition_variable aviso_;
-    std::deque<std::packaged_task<GraficoPintado()>> cola_;
-    bool fin_ = false;
-    std::vector<std::thread> hilos_;
-};
 
 // What the walk gives, messages and pictures, stored and shown in the order given, however
 // many threads paint. Only a few pictures wait at a time, to bound the memory held.
@@ -139,7 +85,8 @@ class SalidaInforme {
     std::deque<Pendiente> pendientes_;
     std::size_t graficos_ = 0;
     std::int16_t n_ = 1;
-    std::optional<Pintores> pintores_; // last: its threads end before the rest goes
+    std::optional<HilosTrabajo<GraficoPintado>>
+        pintores_; // last: its threads end before the rest goes
 };
 
 // Steps A to C of one loaded beam.

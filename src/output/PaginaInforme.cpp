@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "output/GraficoPng.h"
+#include "output/HilosTrabajo.h"
 #include "output/LlenarImpreDatos.h"
 
 namespace trevalo {
@@ -319,14 +320,15 @@ bool PintarInforme(QPagedPaintDevice& dispositivo, const ContenidoInforme& conte
     if (!pintor.begin(&dispositivo)) return false;
     const QRectF pagina(0, 0, dispositivo.width(), dispositivo.height());
     // The pictures of the next pages are decoded on other threads while a page is painted.
+    HilosTrabajo<GraficoPreparado> lectores(HilosPintura());
     const auto adelante = static_cast<std::size_t>(2 * HilosPintura());
     std::deque<std::future<GraficoPreparado>> preparados;
     std::size_t siguiente = 0;
     ZonasEscritas escritas;
     for (int k = 1; k <= CantidadPaginasInforme(contenido); ++k) {
         for (; siguiente < contenido.Graficos.size() && preparados.size() < adelante; ++siguiente)
-            preparados.push_back(std::async(std::launch::async, PrepararGrafico,
-                                            std::cref(contenido.Graficos[siguiente])));
+            preparados.push_back(lectores.Encargar(
+                [&grafico = contenido.Graficos[siguiente]] { return PrepararGrafico(grafico); }));
         GraficoPreparado preparado;
         if (k > 1) {
             preparado = preparados.front().get();

@@ -4,6 +4,7 @@
 
 #include "model/Errores.h"
 #include "platform/motor/MotorDatos.h"
+#include "store/CicloProyecto.h"
 
 namespace trevalo {
 
@@ -41,7 +42,7 @@ void CompactarArchivo(const std::string& ruta, const std::string& temporal) {
                                                   " no pasó la verificación: " + estado);
         std::error_code ec;
         fs::rename(temporal, ruta, ec);
-        if (ec) throw ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
+        if (ec) throw ErrorArchivo(ec);
     } catch (const ErrorTrevalo&) {
         Borrar(temporal);
         throw;

@@ -8,8 +8,9 @@
 //
 // Errors: the engine's (26 "file is not a database", 11 "database disk image is malformed",
 // 14 cannot open ...) for a file it cannot compact; 11 when the copy fails its integrity
-// check; 75 "Error de acceso a la ruta o el archivo" when the copy cannot take the file's
-// place. In every case the file is untouched and the temporary file is gone.
+// check; the file error of the failed step (70 permission, else 75 "Error de acceso a la ruta
+// o el archivo") when the copy cannot take the file's place. In every case the file is untouched
+// and the temporary file is gone.
 
 #include <string>
 
