@@ -12,20 +12,11 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
 #include "store/Compactar.h"
 
 namespace trevalo {
-
-namespace {
-
-QPushButton* Boton(const char* nombre, const char* titulo, QWidget* padre) {
-    auto* b = new QPushButton(QString::fromUtf8(titulo), padre);
-    b->setObjectName(QString::fromUtf8(nombre));
-    return b;
-}
-
-} // namespace
 
 Compactar1::Compactar1(Programa& programa, QWidget* padre) : QDialog(padre), programa_(programa) {
     setObjectName(QStringLiteral("Compactar1"));
@@ -70,10 +61,11 @@ Compactar1::Compactar1(Programa& programa, QWidget* padre) : QDialog(padre), pro
     progressBar1_->hide();
     lsLabel1_->hide();
 
-    auto* marcar = Boton("SSCommand1", " Marcar Todas las Partidas del Presupuesto ", this);
-    auto* desmarcar = Boton("LSButton1", " Desmarcar Todas las Partidas del Presupuesto ", this);
-    auto* aceptar = Boton("Command2", " Aceptar ", this);
-    auto* cancelar = Boton("Command1", " Cancelar ", this);
+    auto* marcar = BotonDialogo(*this, "SSCommand1", " Marcar Todas las Partidas del Presupuesto ");
+    auto* desmarcar =
+        BotonDialogo(*this, "LSButton1", " Desmarcar Todas las Partidas del Presupuesto ");
+    auto* aceptar = BotonDialogo(*this, "Command2", " Aceptar ");
+    auto* cancelar = BotonDialogo(*this, "Command1", " Cancelar ");
     aceptar->setDefault(true);
     connect(marcar, &QPushButton::clicked, this, [this] { Marcar(true); });
     connect(desmarcar, &QPushButton::clicked, this, [this] { Marcar(false); });
@@ -96,12 +88,13 @@ Compactar1::Compactar1(Programa& programa, QWidget* padre) : QDialog(padre), pro
 }
 
 void Compactar1::CambiarCarpeta(const QString& carpeta) {
-    dirActual_ = carpeta;
     const QModelIndex nodo = modelo_->index(carpeta);
     if (nodo.isValid() && folderView1_->currentIndex() != nodo) {
-        folderView1_->setCurrentIndex(nodo);
         folderView1_->scrollTo(nodo);
+        folderView1_->setCurrentIndex(nodo); // lists the folder, through currentChanged
+        return;
     }
+    dirActual_ = carpeta;
     fileView1_->clear();
     const QStringList archivos = QDir(carpeta).entryList(
         {QStringLiteral("*.trv")}, QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include "platform/lienzos/LienzoQt.h"
+#include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
 
@@ -27,12 +28,6 @@ const char* const TituloAbrir = "Cambiar el Tapiz del Menú Principal";
 const char* const PropiedadColor = "ColorTrevalo";
 constexpr std::int32_t Muestras[] = {0xD6F4FF, 0xE3FFCA, 0xE1E1FF, 0xF4E3D5, 0xFFE1F0};
 constexpr int IndiceLetraDefecto = 4;
-
-QPushButton* Boton(const QString& nombre, const char* titulo, QWidget* padre) {
-    auto* b = new QPushButton(QString::fromUtf8(titulo), padre);
-    b->setObjectName(nombre);
-    return b;
-}
 
 QCheckBox* Marca(const QString& nombre, const char* titulo, QWidget* padre) {
     auto* c = new QCheckBox(QString::fromUtf8(titulo), padre);
@@ -75,8 +70,8 @@ ConfigurarPrograma::ConfigurarPrograma(Programa& programa, QWidget* padre)
     tab1_->addTab(CrearPestanaImagen(), QStringLiteral("Imágen del Menú Principal"));
     tab1_->addTab(CrearPestanaToolTip(), QStringLiteral("ToolTip de Ayuda de los Botones"));
 
-    auto* aceptar = Boton(QStringLiteral("Command6"), " Aceptar ", this);
-    auto* cancelar = Boton(QStringLiteral("Command5"), " Cancelar ", this);
+    auto* aceptar = BotonDialogo(*this, "Command6", " Aceptar ");
+    auto* cancelar = BotonDialogo(*this, "Command5", " Cancelar ");
     aceptar->setDefault(true);
     connect(aceptar, &QPushButton::clicked, this, &ConfigurarPrograma::Aceptar);
     connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
@@ -110,7 +105,7 @@ QWidget* ConfigurarPrograma::CrearPestanaImagen() {
     dentro->setContentsMargins(2, 2, 2, 2);
     dentro->addWidget(image1_, 0, Qt::AlignCenter);
 
-    auto* abrir = Boton(QStringLiteral("Abrir"), "Capturar Imagen", pagina);
+    auto* abrir = BotonDialogo(*pagina, "Abrir", "Capturar Imagen");
     abrir->setToolTip(QStringLiteral("Capturar una Imágen para el tapiz del menú principal. "));
     connect(abrir, &QPushButton::clicked, this, &ConfigurarPrograma::Abrir);
     check1_ = Marca(QStringLiteral("Check1"), "Ajustar la Imagen", pagina);
@@ -157,7 +152,7 @@ QWidget* ConfigurarPrograma::CrearPestanaToolTip() {
 
     fondo_ = Muestra(QStringLiteral("LSLabel1"), TipFondoDefecto);
     auto* rotuloFondo = new QLabel(QStringLiteral("Color de Fondo:"), pagina);
-    auto* lcolor = Boton(QStringLiteral("LColor"), " Seleccionar un Color de Fondo ", pagina);
+    auto* lcolor = BotonDialogo(*pagina, "LColor", " Seleccionar un Color de Fondo ");
     lcolor->setToolTip(QStringLiteral(" Seleccionar un Color de Fondo "));
     connect(lcolor, &QPushButton::clicked, this, [this] { ElegirColor(fondo_); });
     auto* muestras = new QHBoxLayout;
@@ -177,7 +172,7 @@ QWidget* ConfigurarPrograma::CrearPestanaToolTip() {
     rejilla->addLayout(muestras, 2, 1);
 
     texto_ = Muestra(QStringLiteral("LSLabel2"), 0);
-    auto* owl3 = Boton(QStringLiteral("OwlButton3"), " Seleccionar el Color de la Letra ", pagina);
+    auto* owl3 = BotonDialogo(*pagina, "OwlButton3", " Seleccionar el Color de la Letra ");
     connect(owl3, &QPushButton::clicked, this, [this] { ElegirColor(texto_); });
     rejilla->addWidget(new QLabel(QStringLiteral("Color de la Letra:"), pagina), 3, 0);
     auto* filaTexto = new QHBoxLayout;
@@ -190,12 +185,11 @@ QWidget* ConfigurarPrograma::CrearPestanaToolTip() {
     rejilla->addWidget(check3_, 4, 1);
     rejilla->addWidget(check4_, 5, 1);
 
-    muestraBoton_ = Boton(QStringLiteral("OwlButton1"), "Botón", pagina);
+    muestraBoton_ = BotonDialogo(*pagina, "OwlButton1", "Botón");
     muestraBoton_->setProperty("Tag", QStringLiteral("Mensaje del Botón"));
     muestraBoton_->setToolTip(
         QStringLiteral("ToolTip Ejemplo de la descripción del botón seleccionado. "));
-    auto* defecto =
-        Boton(QStringLiteral("OwlButton2"), " Colocar los Valores por Defecto ", pagina);
+    auto* defecto = BotonDialogo(*pagina, "OwlButton2", " Colocar los Valores por Defecto ");
     defecto->setToolTip(QStringLiteral(" Colocar los Valores por Defecto "));
     connect(defecto, &QPushButton::clicked, this, &ConfigurarPrograma::ValoresPorDefecto);
     auto* aviso =

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
 
 namespace trevalo {
@@ -41,23 +42,14 @@ class FinCampo : public QObject {
     std::function<void(bool)> fin_;
 };
 
-// A dialog button that keeps the dialog's auto-default: Return presses the button that has
-// the focus, else " Aceptar ". The main windows' command buttons (CrearBoton) turn it off,
-// since there Return must not run a command.
-QPushButton* Boton(const char* nombre, const char* texto, QWidget* padre) {
-    auto* boton = new QPushButton(QString::fromUtf8(texto), padre);
-    boton->setObjectName(QString::fromLatin1(nombre));
-    return boton;
-}
-
 } // namespace
 
 DialogoCarga::DialogoCarga(Programa& programa, const Arreglo<std::int16_t>& tramoCarga,
                            const char* titulo, const char* marco, QWidget* parent)
     : QDialog(parent), programa_(programa), tramoCarga_(tramoCarga),
       marco_(new QGroupBox(QString::fromUtf8(marco), this)), campos_(new QFormLayout(marco_)),
-      aceptar_(Boton("LSButton1", " Aceptar", this)),
-      cancelar_(Boton("LSButton9", " Cancelar", this)) {
+      aceptar_(BotonDialogo(*this, "LSButton1", " Aceptar")),
+      cancelar_(BotonDialogo(*this, "LSButton9", " Cancelar")) {
     setWindowTitle(QString::fromUtf8(titulo));
     marco_->setObjectName(QStringLiteral("Frame1"));
     connect(aceptar_, &QPushButton::clicked, this, &DialogoCarga::Aceptar);
@@ -101,7 +93,6 @@ void DialogoCarga::Aceptar() {
         programa_.Dialogo().Mensaje(MensajeFalla(e));
         return;
     }
-    aceptada_ = true;
     accept();
 }
 

@@ -22,7 +22,7 @@ class DialogoCarga : public QDialog {
     Q_OBJECT
 
   public:
-    bool CargaAceptada() const { return aceptada_; }
+    bool CargaAceptada() const { return result() == QDialog::Accepted; }
 
   protected:
     // tramoCarga: slots 1..NT, 1 for each span the load is written to.
@@ -64,7 +64,6 @@ class DialogoCarga : public QDialog {
     QPushButton* aceptar_;
     QPushButton* cancelar_;
     bool activo_ = false;
-    bool aceptada_ = false;
 };
 
 } // namespace trevalo

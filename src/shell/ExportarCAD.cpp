@@ -16,6 +16,7 @@
 #include <cstdint>
 
 #include "output/ExportarCAD.h"
+#include "shell/CristalReport.h"
 #include "shell/DelegadosCelda.h"
 #include "shell/Ordenes.h"
 #include "shell/PantallaViga.h"
@@ -158,8 +159,6 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
     resize(900, 600);
 }
 
-ExportarCAD::~ExportarCAD() = default;
-
 QPushButton* ExportarCAD::Boton(const QString& nombre) const {
     return findChild<QPushButton*>(nombre);
 }
@@ -251,9 +250,8 @@ void ExportarCAD::Exportar() {
 }
 
 void ExportarCAD::Directorio() {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const RelojDeArena reloj;
     QDesktopServices::openUrl(QUrl::fromLocalFile(Qs(CarpetaProyectosCAD(programa_.Carpetas))));
-    QApplication::restoreOverrideCursor();
 }
 
 } // namespace trevalo

@@ -34,7 +34,6 @@ class ExportarCAD : public QDialog {
     // `nombres`: the beam names of the project window's list, row by row.
     ExportarCAD(Programa& programa, const std::vector<std::string>& nombres,
                 QWidget* parent = nullptr);
-    ~ExportarCAD() override;
 
     // The mark of row r (from 1) and its setting with the row's colour, as a click on the
     // check cell does.

@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QRadioButton>
 #include <QUrl>
+#include <utility>
 
 #include "shell/CristalReport.h"
 #include "shell/TextoQt.h"
@@ -47,10 +48,10 @@ void ImpreReport::Aceptar() {
 }
 
 void ImpreReport::Salida(const ArchivoElegido& archivo) {
-    const auto contenido = AbrirReporte(programa_);
+    auto contenido = AbrirReporte(programa_);
     const SalidaInforme& salida = SalidasInforme.at(programa_.TipoSalida);
     if (programa_.TipoSalida == 0) {
-        VerReportes visor(programa_, contenido, parentWidget());
+        VerReportes visor(programa_, std::move(contenido), parentWidget());
         visor.exec();
         return;
     }

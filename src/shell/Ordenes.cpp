@@ -16,6 +16,12 @@ QPushButton* CrearBoton(QWidget& ventana, const Orden& orden) {
     return b;
 }
 
+QPushButton* BotonDialogo(QWidget& padre, const char* nombre, const char* texto) {
+    auto* b = new QPushButton(QString::fromUtf8(texto), &padre);
+    b->setObjectName(QString::fromUtf8(nombre));
+    return b;
+}
+
 void CrearBotones(QWidget& ventana, QBoxLayout& fila, const std::vector<Orden>& ordenes) {
     for (const Orden& o : ordenes) fila.addWidget(CrearBoton(ventana, o));
 }

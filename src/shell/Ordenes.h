@@ -19,6 +19,11 @@ struct Orden {
 
 QPushButton* CrearBoton(QWidget& ventana, const Orden& orden);
 
+// A dialog's button, which keeps the dialog's auto-default: Return presses the button that
+// has the focus, else the dialog's first button. CrearBoton turns it off, since in a main
+// window Return must not run a command.
+QPushButton* BotonDialogo(QWidget& padre, const char* nombre, const char* texto);
+
 // The buttons in a row, in order, added to `fila`.
 void CrearBotones(QWidget& ventana, QBoxLayout& fila, const std::vector<Orden>& ordenes);
 

@@ -121,8 +121,6 @@ VerReportes::VerReportes(Programa& programa, ContenidoInforme contenido, QWidget
     setWindowState(Qt::WindowMaximized);
 }
 
-VerReportes::~VerReportes() = default;
-
 QWidget* VerReportes::CrearNavegacion() {
     auto* barra = new QWidget(this);
     auto* capas = new QHBoxLayout(barra);

@@ -26,7 +26,6 @@ class VerReportes : public QDialog {
 
   public:
     VerReportes(Programa& programa, ContenidoInforme contenido, QWidget* parent = nullptr);
-    ~VerReportes() override;
 
     // The page shown (from 1) and the count.
     int Pagina() const;
