@@ -119,6 +119,8 @@ std::optional<double> DelegadoNumero::Leer(int fila, int columna, const QString&
 }
 
 Veredicto DelegadoNumero::Entrar(int fila, int columna, const QString& texto) {
+    // A grid that takes no typing (a locked table) takes no paste or block entry either.
+    if (grid_.editTriggers() == QAbstractItemView::NoEditTriggers) return Rechazar();
     const auto formato = FormatoDe(fila, columna);
     Celda celda{fila, columna, texto.trimmed(), std::nullopt};
     if (formato && !celda.Texto.isEmpty()) {

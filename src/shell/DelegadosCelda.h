@@ -81,7 +81,8 @@ class DelegadoNumero : public QStyledItemDelegate {
     void ColocarRegla(Regla regla) { regla_ = std::move(regla); }
     void ColocarCrecimiento(Crecimiento crecer) { crecer_ = std::move(crecer); }
 
-    // The one way in for a value entered by the user; true when the cell took it.
+    // The one way in for a value entered by the user; true when the cell took it. A grid
+    // without edit triggers (a locked table) takes nothing, typed, pasted or in a block.
     bool Aplicar(int fila, int columna, const QString& texto);
     // Pastes tab-separated rows from the active cell; returns the cells taken.
     int Pegar(const QString& bloque);

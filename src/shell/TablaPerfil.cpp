@@ -329,13 +329,6 @@ void TablaPerfil::ConfigurarPantalla() {
         if (columna.centrada) delegado->Centrar(c);
         spread1_->setColumnWidth(c - 1, c == d.designacion ? 150 : 72);
     }
-    // A locked table takes no entry, not even a pasted block; an emptied number keeps its value.
-    delegado->ColocarRegla([this](const Celda& celda) {
-        const bool numerica =
-            DisenoDe(familia_).columnas[static_cast<std::size_t>(celda.Columna - 1)].decimales !=
-            ColumnaTexto;
-        return check1_->isChecked() && (celda.Numero || !numerica) ? Aceptar() : Rechazar();
-    });
     if (familia_ == FamiliaPerfil::DobleTee) spread1_->setColumnHidden(0, true);
 }
 
