@@ -74,7 +74,7 @@ std::vector<Falla> Fallas() {
              p.DEFCOR = true;
          },
          11, kDiv},
-        {"ModuloInfinito", [](auto& v, auto& p) { Acero(v, p, 1e306); }, 6, "Desbordamiento"},
+        {"ModuloInfinito", [](auto& v, auto& p) { Acero(v, p, 1e306); }, 6, kDes},
         // Values no solve can use, stopped before the system is formed.
         {"SinTramos", [](auto& v, auto&) { v.NT = 0; }, 9, kSub},
         {"TramosNegativos", [](auto& v, auto&) { v.NT = -3; }, 9, kSub},

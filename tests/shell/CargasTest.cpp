@@ -4,7 +4,6 @@
 
 #include <QClipboard>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>

@@ -6,7 +6,6 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTreeView>
 
 #include "VentanasPrueba.h"
 #include "comun/Proyecto.h"

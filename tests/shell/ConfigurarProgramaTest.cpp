@@ -3,12 +3,8 @@
 // Tapiz.kvl record by record; then a cancel, the same picture in other letters, a picture
 // that cannot be read, a path too long for its record and a wallpaper deleted by hand.
 
-#include <QButtonGroup>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTabWidget>
 
 #include "VentanasPrueba.h"

@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QLabel>
-#include <QPushButton>
 #include <filesystem>
 
 #include "VentanasPrueba.h"

@@ -21,15 +21,6 @@ using namespace trevalo::prueba;
 
 namespace {
 
-std::unique_ptr<VigasProyecto> Abrir(ProgramaPrueba& p) {
-    p.programa.Estado.NombreProyecto = "Ejemplo Demostrativo.trv";
-    auto v = std::make_unique<VigasProyecto>(p.programa);
-    v->show();
-    if (!QTest::qWaitForWindowExposed(v.get()))
-        QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
-    return v;
-}
-
 QTableWidget& Grilla(ExportarCAD& f) {
     return *Hijo<QTableWidget>(f, QStringLiteral("Spread1"));
 }
@@ -42,10 +33,6 @@ QColor Fondo(ExportarCAD& f, int fila) {
 void Tildar(QTableWidget& g, int fila) {
     QTest::mouseClick(g.viewport(), Qt::LeftButton, {},
                       g.visualRect(g.model()->index(fila - 1, 0)).center());
-}
-
-void Pulsar(ExportarCAD& f, const char* boton) {
-    QTest::mouseClick(f.Boton(QString::fromLatin1(boton)), Qt::LeftButton);
 }
 
 long Filas(const std::string& ruta, const std::string& sql, const Parametros& p = {}) {
@@ -71,7 +58,7 @@ class ExportarCADTest : public QObject {
   private slots:
     void ExportaLaVigaActivaAUnProyectoNuevo() {
         ProgramaPrueba p;
-        auto ventana = Abrir(p);
+        auto ventana = VentanaProyecto(p, "Ejemplo Demostrativo.trv");
         VigasProyecto& v = *ventana;
         v.BtoMove_Click(1);
         v.ElegirPestana(3);
@@ -156,7 +143,7 @@ class ExportarCADTest : public QObject {
     // concrete beams, and its export fails with the target left as the template made it.
     void UnaFilaMasAllaDeLasVigasDeConcretoAvisaYNoEscribe() {
         ProgramaPrueba p;
-        auto ventana = Abrir(p);
+        auto ventana = VentanaProyecto(p, "Ejemplo Demostrativo.trv");
         const std::string destino = p.carpeta / "Anexo.Cad";
         EnFormulario([&](ExportarCAD& f) {
             QTableWidget& g = Grilla(f);

@@ -21,15 +21,6 @@ Pregunta Falla(const std::string& texto, long numero) {
             IconoMensaje::Advertencia, 1};
 }
 
-std::unique_ptr<VigasProyecto> Abrir(ProgramaPrueba& p) {
-    p.programa.Estado.NombreProyecto = Ejemplo;
-    auto v = std::make_unique<VigasProyecto>(p.programa);
-    v->show();
-    if (!QTest::qWaitForWindowExposed(v.get()))
-        QTest::qFail("ventana sin mostrar", __FILE__, __LINE__);
-    return v;
-}
-
 void Ejecutar(ProgramaPrueba& p, const std::string& sql) {
     BaseDatos::Abrir(p.programa.Carpetas.RutaProyectos + "/" + Ejemplo).Ejecutar(sql, {Primera});
 }
@@ -42,7 +33,7 @@ class FallasVentanas : public QObject {
   private slots:
     void UnaExcepcionEnElBucleDeEventosSeMuestraYElProgramaSigue() {
         ProgramaPrueba p;
-        auto ventana = Abrir(p);
+        auto ventana = VentanaProyecto(p, Ejemplo);
         QCOMPARE(p.programa.Viga.NombreVigaActual, Primera);
         QTimer::singleShot(0, ventana.get(), [] { throw std::bad_alloc(); });
         QTimer::singleShot(0, ventana.get(), [] { throw std::runtime_error("sin nombre"); });
@@ -59,7 +50,7 @@ class FallasVentanas : public QObject {
     void UnTramoSinCabidaParaSusEstacionesAvisaEnCadaVista() {
         ProgramaPrueba p;
         Ejecutar(p, "UPDATE Tramos SET LT=99999999 WHERE NombreViga=? AND Tramo=1");
-        auto ventana = Abrir(p);
+        auto ventana = VentanaProyecto(p, Ejemplo);
         QCOMPARE(p.programa.Viga.LT(1), 99999999.0);
         // The diagrams and the design sheet walk too many stations; the elevation under every
         // view has a scale of zero pixels a metre.
@@ -84,7 +75,7 @@ class FallasVentanas : public QObject {
         for (const auto& [sql, numero] : danos) {
             ProgramaPrueba p;
             Ejecutar(p, sql);
-            auto ventana = Abrir(p);
+            auto ventana = VentanaProyecto(p, Ejemplo);
             // The window reads the beam as it opens and again as it takes its size: the same
             // message each time, and nothing else.
             const Pregunta esperada{"Hay un Error en los Datos de la Viga: " + Primera + "...    ",

@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
