@@ -223,7 +223,7 @@ void ConfigurarPrograma::ColoqueTapiz() {
 }
 
 void ConfigurarPrograma::ConfiguraToolTip() {
-    for (const int puntos : {6, 7, 8, 9, 10, 11, 12, 14}) combo1_->addItem(QString::number(puntos));
+    for (int i = 0; i <= 7; ++i) combo1_->addItem(QString::number(PuntosLetraTip(i)));
     const ConfiguracionTapiz& t = programa_.Tapiz;
     combo1_->setCurrentIndex(t.TipLetra <= 7 ? t.TipLetra : IndiceLetraDefecto);
     PonerColor(fondo_, t.TipFondo);
@@ -233,15 +233,10 @@ void ConfigurarPrograma::ConfiguraToolTip() {
 }
 
 void ConfigurarPrograma::AbrirToolTipC() {
-    EstiloToolTip estilo;
-    estilo.Centrado = check3_->isChecked();
-    estilo.Estilo = check4_->isChecked() ? 0 : 1;
-    estilo.Puntos = PuntosLetraTip(combo1_->currentIndex());
-    estilo.Fondo = ColorDe(fondo_);
-    estilo.Texto = ColorDe(texto_);
+    const ConfiguracionTapiz valores = Valores();
     // The size is the program's from now on, for this run, even if the dialog is cancelled.
-    programa_.Tapiz.TipLetra = static_cast<std::uint8_t>(combo1_->currentIndex());
-    toolTip_->Estilo(estilo);
+    programa_.Tapiz.TipLetra = valores.TipLetra;
+    toolTip_->Estilo(EstiloDe(valores));
 }
 
 void ConfigurarPrograma::PonerImagen(const QPixmap& imagen) {

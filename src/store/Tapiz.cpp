@@ -128,6 +128,10 @@ int PuntosLetraTip(int indice) {
 EstiloToolTip ConfigurarToolTip(ConfiguracionTapiz& tapiz) {
     if (tapiz.TipLetra < 1 || tapiz.TipLetra > 7) tapiz.TipLetra = 4;
     if (tapiz.TipFondo == 0) tapiz.TipFondo = TipFondoDefecto;
+    return EstiloDe(tapiz);
+}
+
+EstiloToolTip EstiloDe(const ConfiguracionTapiz& tapiz) {
     EstiloToolTip estilo;
     estilo.Centrado = tapiz.TipCentrado != 0;
     estilo.Estilo = tapiz.TipTradicional == 0 ? 1 : 0;

@@ -90,6 +90,9 @@ struct EstiloToolTip {
 // Font size of a TipLetra index 0..7: 6, 7, 8, 9, 10, 11, 12, 14 points.
 int PuntosLetraTip(int indice);
 
+// The look of the tool tips of the settings as they stand, ranges not applied.
+EstiloToolTip EstiloDe(const ConfiguracionTapiz& tapiz);
+
 // Applies the tool tip ranges again to `tapiz` (TipLetra outside 1..7 becomes 4, so a
 // stored 0 shows as 10 points, kept: users know it; TipFondo 0 becomes 0xD6F4FF) and gives
 // the look to apply.
