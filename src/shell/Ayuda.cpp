@@ -97,11 +97,18 @@ VentanaAyuda* AbrirAyuda(Programa& programa, const QString& tema, QWidget* frent
              "Temas de Ayuda", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1});
         return nullptr;
     }
-    if (ayudaAbierta) ayudaAbierta->close();
-    ayudaAbierta = new VentanaAyuda(
-        archivo, Qs(programa.Carpetas.RutaBase + "/Trabajo/AyudaTrevalo.qhc"), frente);
+    // The window open over the same window only changes its topic; over another one (a
+    // modal dialog in front) it is made again, as that window's child, so it takes input.
+    if (ayudaAbierta && ayudaAbierta->parentWidget() != frente) {
+        ayudaAbierta->close();
+        ayudaAbierta = nullptr;
+    }
+    if (!ayudaAbierta)
+        ayudaAbierta = new VentanaAyuda(
+            archivo, Qs(programa.Carpetas.RutaBase + "/Trabajo/AyudaTrevalo.qhc"), frente);
     ayudaAbierta->MostrarTema(tema);
     ayudaAbierta->show();
+    ayudaAbierta->raise();
     return ayudaAbierta;
 }
 
