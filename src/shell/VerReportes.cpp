@@ -12,10 +12,12 @@
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <string_view>
 
 #include "output/EscritoresInforme.h"
 #include "output/PaginaInforme.h"
 #include "shell/CristalReport.h"
+#include "shell/Ordenes.h"
 
 namespace trevalo {
 
@@ -61,19 +63,13 @@ class HojaInforme : public QWidget {
 namespace {
 
 // The buttons of the viewer: object name, caption, tip.
-struct BotonVisor {
-    const char* nombre;
-    const char* titulo;
-    const char* tip;
-};
-
-const BotonVisor BotonesVisor[] = {
-    {"LSButton3", " Exportar", "Exportar el Informe a varios formatos"},
-    {"LSButton4", " Imprimir", "Imprimir el informe en la impresora seleccionada"},
-    {"VistaPreliminar", " Vista Preliminar", "Ver las páginas tal como saldrán impresas"},
-    {"LSButton5", " Cerrar la Vista Actual", ""},
-    {"SSCommand2", " Explorador de Windows", ""},
-    {"LSButton2", " Retorno", ""},
+const Orden BotonesVisor[] = {
+    {"LSButton3", " Exportar", "", "Exportar el Informe a varios formatos"},
+    {"LSButton4", " Imprimir", "", "Imprimir el informe en la impresora seleccionada"},
+    {"VistaPreliminar", " Vista Preliminar", "", "Ver las páginas tal como saldrán impresas"},
+    {"LSButton5", " Cerrar la Vista Actual", "", ""},
+    {"SSCommand2", " Explorador de Windows", "", ""},
+    {"LSButton2", " Retorno", "", ""},
 };
 
 const int Zooms[] = {50, 75, 100, 125, 150, 200};
@@ -166,15 +162,9 @@ QWidget* VerReportes::CrearBotones() {
     panel->setObjectName(QStringLiteral("LSPanel1"));
     auto* capas = new QVBoxLayout(panel);
     capas->setContentsMargins(0, 0, 0, 0);
-    for (const BotonVisor& b : BotonesVisor) {
-        const QString nombre = QString::fromUtf8(b.nombre);
-        auto* boton = new QPushButton(QString::fromUtf8(b.titulo), panel);
-        boton->setObjectName(nombre);
-        boton->setToolTip(QString::fromUtf8(b.tip));
-        boton->setAutoDefault(false);
-        if (nombre == QStringLiteral("LSButton2")) capas->addStretch(1);
-        capas->addWidget(boton);
-        botones_[nombre] = boton;
+    for (const Orden& orden : BotonesVisor) {
+        if (std::string_view(orden.nombre) == "LSButton2") capas->addStretch(1); // at the foot
+        capas->addWidget(CrearBoton(*panel, orden));
     }
     connect(Boton(QStringLiteral("LSButton3")), &QPushButton::clicked, this, [this] {
         AsistenteExportacion(programa_, contenido_);
@@ -191,8 +181,7 @@ QWidget* VerReportes::CrearBotones() {
 }
 
 QPushButton* VerReportes::Boton(const QString& nombre) const {
-    const auto i = botones_.find(nombre);
-    return i == botones_.end() ? nullptr : i->second;
+    return findChild<QPushButton*>(nombre);
 }
 
 int VerReportes::Pagina() const {

@@ -6,7 +6,6 @@
 
 #include <QDialog>
 #include <QPrinter>
-#include <map>
 
 #include "output/ContenidoInforme.h"
 #include "shell/Programa.h"
@@ -55,7 +54,6 @@ class VerReportes : public QDialog {
     QSpinBox* pagina_;
     QLabel* total_;
     QComboBox* zoom_;
-    std::map<QString, QPushButton*> botones_;
 };
 
 } // namespace trevalo
