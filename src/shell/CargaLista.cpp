@@ -61,6 +61,16 @@ void CargaLista::ConfigurarSpread() {
         const bool carga = EsCarga(forma_.columnas[static_cast<std::size_t>(c - 1)]);
         FormatoCeldas(*spread1_, c, -1, c, -1, carga ? 0 : 2, carga);
     }
+    // A load keeps the number typed rounded to the nearest integer, ties to even (2.5 gives 2),
+    // and not the half-up rounding the cell shows for a typed decimal.
+    Delegado(*spread1_).ColocarRegla([this](const Celda& celda) {
+        if (!celda.Numero || !EsCarga(forma_.columnas[static_cast<std::size_t>(celda.Columna - 1)]))
+            return trevalo::Aceptar();
+        const auto& carpetas = programa_.Carpetas;
+        const auto tecleado =
+            LeerNumero(celda.Texto, carpetas.SeparadorDecimal, carpetas.SeparadorMiles);
+        return trevalo::Aceptar(static_cast<double>(CI(tecleado.value_or(*celda.Numero))));
+    });
     // A block pasted beyond the last row adds rows up to the limit of the kind.
     Delegado(*spread1_).ColocarCrecimiento([this](int filas) {
         const int nuevas = static_cast<int>(std::min<long>(filas, forma_.limite));
@@ -130,11 +140,9 @@ void CargaLista::AvisoLimite() {
 std::vector<std::vector<double>> CargaLista::Tomadas() const {
     std::vector<std::vector<double>> filas(static_cast<std::size_t>(n_));
     for (int r = 1; r <= n_; ++r)
-        for (std::size_t c = 0; c < forma_.columnas.size(); ++c) {
-            const double v = ValorCelda(*spread1_, r, static_cast<int>(c) + 1);
+        for (std::size_t c = 0; c < forma_.columnas.size(); ++c)
             filas[static_cast<std::size_t>(r - 1)].push_back(
-                EsCarga(forma_.columnas[c]) ? static_cast<double>(CI(v)) : v);
-        }
+                ValorCelda(*spread1_, r, static_cast<int>(c) + 1));
     return filas;
 }
 

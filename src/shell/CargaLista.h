@@ -4,8 +4,9 @@
 // the list of the last marked span is shown. Return in Long1 applies the count and warns
 // when it passes the limit of the kind (the field then shows the limit while the rows keep
 // the count typed until the field is changed again); leaving Long1 applies it unchecked.
-// The trapezoids check the limit on acceptance instead. On acceptance the count and the rows
-// are written to every marked span, loads rounded to the nearest integer, ties to even.
+// The trapezoids check the limit on acceptance instead. A load typed with decimals is kept
+// rounded to the nearest integer, ties to even (2.5 gives 2). On acceptance the count and the
+// rows are written to every marked span.
 // Positions are not compared with the span's length.
 
 #include <QString>
