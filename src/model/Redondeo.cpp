@@ -10,9 +10,13 @@
 
 namespace trevalo {
 
+double RedondeoPar(double valor) {
+    return std::nearbyint(valor); // the default rounding mode: to nearest, ties to even
+}
+
 long CI(double valor) {
     if (!std::isfinite(valor)) throw ErrorTrevalo::Desbordamiento();
-    const double r = std::nearbyint(valor);
+    const double r = RedondeoPar(valor);
     if (r < std::numeric_limits<int>::min() || r > std::numeric_limits<int>::max())
         throw ErrorTrevalo::Desbordamiento();
     return static_cast<long>(r);

@@ -5,8 +5,13 @@
 
 namespace trevalo {
 
-// CI: a double becomes an integer to the nearest, ties to the even integer (2.5 -> 2,
-// 3.5 -> 4). Raises error 6 (overflow) beyond the 32-bit range or for a non-finite value.
+// A double to the nearest whole number, ties to the even one (2.5 -> 2, 3.5 -> 4, -2.5 -> -2),
+// kept as a double: the rounding of CI without its range, for whole-number cells whose
+// values pass 32 bits.
+double RedondeoPar(double valor);
+
+// CI: a double becomes an integer to the nearest, ties to the even integer (RedondeoPar).
+// Raises error 6 (overflow) beyond the 32-bit range or for a non-finite value.
 long CI(double valor);
 
 // RoundKorvel: the value rounded to the given number of decimals, half away from zero, on

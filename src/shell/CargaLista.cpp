@@ -61,15 +61,12 @@ void CargaLista::ConfigurarSpread() {
         const bool carga = EsCarga(forma_.columnas[static_cast<std::size_t>(c - 1)]);
         FormatoCeldas(*spread1_, c, -1, c, -1, carga ? 0 : 2, carga);
     }
-    // A load keeps the number typed rounded to the nearest integer, ties to even (2.5 gives 2),
-    // and not the half-up rounding the cell shows for a typed decimal.
+    // A load is a 32-bit integer (the cell has already rounded it, ties to even): one the
+    // model cannot hold raises error 6, and the cell keeps its old value.
     Delegado(*spread1_).ColocarRegla([this](const Celda& celda) {
-        if (!celda.Numero || !EsCarga(forma_.columnas[static_cast<std::size_t>(celda.Columna - 1)]))
-            return trevalo::Aceptar();
-        const auto& carpetas = programa_.Carpetas;
-        const auto tecleado =
-            LeerNumero(celda.Texto, carpetas.SeparadorDecimal, carpetas.SeparadorMiles);
-        return trevalo::Aceptar(static_cast<double>(CI(tecleado.value_or(*celda.Numero))));
+        if (celda.Numero && EsCarga(forma_.columnas[static_cast<std::size_t>(celda.Columna - 1)]))
+            CI(*celda.Numero);
+        return trevalo::Aceptar();
     });
     // A block pasted beyond the last row adds rows up to the limit of the kind.
     Delegado(*spread1_).ColocarCrecimiento([this](int filas) {

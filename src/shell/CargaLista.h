@@ -5,8 +5,9 @@
 // when it passes the limit of the kind (the field then shows the limit while the rows keep
 // the count typed until the field is changed again); leaving Long1 applies it unchecked.
 // The trapezoids check the limit on acceptance instead. A load typed with decimals is kept
-// rounded to the nearest integer, ties to even (2.5 gives 2). On acceptance the count and the
-// rows are written to every marked span.
+// rounded to the nearest integer, ties to even (2.5 gives 2); one of 2,147,483,648 or more
+// is refused with error 6. On acceptance the count and the rows are written to every marked
+// span.
 // Positions are not compared with the span's length.
 
 #include <QString>

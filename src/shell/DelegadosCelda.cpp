@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cassert>
 #include <vector>
@@ -92,6 +93,9 @@ std::optional<DelegadoNumero::FormatoCelda> DelegadoNumero::FormatoDe(int fila, 
 QString DelegadoNumero::Texto(int fila, int columna, double valor) const {
     const auto formato = FormatoDe(fila, columna);
     const int decimales = formato ? formato->Decimales : 2;
+    // A whole-number cell rounds as the model does, ties to even (2.5 shows and keeps 2);
+    // the mask alone would round half away from zero.
+    if (decimales == 0) valor = RedondeoPar(valor);
     if (valor == 0.0) valor = 0.0; // no "-0"
     const auto& carpetas = programa_.Carpetas;
     return Qs(trevalo::Formato(valor, Mascara(decimales), carpetas.SeparadorDecimal,
@@ -128,7 +132,14 @@ Veredicto DelegadoNumero::Entrar(int fila, int columna, const QString& texto) {
         if (!celda.Numero) return Rechazar();
     }
     if (formato && celda.Texto.isEmpty() && !regla_) return Rechazar();
-    Veredicto veredicto = regla_ ? regla_(celda) : Aceptar();
+    Veredicto veredicto = Aceptar();
+    try {
+        if (regla_) veredicto = regla_(celda);
+    } catch (const ErrorTrevalo& e) {
+        // A value the model cannot hold (error 6 on a load past 32 bits): told, and the
+        // cell keeps its old value.
+        return Rechazar(MensajeFalla(e));
+    }
     if (!veredicto.Aceptado) return veredicto;
     if (formato)
         ColocarValor(fila, columna, veredicto.Valor.value_or(celda.Numero.value_or(0.0)));
@@ -144,10 +155,9 @@ void DelegadoNumero::Mostrar(const Veredicto& veredicto) {
 
 bool DelegadoNumero::Aplicar(int fila, int columna, const QString& texto) {
     if (ocupado_) return false; // a message box took the focus from the editor
-    ocupado_ = true;
+    const QScopedValueRollback<bool> ocupado(ocupado_, true);
     const Veredicto veredicto = Entrar(fila, columna, texto);
     Mostrar(veredicto);
-    ocupado_ = false;
     return veredicto.Aceptado;
 }
 
@@ -160,12 +170,11 @@ void DelegadoNumero::Lote::Sumar(const Veredicto& v) {
 
 int DelegadoNumero::EnLote(const std::function<void(Lote&)>& entradas) {
     if (ocupado_) return 0;
-    ocupado_ = true;
+    const QScopedValueRollback<bool> ocupado(ocupado_, true);
     Lote lote;
     entradas(lote);
     for (const Pregunta& aviso : lote.avisos) programa_.Dialogo().Mensaje(aviso);
     if (lote.pitido) emit Pito();
-    ocupado_ = false;
     return lote.tomadas;
 }
 
@@ -321,6 +330,18 @@ std::optional<double> LeerNumero(const QString& texto, char decimal, char miles)
         !limpio.contains(QRegularExpression(QStringLiteral("[0-9]"))))
         return std::nullopt;
     return NumeroDeTexto(Std(limpio), decimal, miles);
+}
+
+void TerminarEdicion(QWidget& ventana) {
+    for (QAbstractItemView* grid : ventana.findChildren<QAbstractItemView*>()) {
+        // The editor open on the current cell, if any (no grid here holds index widgets).
+        const QModelIndex celda = grid->currentIndex();
+        QWidget* editor = grid->indexWidget(celda);
+        QAbstractItemDelegate* delegado = grid->itemDelegateForIndex(celda);
+        if (!editor || !delegado) continue;
+        emit delegado->commitData(editor);
+        emit delegado->closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
 }
 
 DelegadoNumero& Delegado(QTableWidget& grid) {

@@ -13,10 +13,13 @@
 //      minimum ("-99999999.99" with sign, "0.00" without) or above "9999999999.99", beeps
 //      and the old value is put back;
 //   2. the form's rule (ColocarRegla) sees the cell and the number as the cell will show it
-//   (nothing for an empty
-//      text; an empty text with no rule is refused like a bad one) and answers with a
-//      Veredicto: the value the cell keeps, or a refusal that puts the old value back, and
-//      the message or beep to give. The rule writes the model; the delegate shows the message.
+//      (nothing for an empty text; an empty text with no rule is refused like a bad one) and
+//      answers with a Veredicto: the value the cell keeps, or a refusal that puts the old
+//      value back, and the message or beep to give. The rule writes the model; the delegate
+//      shows the message. A rule that raises the program's error (a value the model cannot
+//      hold) is a refusal with that error's message; the grid goes on taking entries.
+// A whole-number cell (no decimals) rounds typed, pasted and block values alike to the
+// nearest, ties to even, as the model rounds (2.5 keeps 2).
 // A column with no numeric format is a text column: its trimmed text goes to the rule with no
 // number, and is kept when accepted.
 //
@@ -162,6 +165,10 @@ class DelegadoMarca : public QStyledItemDelegate {
 // A number as the user types it with the machine's separators (sign, thousands, decimals);
 // nothing for any other text.
 std::optional<double> LeerNumero(const QString& texto, char decimal, char miles);
+
+// Commits the cell being typed in any grid of `ventana`, as leaving the cell would: every way
+// out of a window calls it before it asks about changes.
+void TerminarEdicion(QWidget& ventana);
 
 // The grid's numeric delegate; the form makes it first (a programmer's mistake otherwise).
 DelegadoNumero& Delegado(QTableWidget& grid);

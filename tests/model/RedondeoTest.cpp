@@ -12,6 +12,9 @@ TEST(Redondeo, CIEmpataAlPar) {
     EXPECT_EQ(CI(4.5000001), 5);
     EXPECT_EQ(CI(-0.4), 0);
     EXPECT_TREVALO_ERROR(CI(1e12), 6, "Desbordamiento");
+    // The same rounding without the range, for cells beyond 32 bits.
+    EXPECT_EQ(RedondeoPar(2500000000.5), 2500000000.0);
+    EXPECT_EQ(RedondeoPar(2500000001.5), 2500000002.0);
     EXPECT_TREVALO_ERROR(CI(std::numeric_limits<double>::quiet_NaN()), 6, "Desbordamiento");
 }
 

@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 
 #include "VentanasPrueba.h"
+#include "model/Redondeo.h"
 #include "shell/DelegadosCelda.h"
 
 using namespace trevalo;
@@ -64,7 +65,9 @@ class DelegadosCelda : public QObject {
         QTest::newRow("texto") << 1 << "abc" << false << 7.0 << "7.00";
         QTest::newRow("vacio sin regla") << 1 << "" << false << 7.0 << "7.00";
         QTest::newRow("solo signo") << 2 << "-" << false << 7.0 << "7";
-        QTest::newRow("negativo con signo") << 2 << "-2.5" << true << -3.0 << "-3";
+        QTest::newRow("entero empata al par") << 2 << "2.5" << true << 2.0 << "2";
+        QTest::newRow("entero impar empata al par") << 2 << "3.5" << true << 4.0 << "4";
+        QTest::newRow("negativo con signo") << 2 << "-2.5" << true << -2.0 << "-2";
         QTest::newRow("minimo con signo")
             << 2 << "-99999999.99" << true << -100000000.0 << "-100000000";
         QTest::newRow("bajo el minimo") << 2 << "-100000000" << false << 7.0 << "7";
@@ -96,16 +99,20 @@ class DelegadosCelda : public QObject {
     }
 
     // The form's rule sees the number (nothing for an empty cell), may change what the cell
-    // keeps, or refuse with its message; a text column keeps the trimmed text.
+    // keeps, or refuse with its message; a rule raising the program's error refuses with
+    // that error's message and the grid goes on; a text column keeps the trimmed text.
     void reglaDelFormulario() {
         std::vector<Celda> vistas;
         delegado->ColocarRegla([&](const Celda& c) {
             vistas.push_back(c);
+            if (c.Numero && *c.Numero > 1e9) CI(*c.Numero);
             if (!c.Numero && c.Columna != 3) return Aceptar(0.0);
             if (c.Numero && *c.Numero > 100) return Rechazar(Mayor);
             if (c.Numero && *c.Numero == 50) return Aceptar(5.0);
             return Aceptar();
         });
+        QVERIFY(!delegado->Aplicar(1, 1, QStringLiteral("2147483648")));
+        QCOMPARE(ValorCelda(*grid, 1, 1), 7.0);
         QVERIFY(!delegado->Aplicar(1, 1, QStringLiteral("101")));
         QCOMPARE(ValorCelda(*grid, 1, 1), 7.0);
         QVERIFY(delegado->Aplicar(2, 1, QStringLiteral("50")));
@@ -114,10 +121,11 @@ class DelegadosCelda : public QObject {
         QCOMPARE(ValorCelda(*grid, 3, 1), 0.0);
         QVERIFY(delegado->Aplicar(1, 3, QStringLiteral("  Eje A ")));
         QCOMPARE(grid->item(0, 2)->text(), QStringLiteral("Eje A"));
-        QCOMPARE(p->dialogos->preguntas, std::vector<Pregunta>{Mayor});
-        QCOMPARE(vistas.size(), std::size_t(4));
-        QVERIFY(!vistas[2].Numero.has_value());
-        QCOMPARE(vistas[3].Texto, QStringLiteral("Eje A"));
+        QCOMPARE(p->dialogos->preguntas,
+                 (std::vector<Pregunta>{MensajeFalla(ErrorTrevalo::Desbordamiento()), Mayor}));
+        QCOMPARE(vistas.size(), std::size_t(5));
+        QVERIFY(!vistas[3].Numero.has_value());
+        QCOMPARE(vistas[4].Texto, QStringLiteral("Eje A"));
     }
 
     // A block pasted from the second row: the grid grows as the form allows (to 4 rows), the
