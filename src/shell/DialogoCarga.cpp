@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "shell/DelegadosCelda.h"
 #include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
 
@@ -87,6 +88,7 @@ void DialogoCarga::keyPressEvent(QKeyEvent* evento) {
 }
 
 void DialogoCarga::Aceptar() {
+    TerminarEdicion(*this); // a cell being typed is part of the load
     try {
         Aplicar();
     } catch (const ErrorTrevalo& e) {

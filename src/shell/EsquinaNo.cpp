@@ -6,15 +6,17 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QTableView>
+#include <algorithm>
+#include <utility>
 
 namespace trevalo {
 
 namespace {
 
-// Paints the corner button as it is, then "No" over it.
+// Paints the corner button as it is, then the caption over it.
 class PintorNo : public QObject {
   public:
-    using QObject::QObject;
+    PintorNo(QObject* padre, QString rotulo) : QObject(padre), rotulo_(std::move(rotulo)) {}
 
   protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override {
@@ -24,17 +26,24 @@ class PintorNo : public QObject {
         QApplication::sendEvent(esquina, evento);
         esquina->installEventFilter(this);
         QPainter p(esquina);
-        p.drawText(esquina->rect(), Qt::AlignCenter, QStringLiteral("No"));
+        p.drawText(esquina->rect(), Qt::AlignCenter, rotulo_);
         return true;
     }
+
+  private:
+    QString rotulo_;
 };
 
 } // namespace
 
-void EsquinaNo(QTableView& grid) {
-    grid.verticalHeader()->setMinimumWidth(28);
-    if (auto* esquina = grid.findChild<QAbstractButton*>())
-        esquina->installEventFilter(new PintorNo(&grid));
+void EsquinaNo(QTableView& grid, const QString& rotulo) {
+    const QFontMetrics medida(grid.verticalHeader()->font());
+    grid.verticalHeader()->setMinimumWidth(
+        std::max(28, medida.horizontalAdvance(rotulo) + 2 * medida.averageCharWidth()));
+    if (auto* esquina = grid.findChild<QAbstractButton*>()) {
+        esquina->setAccessibleName(rotulo);
+        esquina->installEventFilter(new PintorNo(&grid, rotulo));
+    }
 }
 
 } // namespace trevalo

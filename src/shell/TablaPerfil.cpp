@@ -448,6 +448,9 @@ bool TablaPerfil::Salvar() {
 }
 
 void TablaPerfil::reject() {
+    // The cell and the count being typed are entered before the question.
+    TerminarEdicion(*this);
+    AplicarTotal();
     if (tablaCambiada_) {
         const int respuesta = programa_.Dialogo().Mensaje(
             {"Desea Salvar las Modificaciones?      ", "Tabla de Perfiles",

@@ -6,12 +6,12 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QIntValidator>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 #include <QScreen>
 #include <QShortcut>
 #include <QTabBar>
@@ -21,6 +21,7 @@
 #include <QVBoxLayout>
 
 #include "drawing/OperacionesVista.h"
+#include "model/Conversiones.h"
 #include "model/Redondeo.h"
 #include "shell/CampoNumero.h"
 #include "shell/Carga01.h"
@@ -31,6 +32,7 @@
 #include "shell/Carga06.h"
 #include "shell/Carga07.h"
 #include "shell/Carga08.h"
+#include "shell/EsquinaNo.h"
 #include "shell/Iconos.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
@@ -61,6 +63,13 @@ template <typename... A> void Preservar(long n, A&... a) {
 
 // The grid that a count box sizes, and the grid its Return leads to.
 constexpr int GridDeLong[8] = {0, 2, 3, 4, 5, 6, 8, 11};
+
+constexpr long MaximoTramos = 1000; // Long1 takes 1 to 1000 spans
+
+// The caption over the row headers of the grids that have one.
+const std::pair<int, const char*> Esquinas[] = {{1, "No"},     {2, "Tramo"}, {6, "Tipo"},
+                                                {7, "Tramo"},  {8, "Tipo"},  {9, "Tramo"},
+                                                {10, "Tramo"}, {12, "Junta"}};
 
 const Herramienta Herramientas[] = {
     {"ID_ZoomIN", "Acercar", false},
@@ -159,11 +168,8 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
 
     connect(pantalla_, &PantallaViga::Redimensionado, this, &VigaDatos::Redibujar);
     connect(pantalla_, &PantallaViga::BandaSoltada, this, &VigaDatos::BandaSoltada);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] {
-        // What is being typed in a cell or a box is entered first, as leaving it would.
-        if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
-        Salvar();
-    });
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
+            &VigaDatos::Salvar);
 
     // The load of the window.
     ConfigurarToolTips();
@@ -245,11 +251,14 @@ QTableWidget* VigaDatos::CrearSpread(int n, const QString& nombre, const QString
     return grid;
 }
 
-QLineEdit* VigaDatos::CrearLong(int n, const QString& titulo, int maximo) {
+QLineEdit* VigaDatos::CrearLong(int n, const QString& titulo) {
     auto* campo = new QLineEdit(this);
     campo->setObjectName(QStringLiteral("Long%1").arg(n));
     campo->setAccessibleName(titulo.trimmed());
-    campo->setValidator(new QIntValidator(0, maximo, campo));
+    // Digits only: a count is never negative. Its limits are the box's rule (ValorLong), the
+    // same on Return and on leaving.
+    campo->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,5}")), campo));
     campo->setAlignment(Qt::AlignRight);
     campo->setMaximumWidth(90);
     connect(campo, &QLineEdit::textEdited, this, [this, n] {
@@ -292,7 +301,7 @@ QWidget* VigaDatos::PaginaTramos() {
     capas->addWidget(option1_);
     capas->addWidget(option2_);
     capas->addLayout(Rotulado(QStringLiteral("Número de Tramos = "),
-                              CrearLong(1, QStringLiteral("Número de Tramos = "), 1000)));
+                              CrearLong(1, QStringLiteral("Número de Tramos = "))));
     auto* grids = new QHBoxLayout;
     grids->addWidget(
         CrearSpread(1, QStringLiteral("Nombres de los Ejes"), {QStringLiteral("Nombre Eje")}));
@@ -305,7 +314,7 @@ QWidget* VigaDatos::PaginaTramos() {
 QWidget* VigaDatos::PaginaDesplazadas() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas Desplazadas = "),
-                              CrearLong(2, QStringLiteral("Juntas Desplazadas = "), 32767)));
+                              CrearLong(2, QStringLiteral("Juntas Desplazadas = "))));
     capas->addWidget(CrearSpread(3, QStringLiteral("Juntas Desplazadas"),
                                  {QStringLiteral("Junta"), QStringLiteral("Delta X"),
                                   QStringLiteral("Delta Y")}),
@@ -316,7 +325,7 @@ QWidget* VigaDatos::PaginaDesplazadas() {
 QWidget* VigaDatos::PaginaRestringidas() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas Restringidas = "),
-                              CrearLong(3, QStringLiteral("Juntas Restringidas = "), 32767)));
+                              CrearLong(3, QStringLiteral("Juntas Restringidas = "))));
     auto* fila = new QHBoxLayout;
     fila->addWidget(CrearSpread(4, QStringLiteral("Juntas Restringidas"),
                                 {QStringLiteral("Junta"), QStringLiteral("Apoyo\nTipo")}),
@@ -339,7 +348,7 @@ QWidget* VigaDatos::PaginaRestringidas() {
 QWidget* VigaDatos::PaginaResortes() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas con Resortes = "),
-                              CrearLong(4, QStringLiteral("Juntas con Resortes = "), 32767)));
+                              CrearLong(4, QStringLiteral("Juntas con Resortes = "))));
     capas->addWidget(
         CrearSpread(5, QStringLiteral("Juntas con Resortes"),
                     {QStringLiteral("Junta"), QStringLiteral("Rdx\n(kgf/m)"),
@@ -351,7 +360,7 @@ QWidget* VigaDatos::PaginaResortes() {
 QWidget* VigaDatos::PaginaTiposConcreto() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Tipos de Vigas = "),
-                              CrearLong(5, QStringLiteral("Tipos de Vigas = "), 32767)));
+                              CrearLong(5, QStringLiteral("Tipos de Vigas = "))));
     capas->addWidget(CrearSpread(6, QStringLiteral("Tipos de Vigas de Concreto"),
                                  {QStringLiteral("B (m)"), QStringLiteral("H (m)")}),
                      1);
@@ -365,7 +374,7 @@ QWidget* VigaDatos::PaginaTiposConcreto() {
 QWidget* VigaDatos::PaginaTiposMetalicos() {
     auto* capas = new QVBoxLayout;
     auto* cuenta = Rotulado(QStringLiteral("Tipos de Vigas = "),
-                            CrearLong(6, QStringLiteral("Tipos de Vigas (Perfiles) = "), 32767));
+                            CrearLong(6, QStringLiteral("Tipos de Vigas (Perfiles) = ")));
     QPushButton* perfiles = CrearBoton("LSButton5", " Perfiles Metálicos ");
     connect(perfiles, &QPushButton::clicked, this, &VigaDatos::PerfilesMetalicos);
     cuenta->addWidget(perfiles);
@@ -426,9 +435,8 @@ QWidget* VigaDatos::PaginaCargas() {
 
 QWidget* VigaDatos::PaginaAcciones() {
     auto* capas = new QVBoxLayout;
-    capas->addLayout(
-        Rotulado(QStringLiteral("Juntas con Acciones Nodales = "),
-                 CrearLong(7, QStringLiteral("Juntas con Acciones Nodales = "), 32767)));
+    capas->addLayout(Rotulado(QStringLiteral("Juntas con Acciones Nodales = "),
+                              CrearLong(7, QStringLiteral("Juntas con Acciones Nodales = "))));
     capas->addWidget(
         CrearSpread(11, QStringLiteral("Acciones Nodales"),
                     {QStringLiteral("Junta"), QStringLiteral("Momento\n(kgf-m)"),
@@ -543,6 +551,7 @@ void VigaDatos::ConfigurarSpread() {
     formato(12, 1, 3, 2, false);
     for (int n : {3, 4, 5, 11}) Delegado(Spread(n)).Centrar(1);
     for (int n : {4, 7, 9}) Delegado(Spread(n)).Centrar(n == 4 ? 2 : 1);
+    for (const auto& [n, rotulo] : Esquinas) EsquinaNo(Spread(n), QString::fromUtf8(rotulo));
     Spread(10).setEditTriggers(QAbstractItemView::NoEditTriggers);
     // A paste grows the lists that have a count box, within its limits.
     for (int caja = 2; caja <= 7; ++caja)
@@ -756,8 +765,6 @@ void VigaDatos::Anterior() {
 // --- Count boxes ---------------------------------------------------------------------------
 
 void VigaDatos::TerminarLong(int n, bool retorno) {
-    // The box of steel types acts on Return alone.
-    if (n == 6 && !retorno) return;
     if (cambiando_ == 1) ValorLong(n);
     if (retorno) Spread(GridDeLong[n]).setFocus();
 }
@@ -767,8 +774,6 @@ void VigaDatos::ValorLong(int n) {
     VigaActual& v = programa_.Viga;
     const long valor = Long(n).text().toLong();
     if (n == 1) return ValorLong1(valor);
-    if (n == 5) return ValorLong5(valor);
-    if (n == 6) return ValorLong6(valor);
     const std::string tope = std::to_string(v.NT + 1) + "    ";
     const std::map<int, Pregunta> avisos = {
         {2, Aviso("El Número de Juntas Desplazadas no puede ser mayor que " + tope,
@@ -777,11 +782,19 @@ void VigaDatos::ValorLong(int n) {
         {4, Aviso("El Número de Juntas ser mayor que " + tope, "Juntas con Resortes")},
         {7,
          Aviso("El Número de la Junta no puede ser mayor que " + tope + "\n", "Acciones Nodales")}};
-    if (valor > v.NT + 1) {
+    if (avisos.count(n) && valor > v.NT + 1) {
         programa_.Dialogo().Mensaje(avisos.at(n));
         return MostrarCuenta(n);
     }
-    const auto cuenta = static_cast<std::int16_t>(valor);
+    std::int16_t cuenta = 0;
+    try {
+        cuenta = Entero<std::int16_t>(valor);
+    } catch (const ErrorTrevalo& e) { // a count the model cannot hold: error 6, never a wrap
+        programa_.Dialogo().Mensaje(MensajeFalla(e));
+        return MostrarCuenta(n);
+    }
+    if (n == 5) return ValorLong5(cuenta);
+    if (n == 6) return ValorLong6(cuenta);
     switch (n) {
     case 2:
         v.NJDesp = cuenta;
@@ -808,7 +821,7 @@ void VigaDatos::ValorLong(int n) {
 
 void VigaDatos::ValorLong1(long valor) {
     VigaActual& v = programa_.Viga;
-    if (valor > 0) {
+    if (valor > 0 && valor <= MaximoTramos) {
         v.NT = static_cast<std::int16_t>(valor);
         RedimensionarViga(v);
         for (long i = 1; i <= v.NT; ++i)
@@ -1036,8 +1049,9 @@ void VigaDatos::MarcarBloque(int fila1, int fila2) {
 
 void VigaDatos::ColocarApoyo(int tipo) {
     QTableWidget& g = Spread(4);
-    const int fila = g.currentRow() + 1;
-    if (fila < 1) return g.setFocus();
+    // With no current cell yet (the page just reached), the first row is the active one.
+    const int fila = std::max(g.currentRow(), 0) + 1;
+    if (fila > g.rowCount()) return g.setFocus();
     programa_.Viga.Apoyo(fila) = static_cast<std::int16_t>(tipo);
     Delegado(g).ColocarValor(fila, 2, tipo);
     if (fila < g.rowCount()) g.setCurrentCell(fila, 1);
@@ -1163,12 +1177,12 @@ void VigaDatos::PerfilesMetalicos() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     VigasMetalicas ventana(programa_, this);
     QApplication::restoreOverrideCursor();
-    // A captured section shows in its type's row; like the original, it does not mark the
-    // beam as changed.
+    // A captured section shows in its type's row, and the beam is changed: leaving asks.
     if (ventana.exec() == QDialog::Accepted && ventana.TipoCapturado() > 0) {
         LlenarSpread(8);
         Spread(8).setCurrentCell(static_cast<int>(ventana.TipoCapturado()) - 1, 0);
         Redibujar();
+        Modificar();
     }
     Spread(8).setFocus();
 }
@@ -1213,7 +1227,16 @@ void VigaDatos::Modificar() {
     modificada_ = true;
 }
 
+void VigaDatos::TerminarEntradas() {
+    TerminarEdicion(*this);
+    if (!cambiando_) return;
+    for (int n = 1; n <= 7; ++n)
+        if (focusWidget() == &Long(n)) TerminarLong(n, false);
+    if (focusWidget() == double1_) TerminarFactor(false);
+}
+
 bool VigaDatos::Salvar() {
+    TerminarEntradas();
     auto& estado = programa_.Estado;
     try {
         if (proyecto_ && estado.RsGeneralViga && proyecto_->FilaActiva() > 0)
@@ -1229,6 +1252,7 @@ bool VigaDatos::Salvar() {
 }
 
 bool VigaDatos::PreguntarSalvar(bool conCancelar) {
+    TerminarEntradas();
     if (!modificada_) return true;
     const Pregunta pregunta{"Viga: " + programa_.Viga.NombreVigaActual + "        \n" +
                                 "Desea Salvar las Modificaciones en la Viga?       \n",
@@ -1246,12 +1270,6 @@ bool VigaDatos::PreguntarSalvar(bool conCancelar) {
 }
 
 void VigaDatos::reject() {
-    // A count or the factor being typed counts as entered before the question.
-    if (cambiando_) {
-        for (int n = 1; n <= 7; ++n)
-            if (Long(n).hasFocus()) TerminarLong(n, false);
-        if (double1_->hasFocus()) TerminarFactor(false);
-    }
     if (!PreguntarSalvar(true)) return;
     programa_.Vista.ModoEditor = false;
     QDialog::reject();

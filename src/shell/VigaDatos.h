@@ -78,7 +78,7 @@ class VigaDatos : public QDialog {
     QWidget* CrearHerramientas();
     QWidget* CrearPie();
     QTableWidget* CrearSpread(int n, const QString& nombre, const QStringList& columnas);
-    QLineEdit* CrearLong(int n, const QString& titulo, int maximo);
+    QLineEdit* CrearLong(int n, const QString& titulo);
     QPushButton* CrearBoton(const char* nombre, const char* titulo);
     void ConfigurarSpread();
     void ConfigurarToolTips();
@@ -133,6 +133,10 @@ class VigaDatos : public QDialog {
     void Despachar(const QString& clave);
     void Redibujar();
     void Modificar();
+    // The cell, count or factor being typed, entered as leaving it would: before every save
+    // and every question about leaving the beam.
+    void TerminarEntradas();
+    // True when the beam may be left: unchanged, saved, or its changes dropped.
     bool PreguntarSalvar(bool conCancelar);
     void MoverViga(int indice);
     void Rotulos();

@@ -187,8 +187,10 @@ class CargasTramos : public QObject {
 
     // Partial uniform loads on spans 2 and 4: the fourth's list shows. A count of 12 with
     // Return is warned of, the field shows 10 while the rows keep 12; a count of 3 typed and
-    // left keeps the rows that remain and adds a row of zeros; a load typed in it; accepted
-    // to both spans, spans 1 and 3 as they were.
+    // left keeps the rows that remain and adds a row of zeros; a load past 32 bits is error 6
+    // and the cell keeps its value, then a load typed is taken; a position still being typed
+    // when " Aceptar" is pressed is part of the load; accepted to both spans, spans 1 and 3
+    // as they were.
     void ParcialesConLimite() {
         PonerCargas(viga(), {{4, 3, {{1200, 0.5, 2}, {-300, 3, 5.5}}}, {1, 3, {{99, 1, 2}}}});
         const bool aceptada = Abrir<Carga03>(programa(), {2, 4}, [this](Carga03& d) {
@@ -211,10 +213,15 @@ class CargasTramos : public QObject {
             QTest::keyClick(Control(d, "Long1"), Qt::Key_Tab);
             QCOMPARE(p->dialogos->preguntas.size(), 1u);
             QCOMPARE(Valores(d), (Filas{{1200, 0.5, 2}, {-300, 3, 5.5}, {0, 0, 0}}));
+            EscribirCelda(d, 3, 1, QStringLiteral("2147483648"));
+            QCOMPARE(p->dialogos->preguntas.back(), MensajeFalla(ErrorTrevalo::Desbordamiento()));
+            QCOMPARE(ValorCelda(Lista(d), 3, 1), 0.0);
             EscribirCelda(d, 3, 1, QStringLiteral("750.5")); // a load rounds to even: 750
             QCOMPARE(Lista(d).item(2, 0)->text(), QStringLiteral("750"));
-            EscribirCelda(d, 3, 3, QStringLiteral("6"));
-            Pulsar(d, "LSButton1");
+            Lista(d).setCurrentCell(2, 2);
+            QTest::keyClick(&Lista(d), Qt::Key_F2);
+            QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("6"));
+            Control<QPushButton>(d, "LSButton1")->click(); // the cell's editor still open
         });
         QVERIFY(aceptada);
         for (long t : {2, 4}) {

@@ -289,9 +289,10 @@ class Perfiles : public QObject {
         QCOMPARE(f.Valores, valores);
     }
 
-    // Delete asks with No as default; the last row gone leaves an empty grid. Every way out
-    // then asks to save: Cancel stays, Yes without a description stays on the description,
-    // No leaves the file as it was.
+    // A value still being typed in its cell is a change: the close button asks. Delete asks
+    // with No as default; the last row gone leaves an empty grid. Every way out then asks to
+    // save: Cancel stays, Yes without a description stays on the description, No leaves the
+    // file as it was.
     void EliminarYPreguntaAlCerrar() {
         Tabla(F::SeccionU, "U_E.pfl",
               {"Canales", 2530, {{1, "UPN 100", std::vector<double>(13, 1.0)}}});
@@ -301,6 +302,17 @@ class Perfiles : public QObject {
             QVERIFY(!Teclar(t, 1, 2, QStringLiteral("5")));
             QCOMPARE(Muestra(t, 1, 2), QStringLiteral("1.00"));
             Control<QCheckBox>(t, "Check1")->setChecked(true);
+            t.Grid().setCurrentCell(0, 1);
+            QTest::keyClick(&t.Grid(), Qt::Key_F2);
+            auto* celda = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+            QVERIFY(celda);
+            celda->selectAll();
+            QTest::keyClicks(celda, QStringLiteral("5"));
+            dialogos().respuestas = {RespuestaCancelar};
+            t.close();
+            QVERIFY(t.isVisible());
+            QCOMPARE(dialogos().preguntas, std::vector<Pregunta>{PreguntaSalvar});
+            QCOMPARE(Muestra(t, 1, 2), QStringLiteral("5.00"));
             t.Grid().setCurrentCell(0, 0);
             dialogos().respuestas = {RespuestaNo, RespuestaSi};
             Pulsar(t, "LSButton5");
@@ -323,7 +335,7 @@ class Perfiles : public QObject {
             t.close();
             QVERIFY(!t.isVisible());
         });
-        QCOMPARE(dialogos().preguntas.size(), std::size_t{5});
+        QCOMPARE(dialogos().preguntas.size(), std::size_t{6});
         QCOMPARE(dialogos().preguntas.back(), PreguntaSalvar);
         QCOMPARE(LeerTablaPerfiles(Carpeta() + "/U_E.pfl", F::SeccionU).Filas.size(),
                  std::size_t{1});

@@ -19,6 +19,7 @@
 #include "shell/Carga01.h"
 #include "shell/PantallaViga.h"
 #include "shell/VigaDatos.h"
+#include "shell/VigasMetalicas.h"
 #include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
 
@@ -139,6 +140,12 @@ class VigaDatosTest : public QObject {
         VigaDatos& e = *editor;
         QCOMPARE(e.windowTitle(), QStringLiteral("Datos Generales de la Viga: [ V-1 ]"));
         QCOMPARE(e.Pagina(), 1);
+        const std::pair<int, const char*> esquinas[] = {{1, "No"},     {2, "Tramo"}, {6, "Tipo"},
+                                                        {7, "Tramo"},  {8, "Tipo"},  {9, "Tramo"},
+                                                        {10, "Tramo"}, {12, "Junta"}};
+        for (const auto& [n, rotulo] : esquinas)
+            QCOMPARE(e.Spread(n).findChild<QAbstractButton*>()->accessibleName(),
+                     QString::fromUtf8(rotulo));
         QVERIFY(!Hijo<QPushButton>(e, QStringLiteral("Button1"))->isEnabled());
 
         Contar(e, 1, QStringLiteral("5"));
@@ -221,8 +228,10 @@ class VigaDatosTest : public QObject {
         QCOMPARE(f.HC(3), 0.0); // joint 3 has no vertical support
     }
 
-    // Counts: a box beyond NT + 1 is refused with its message and shows the old count; fewer
-    // spans keep a restraint on a joint past the end; a count of 0 types is one type.
+    // Counts: each box applies its limit and its message alike on Return and on leaving it,
+    // and shows the old count on a refusal: beyond NT + 1 its message, spans beyond 1000
+    // refused without one, a count of types the model cannot hold error 6 (never wrapped).
+    // Fewer spans keep a restraint on a joint past the end; a count of 0 types is one type.
     void CuentasYSusLimites() {
         VigaActual v = VigaDeTramos({4, 4, 4, 4, 4});
         PonerApoyos(v, {{1, ApoyoFijo}, {6, Empotramiento}});
@@ -232,23 +241,44 @@ class VigaDatosTest : public QObject {
 
         struct Caso {
             int caja;
-            const char* texto;
-            const char* titulo;
+            int pagina;
+            const char* cuenta;
+            std::vector<Pregunta> avisos;
         };
         const Caso casos[] = {
-            {2, "El Número de Juntas Desplazadas no puede ser mayor que 6    ",
-             "Juntas Desplazadas"},
-            {3, "El Número de Juntas ser mayor que 6    ", "Juntas Totalmente restringidas"},
-            {4, "El Número de Juntas ser mayor que 6    ", "Juntas con Resortes"},
-            {7, "El Número de la Junta no puede ser mayor que 6    \n", "Acciones Nodales"},
+            {1, 1, "5000", {}},
+            {2,
+             2,
+             "7",
+             {Aviso("El Número de Juntas Desplazadas no puede ser mayor que 6    ",
+                    "Juntas Desplazadas")}},
+            {3,
+             3,
+             "7",
+             {Aviso("El Número de Juntas ser mayor que 6    ", "Juntas Totalmente restringidas")}},
+            {4, 4, "7", {Aviso("El Número de Juntas ser mayor que 6    ", "Juntas con Resortes")}},
+            {5, 5, "40000", {MensajeFalla(ErrorTrevalo::Desbordamiento())}},
+            {7,
+             8,
+             "7",
+             {Aviso("El Número de la Junta no puede ser mayor que 6    \n", "Acciones Nodales")}},
         };
         for (const Caso& c : casos) {
-            const QString antes = e.Long(c.caja).text();
-            Contar(e, c.caja, QStringLiteral("7"));
-            QCOMPARE(dialogos().preguntas.back(), Aviso(c.texto, c.titulo));
-            QCOMPARE(e.Long(c.caja).text(), antes);
+            while (e.Pagina() < c.pagina) Siguiente(e);
+            for (const Qt::Key salida : {Qt::Key_Return, Qt::Key_Tab}) {
+                dialogos().preguntas.clear();
+                const QString antes = e.Long(c.caja).text();
+                Escribir(e, QStringLiteral("Long%1").arg(c.caja).toLatin1().constData(),
+                         QString::fromUtf8(c.cuenta));
+                QTest::keyClick(&e.Long(c.caja), salida);
+                QCOMPARE(dialogos().preguntas, c.avisos);
+                QCOMPARE(e.Long(c.caja).text(), antes);
+            }
         }
-        QCOMPARE(p->programa.Viga.NJRest, 2);
+        const VigaActual& viga = p->programa.Viga;
+        QCOMPARE(viga.NT, 5);
+        QCOMPARE(viga.NJRest, 2);
+        QCOMPARE(viga.NTipos, 1);
 
         // Nothing pruned: the drawing then faults on joint 6, as the analysis would.
         Contar(e, 1, QStringLiteral("3"));
@@ -296,6 +326,9 @@ class VigaDatosTest : public QObject {
         QCOMPARE(ValorCelda(e.Spread(7), 1, 1), 3.0);
         Teclear(e.Spread(7), 2, 1, {"0"});
         QCOMPARE(viga.VT(2), 1.0);
+        Teclear(e.Spread(7), 3, 1, {"2.5"}); // ties to even, as block entry and the model
+        QCOMPARE(viga.VT(3), 2.0);
+        QCOMPARE(ValorCelda(e.Spread(7), 3, 1), 2.0);
         dialogos().entradas.push_back("7");
         e.Spread(7).horizontalHeader()->sectionClicked(0);
         QCOMPARE(dialogos().preguntas.back(),
@@ -306,7 +339,7 @@ class VigaDatosTest : public QObject {
                  Aviso("Debe Introducir un Número...    ", "Longitud de los Tramos"));
         dialogos().entradas.push_back("2.5");
         e.Spread(7).horizontalHeader()->sectionClicked(0);
-        QCOMPARE(viga.VT(3), 2.0); // ties to even
+        QCOMPARE(viga.VT(1), 2.0); // ties to even
 
         Teclear(e.Spread(4), 1, 1, {"5|9"});
         QCOMPARE(dialogos().preguntas.back(),
@@ -366,22 +399,35 @@ class VigaDatosTest : public QObject {
                                              "Acciones Nodales")});
     }
 
-    // A steel beam goes from page 4 to 6 and ends at page 8; back from 8 the move forward
-    // stays off until page 6.
-    void VigaMetalicaNoLlegaALaPagina9() {
+    // A steel beam: the support buttons act at once on page 3 reached by " Siguiente " (the
+    // first row is the active one); the pages go from 4 to 6 and end at 8, and back from 8
+    // the move forward stays off until page 6; a profile captured there changes the beam,
+    // so " Retorno " asks.
+    void VigaMetalicaApoyosYPerfil() {
         VigaActual v = VigaDeTramos({4, 5});
         v.OpcionConcreto = 1;
+        PonerApoyos(v, {{1, ApoyoFijo}, {3, ApoyoFijo}});
         PrepararProyecto(*p, v);
         auto editor = Abrir(*p);
         VigaDatos& e = *editor;
+        const VigaActual& viga = p->programa.Viga;
         QVERIFY(Hijo<QRadioButton>(e, QStringLiteral("Option2"))->isChecked());
+        Siguiente(e, 2);
+        QCOMPARE(e.Pagina(), 3);
+        Pulsar(e, "ButtonP4");
+        QCOMPARE(viga.Apoyo(1), Empotramiento);
+        QCOMPARE(ValorCelda(e.Spread(4), 1, 2), 4.0);
+        QCOMPARE(e.Spread(4).currentRow(), 1);
+        QTest::keyClick(&e, Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!e.Modificada());
+
         auto* siguiente = Hijo<QPushButton>(e, QStringLiteral("Button2"));
         std::vector<int> paginas;
-        for (int i = 0; i < 10; ++i) {
+        for (int i = 0; i < 8; ++i) {
             if (siguiente->isEnabled()) Siguiente(e);
             paginas.push_back(e.Pagina());
         }
-        QCOMPARE(paginas, (std::vector<int>{2, 3, 4, 6, 7, 8, 8, 8, 8, 8}));
+        QCOMPARE(paginas, (std::vector<int>{4, 6, 7, 8, 8, 8, 8, 8}));
         Pulsar(e, "Button1");
         QCOMPARE(e.Pagina(), 7);
         QVERIFY(!siguiente->isEnabled());
@@ -389,20 +435,51 @@ class VigaDatosTest : public QObject {
         QCOMPARE(e.Pagina(), 6);
         QVERIFY(siguiente->isEnabled());
         QVERIFY(!e.Modificada());
+
+        ListaPerfiles& lista = p->programa.ListaPerfil;
+        lista.ListaPerfilesN = 1;
+        lista.ListaDesignacion = Arreglo<std::string>(1);
+        lista.ListaArea = lista.ListaInercia = Arreglo<double>(1);
+        lista.ListaDesignacion(1) = "1 IPE 300";
+        lista.ListaArea(1) = 53.8;
+        lista.ListaInercia(1) = 8356;
+        EnVentana<VigasMetalicas>([this](VigasMetalicas& m) {
+            Control<QTableWidget>(m, "Spread1")->setCurrentCell(0, 0);
+            dialogos().respuestas = {RespuestaSi};
+            Pulsar(m, "LSButton4");
+        });
+        Pulsar(e, "LSButton5");
+        QCOMPARE(viga.Designacion(1), std::string("1 IPE 300"));
+        QCOMPARE(ValorCelda(e.Spread(8), 1, 2), 53.8);
+        QVERIFY(e.Modificada());
+        dialogos().respuestas = {RespuestaNo};
+        Pulsar(e, "LSButton2");
+        QCOMPARE(dialogos().preguntas.back(), PreguntaSalir(true));
+        QVERIFY(!e.isVisible());
     }
 
-    // Every way out asks about a changed beam: cancel keeps the window, no drops the edits,
-    // yes saves; a save the file refuses shows its error and keeps the beam changed.
+    // Every way out asks about a changed beam, a length still being typed in its cell
+    // included: cancel keeps the window, no drops the edits, yes saves; a save the file
+    // refuses shows its error and keeps the beam changed.
     void SalidasYSalvarRechazado() {
         PrepararProyecto(*p, VigaDeTramos({4, 5}));
         auto editor = Abrir(*p);
         VigaDatos& e = *editor;
-        Teclear(e.Spread(2), 1, 1, {"4.75"});
+        QTableWidget& luces = e.Spread(2);
+        luces.setFocus();
+        luces.setCurrentCell(0, 0);
+        QTest::keyClick(&luces, Qt::Key_F2);
+        auto* celda = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        QVERIFY(celda);
+        celda->selectAll();
+        QTest::keyClicks(celda, QStringLiteral("4.75"));
 
         dialogos().respuestas = {RespuestaCancelar, RespuestaCancelar, RespuestaCancelar};
+        e.close(); // the window's close button, the cell still open
+        QCOMPARE(p->programa.Viga.LT(1), 4.75);
+        QCOMPARE(ValorCelda(luces, 1, 1), 4.75);
         Pulsar(e, "LSButton2");
         QTest::keyClick(&e, Qt::Key_Escape);
-        e.close();
         QVERIFY(e.isVisible());
         QCOMPARE(dialogos().preguntas, std::vector<Pregunta>(3, PreguntaSalir(true)));
         QCOMPARE(EnArchivo(*p).LT(1), 4.0);
