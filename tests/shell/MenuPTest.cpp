@@ -8,9 +8,12 @@
 #include <QToolBar>
 
 #include "VentanasPrueba.h"
+#include "shell/DatosG.h"
 #include "shell/MenuP.h"
+#include "shell/NuevaViga.h"
 #include "shell/Sobre.h"
 #include "shell/Splash.h"
+#include "shell/VigaDatos.h"
 #include "shell/VigasProyecto.h"
 
 using namespace trevalo;
@@ -119,14 +122,38 @@ class MenuPTest : public QObject {
                  QStringLiteral("Trevalo 6.0  Proyecto: [Ejemplo Demostrativo.trv]"));
         QVERIFY(menu.Accion(QStringLiteral("ID_Proyecto_Salvarcomo"))->isEnabled());
 
-        // The project window over the menu, left by " Retorno ".
+        // The project window over the menu, left by " Retorno ". Once a window is up and
+        // waits for the user, the pointer is the normal one: the project window, the editor,
+        // the name of a new beam, the general data.
         int vigas = 0;
+        QStringList conEspera;
+        const auto anotarPuntero = [&conEspera](QWidget& w) {
+            if (QApplication::overrideCursor())
+                conEspera << QString::fromLatin1(w.metaObject()->className());
+        };
         AlAbrirse<VigasProyecto>([&](VigasProyecto& v) {
             vigas = v.Filas();
+            anotarPuntero(v);
+            AlAbrirse<VigaDatos>([&](VigaDatos& e) {
+                anotarPuntero(e);
+                e.reject();
+            });
+            QTest::mouseClick(v.Boton(QStringLiteral("LSButton19")), Qt::LeftButton);
+            AlAbrirse<NuevaViga>([&](NuevaViga& n) {
+                anotarPuntero(n);
+                n.reject();
+            });
+            QTest::mouseClick(v.Boton(QStringLiteral("LSButton3")), Qt::LeftButton);
             QTest::mouseClick(v.Boton(QStringLiteral("LSButton2")), Qt::LeftButton);
         });
         menu.Accion(QStringLiteral("ID_AnalizarVigas"))->trigger();
         QCOMPARE(vigas, 6);
+        AlAbrirse<DatosG>([&](DatosG& d) {
+            anotarPuntero(d);
+            d.reject();
+        });
+        menu.Accion(QStringLiteral("ID_Proyecto_Modificar"))->trigger();
+        QCOMPARE(conEspera, QStringList());
         QVERIFY(!QApplication::overrideCursor());
 
         bool sobre = false;
