@@ -209,7 +209,9 @@ void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
         try {
             plataforma.CopiarArchivo(plantilla, ruta);
         } catch (const ErrorTrevalo& e) {
-            throw ErrorTrevalo(e.Numero(), e.Descripcion() + ": " + plantilla);
+            // The message names the file at fault: the template when it is missing.
+            const bool falta = e.Numero() == ErrArchivoNoEncontrado;
+            throw ErrorTrevalo(e.Numero(), e.Descripcion() + ": " + (falta ? plantilla : ruta));
         }
         base = plataforma.AbrirBaseDatos(ruta);
     });
