@@ -3,12 +3,14 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QToolBar>
 
 #include "VentanasPrueba.h"
 #include "shell/DatosG.h"
+#include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
 #include "shell/NuevaViga.h"
 #include "shell/Sobre.h"
@@ -170,6 +172,27 @@ class MenuPTest : public QObject {
         menu.Accion(QStringLiteral("ID_Salida"))->trigger();
         QTRY_VERIFY(!MenuAbierto());
         QVERIFY(p.dialogos->preguntas.empty());
+    }
+
+    // A message that comes in the middle of work waits for the user under the normal pointer;
+    // the hourglass comes back when it goes.
+    void UnMensajeDuranteElTrabajoMuestraElPunteroNormal() {
+        DialogosQt dialogos;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        Qt::CursorShape forma = Qt::BlankCursor;
+        QTimer::singleShot(50, [&forma] {
+            auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!caja) return;
+            forma = QApplication::overrideCursor()->shape();
+            caja->defaultButton()->click();
+        });
+        const int respuesta = dialogos.Mensaje(
+            {"Texto", "Título", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1});
+        QCOMPARE(respuesta, RespuestaAceptar);
+        QCOMPARE(forma, Qt::ArrowCursor);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        QApplication::restoreOverrideCursor();
+        QVERIFY(!QApplication::overrideCursor());
     }
 
     void ElTapizSeColocaSegunSusOpciones() {
