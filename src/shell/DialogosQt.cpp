@@ -67,6 +67,23 @@ QString SufijoDeFiltro(const std::string& filtro, int indice) {
     return sufijo;
 }
 
+// A box shown in the middle of work waits for the user: the normal pointer while it is up,
+// the hourglass back when it goes.
+class PunteroNormalMientras {
+  public:
+    PunteroNormalMientras() : espera_(QApplication::overrideCursor() != nullptr) {
+        if (espera_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~PunteroNormalMientras() {
+        if (espera_) QApplication::restoreOverrideCursor();
+    }
+    PunteroNormalMientras(const PunteroNormalMientras&) = delete;
+    PunteroNormalMientras& operator=(const PunteroNormalMientras&) = delete;
+
+  private:
+    bool espera_;
+};
+
 } // namespace
 
 void TraducirAlEspanol() {
@@ -102,6 +119,7 @@ int DialogosQt::Mensaje(const Pregunta& p) {
     for (const auto& b : botones) caja.addButton(b.boton)->setText(QString::fromUtf8(b.titulo));
     const auto defecto = static_cast<std::size_t>(p.BotonDefecto - 1);
     caja.setDefaultButton(botones[defecto < botones.size() ? defecto : 0].boton);
+    const PunteroNormalMientras puntero;
     caja.exec();
     const auto pulsado = caja.standardButton(caja.clickedButton());
     for (const auto& b : botones)

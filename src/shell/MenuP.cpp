@@ -2,12 +2,16 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QFrame>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -18,6 +22,7 @@
 #include "shell/DatosG.h"
 #include "shell/Iconos.h"
 #include "shell/OpcionPerfil.h"
+#include "shell/ProyectosRecientes.h"
 #include "shell/Sobre.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
@@ -83,14 +88,20 @@ class PlataformaMenu : public PlataformaProyectoDisco {
     PlataformaMenu(Programa& programa, MenuP& menu)
         : PlataformaProyectoDisco(programa.Dialogo()), programa_(programa), menu_(menu) {}
 
+    // The hourglass stays while a window loads; once it is up the pointer is normal.
     void MostrarDatosGenerales(bool) override {
         DatosG datos(programa_, &menu_);
+        PunteroEspera(false);
         datos.exec();
     }
-    void MostrarVigasProyecto() override {
+    bool MostrarVigasProyecto() override {
         VigasProyecto ventana(programa_, &menu_);
+        if (!ventana.Abierto()) return false;
+        PunteroEspera(false);
         ventana.exec();
+        return true;
     }
+    void RecordarProyecto(const std::string& ruta) override { menu_.RecordarProyecto(Qs(ruta)); }
     void ColocarTituloMenu(const std::string& titulo) override { menu_.setWindowTitle(Qs(titulo)); }
     void HabilitarSalvarComo(bool habilitado) override {
         menu_.Accion(QStringLiteral("ID_Proyecto_Salvarcomo"))->setEnabled(habilitado);
@@ -141,6 +152,7 @@ MenuP::MenuP(Programa& programa)
       toolTip_(new ToolTipTrevalo(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(QStringLiteral("MenuP"));
+    setAcceptDrops(true);
     area_ = new QWidget(this);
     area_->setObjectName(QStringLiteral("Fondo"));
     area_->setAutoFillBackground(true);
@@ -160,6 +172,7 @@ MenuP::MenuP(Programa& programa)
     statusBar()->setObjectName(QStringLiteral("LSPanel1"));
     statusBar()->setSizeGripEnabled(false);
     CrearMenus();
+    ColocarRecientes();
     InstalarTeclaAyuda(programa_, *this);
 
     toolTip_->Configurar(programa_.Tapiz);
@@ -181,6 +194,7 @@ MenuP::~MenuP() = default;
 void MenuP::CrearMenus() {
     for (const Menu& menu : Menus()) {
         QMenu* m = menuBar()->addMenu(QString::fromUtf8(menu.titulo));
+        if (!menuProyecto_) menuProyecto_ = m;
         for (const Comando& c : menu.comandos) {
             const QString clave = QString::fromUtf8(c.clave);
             QAction* a = m->addAction(IconoHerramienta(clave), QString::fromUtf8(c.titulo));
@@ -210,6 +224,76 @@ QAction* MenuP::Accion(const QString& clave) const {
 
 PlataformaProyecto& MenuP::Plataforma() {
     return *plataforma_;
+}
+
+void MenuP::AbrirArchivoProyecto(const QString& ruta) {
+    AbrirProyectoRuta(Std(QFileInfo(ruta).absoluteFilePath()), programa_.Estado, *plataforma_);
+}
+
+void MenuP::RecordarProyecto(const QString& ruta) {
+    GuardarRecientes(AgregarReciente(LeerRecientes(), ruta));
+    ColocarRecientes();
+}
+
+void MenuP::ColocarRecientes() {
+    // The entry chosen may be the one being rebuilt: the old entries go once its signal ends.
+    if (separadorRecientes_) recientes_.prepend(separadorRecientes_);
+    for (QAction* a : recientes_) {
+        menuProyecto_->removeAction(a);
+        a->deleteLater();
+    }
+    recientes_.clear();
+    separadorRecientes_ = nullptr;
+    const QStringList lista = LeerRecientes();
+    if (lista.isEmpty()) return;
+    separadorRecientes_ = menuProyecto_->addSeparator();
+    menuProyecto_->setToolTipsVisible(true);
+    for (qsizetype i = 0; i < lista.size(); ++i) {
+        const QString ruta = lista[i];
+        QAction* a = menuProyecto_->addAction(
+            QStringLiteral("&%1 %2").arg(i + 1).arg(QFileInfo(ruta).fileName()));
+        a->setObjectName(QStringLiteral("ID_Reciente%1").arg(i + 1));
+        a->setToolTip(ruta);
+        a->setStatusTip(ruta);
+        connect(a, &QAction::triggered, this, [this, ruta] { AbrirReciente(ruta); });
+        recientes_.append(a);
+    }
+}
+
+void MenuP::AbrirReciente(const QString& ruta) {
+    if (QFileInfo(ruta).isFile()) {
+        AbrirArchivoProyecto(ruta);
+        return;
+    }
+    QStringList lista = LeerRecientes();
+    lista.removeAll(ruta);
+    GuardarRecientes(lista);
+    ColocarRecientes();
+    programa_.Dialogo().Mensaje({"El proyecto ya no existe:    \n" + Std(ruta) +
+                                     "    \n\nSe quitó de la lista de los últimos proyectos.    ",
+                                 "Abrir un Proyecto Existente", BotonesMensaje::Aceptar,
+                                 IconoMensaje::Advertencia, 1});
+}
+
+QString ProyectoArrastrado(const QMimeData& datos) {
+    const QList<QUrl> urls = datos.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+    const QString ruta = urls.front().toLocalFile();
+    return ruta.endsWith(QStringLiteral(".trv"), Qt::CaseInsensitive) ? ruta : QString();
+}
+
+void MenuP::dragEnterEvent(QDragEnterEvent* evento) {
+    if (evento->mimeData() && !ProyectoArrastrado(*evento->mimeData()).isEmpty())
+        evento->acceptProposedAction();
+}
+
+void MenuP::dropEvent(QDropEvent* evento) {
+    const QString ruta = evento->mimeData() ? ProyectoArrastrado(*evento->mimeData()) : QString();
+    if (ruta.isEmpty()) return;
+    evento->acceptProposedAction();
+    // Opened once the drop has ended, so that the file manager is not kept waiting by a
+    // message about the file.
+    QTimer::singleShot(0, this, [this, ruta] { AbrirArchivoProyecto(ruta); });
 }
 
 void MenuP::Despachar(const QString& clave) {

@@ -3,7 +3,9 @@
 // them and the bottom panel that shows each command's hint. It does no engineering itself:
 // every command opens a modal window, so it is the root of the window stack. The title
 // names the current project; "SALVAR EL PROYECTO COMO..." is enabled only while one is
-// chosen.
+// chosen. A project comes from "ABRIR PROYECTO EXISTENTE...", from the last projects listed
+// at the foot of the "Proyecto" menu, from a ".trv" dropped on the window, or from the
+// command line; each opens it the same way.
 
 #include <QMainWindow>
 #include <QPixmap>
@@ -15,6 +17,7 @@
 
 class QLabel;
 class QFrame;
+class QMimeData;
 
 namespace trevalo {
 
@@ -25,6 +28,10 @@ class ToolTipTrevalo;
 // or, fitted, a picture larger than the area scaled down keeping its proportions and centred
 // above the panel (a smaller one is centred and not enlarged).
 QRect GeometriaTapiz(QSize interior, int altoPanel, QSize imagen, const ConfiguracionTapiz& tapiz);
+
+// The project file that a drag carries: exactly one local file named *.trv (any case);
+// empty for anything else.
+QString ProyectoArrastrado(const QMimeData& datos);
 
 class MenuP : public QMainWindow {
     Q_OBJECT
@@ -51,11 +58,25 @@ class MenuP : public QMainWindow {
     PlataformaProyecto& Plataforma();
     ToolTipTrevalo& ToolTip() { return *toolTip_; }
 
+    // Opens the project file at `ruta` as "ABRIR PROYECTO EXISTENTE..." does with the file
+    // chosen; a file that is missing or not a project is told and leaves no project open.
+    void AbrirArchivoProyecto(const QString& ruta);
+    // Puts the project at `ruta` first in the list of the last projects opened.
+    void RecordarProyecto(const QString& ruta);
+    // The entries of the last projects opened, newest first.
+    QList<QAction*> Recientes() const { return recientes_; }
+
   protected:
     void resizeEvent(QResizeEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
 
   private:
     void CrearMenus();
+    // Rebuilds the entries of the last projects at the foot of the "Proyecto" menu.
+    void ColocarRecientes();
+    // A last project chosen: opened, or, when its file has gone, dropped from the list.
+    void AbrirReciente(const QString& ruta);
     void ExploradorWindows();
     void ManualPrograma();
     void AyudaTemas();
@@ -64,6 +85,9 @@ class MenuP : public QMainWindow {
     std::unique_ptr<PlataformaProyecto> plataforma_;
     ToolTipTrevalo* toolTip_;
     std::map<QString, QAction*> acciones_;
+    QMenu* menuProyecto_ = nullptr;
+    QAction* separadorRecientes_ = nullptr;
+    QList<QAction*> recientes_;
     QWidget* area_;
     QLabel* imagen_;
     QFrame* linea_;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPixmap>
 #include <QStandardPaths>
@@ -22,7 +23,24 @@ EntornoInicio EntornoDelSistema() {
     return entorno;
 }
 
-Splash::Splash(Programa& programa, const EntornoInicio& entorno) : programa_(programa) {
+LineaOrdenes LeerLineaOrdenes(const QStringList& argumentos) {
+    const QString uso = QStringLiteral("\nUso: trevalo [PROYECTO.trv]\n");
+    if (argumentos.isEmpty()) return {};
+    if (argumentos.size() > 1)
+        return {false,
+                {},
+                QStringLiteral("trevalo: se espera un solo archivo de proyecto y se dieron %1 "
+                               "argumentos.")
+                        .arg(argumentos.size()) +
+                    uso};
+    const QString& argumento = argumentos.front();
+    if (argumento.isEmpty() || argumento.startsWith(QLatin1Char('-')))
+        return {false, {}, QStringLiteral("trevalo: opción no válida: «%1».").arg(argumento) + uso};
+    return {true, QFileInfo(argumento).absoluteFilePath(), {}};
+}
+
+Splash::Splash(Programa& programa, const EntornoInicio& entorno, const QString& proyecto)
+    : programa_(programa), proyecto_(proyecto) {
     setObjectName(QStringLiteral("Splash"));
     setWindowTitle(QStringLiteral("TREVALO 6.0"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -58,6 +76,9 @@ void Splash::showEvent(QShowEvent* evento) {
 void Splash::AbrirMenu() {
     menu_ = new MenuP(programa_);
     menu_->show();
+    if (!proyecto_.isEmpty())
+        QTimer::singleShot(0, menu_,
+                           [menu = menu_, ruta = proyecto_] { menu->AbrirArchivoProyecto(ruta); });
     close();
 }
 

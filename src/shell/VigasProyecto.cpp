@@ -12,6 +12,7 @@
 #include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <filesystem>
 
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/OperacionesVista.h"
@@ -159,7 +160,10 @@ VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
     try {
         AbrirProyectoArchivo(RutaProyectoActual(programa_.Carpetas, estado), estado);
         LeerGeneralProyecto(*estado.BDProyecto, programa_.Proyecto);
+        abierto_ = true;
     } catch (const ErrorTrevalo& e) {
+        estado.BDProyecto.reset();
+        estado.RsGeneralViga.reset();
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
     ColoquePantalla();
@@ -670,8 +674,9 @@ void VigasProyecto::AbrirProyectoVentana() {
         programa_.Dialogo().Archivo({"Abrir un Proyecto Existente", ModoDialogo::Abrir,
                                      FiltroProyectos, 1, programa_.Carpetas.RutaProyectos, ""});
     if (archivo.Cancelado) return;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const RelojDeArena reloj;
     estado.NombreProyecto = archivo.FileTitle;
+    estado.CarpetaProyecto = std::filesystem::path(archivo.FileName).parent_path().string();
     setWindowTitle(Qs("Trevalo 5.0  Proyecto:[" + estado.NombreProyecto + "]"));
     // Kept as users know it: the list is filled again from the beams of the database opened
     // when the window was loaded; the new name takes effect at the next opening.
@@ -686,7 +691,6 @@ void VigasProyecto::AbrirProyectoVentana() {
     programa_.Vista.EstacionesDiseno = 2;
     programa_.Vista.VerJuntas = false;
     ElegirPestana(1);
-    QApplication::restoreOverrideCursor();
 }
 
 } // namespace trevalo

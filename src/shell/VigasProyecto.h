@@ -34,6 +34,11 @@ class VigasProyecto : public QDialog {
     VigasProyecto(Programa& programa, QWidget* parent = nullptr);
     ~VigasProyecto() override;
 
+    // Whether the load opened the project. When it could not (the file moved, damaged, not a
+    // project), the error has been shown, no database or beam list is left open, and the
+    // window is not to be shown: nothing can write into the project open before.
+    bool Abierto() const { return abierto_; }
+
     // Moves to the previous (0) or next (1) beam of the list.
     void BtoMove_Click(int indice);
     // Fills the list from RsGeneralViga.
@@ -105,6 +110,7 @@ class VigasProyecto : public QDialog {
 
     Programa& programa_;
     bool cargando_ = true;
+    bool abierto_ = false;
     bool enPestana_ = false; // a tab change made by the program, not by the user
     QTableWidget* spread1_;
     QLabel* lblNombre_;

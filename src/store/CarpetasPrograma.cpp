@@ -96,7 +96,7 @@ void VerificaTapizKorvel(const CarpetasPrograma& carpetas) {
 }
 
 void DatosUsuario(const EntornoInicio& entorno, CarpetasPrograma& carpetas) {
-    carpetas.VersionPrograma = "6.0";
+    carpetas.VersionPrograma = VersionTrevalo;
     SeparadoresNumericos(entorno.Local, carpetas.SeparadorDecimal, carpetas.SeparadorMiles);
     carpetas.RutaPrograma = SinBarraFinal(entorno.RutaAplicacion);
 

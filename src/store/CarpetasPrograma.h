@@ -29,6 +29,9 @@ struct EntornoInicio {
 // The locale the user's environment names, or the classic one when it names none known.
 std::locale LocalDeLaMaquina();
 
+// The program's version, as the start-up window and the command-line tool show it.
+inline constexpr const char* VersionTrevalo = "6.0";
+
 // Program-wide paths and start-up values, set once by DatosUsuario.
 struct CarpetasPrograma {
     std::string VersionPrograma;

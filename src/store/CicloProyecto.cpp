@@ -25,12 +25,28 @@ class PunteroNormalAlSalir {
     PlataformaProyecto& plataforma_;
 };
 
-// Runs a file or database step whose failure the menu operations ignore.
+// Runs a delete whose failure the menu operations ignore: the copy that follows tells.
 template <typename Paso> void Ignorando(Paso paso) {
     try {
         paso();
     } catch (const ErrorTrevalo&) {
         // The next step runs on, as users of the menu know it.
+    }
+}
+
+// Runs a step that opens or makes the project file. A failure is shown as the store's error
+// and leaves no project current, so that nothing writes into the one open before. False
+// when the step failed.
+template <typename Paso>
+bool SinFallar(EstadoProyecto& estado, PlataformaProyecto& plataforma, Paso paso) {
+    try {
+        paso();
+        return true;
+    } catch (const ErrorTrevalo& e) {
+        plataforma.PunteroEspera(false);
+        plataforma.dialogos.Mensaje(MensajeError(e));
+        SinProyecto(estado, plataforma);
+        return false;
     }
 }
 
@@ -61,14 +77,14 @@ Pregunta PreguntaReemplazar(const std::string& titulo) {
                 IconoMensaje::Advertencia, 2);
 }
 
-// The project chosen: its title becomes the current project, not yet opened.
-void ElegirProyecto(const ArchivoElegido& archivo, EstadoProyecto& estado,
-                    PlataformaProyecto& plataforma) {
-    plataforma.PunteroEspera(true);
-    estado.NombreProyecto = archivo.FileTitle;
+// The file at `ruta` is the current project from now on.
+void Elegir(const std::string& ruta, EstadoProyecto& estado, PlataformaProyecto& plataforma) {
+    const std::filesystem::path archivo(ruta);
+    estado.NombreProyecto = archivo.filename().string();
+    estado.CarpetaProyecto = archivo.parent_path().string();
     plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
     plataforma.HabilitarSalvarComo(true);
-    plataforma.PunteroEspera(false);
+    plataforma.RecordarProyecto(ruta);
 }
 
 // When no project is current, asks for one with the given title; false on cancel.
@@ -77,8 +93,7 @@ bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpe
     if (!Recortado(estado.NombreProyecto).empty()) return true;
     const ArchivoElegido archivo = PedirProyecto(titulo, ModoDialogo::Abrir, carpetas, plataforma);
     if (archivo.Cancelado) return false;
-    ElegirProyecto(archivo, estado, plataforma);
-    return true;
+    return AbrirProyectoRuta(archivo.FileName, estado, plataforma);
 }
 
 } // namespace
@@ -134,7 +149,36 @@ std::string TituloMenu(const std::string& nombreProyecto) {
 }
 
 std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoProyecto& estado) {
-    return carpetas.RutaProyectos + "/" + estado.NombreProyecto;
+    const std::string& carpeta =
+        estado.CarpetaProyecto.empty() ? carpetas.RutaProyectos : estado.CarpetaProyecto;
+    return carpeta + "/" + estado.NombreProyecto;
+}
+
+bool AbrirProyectoRuta(const std::string& ruta, EstadoProyecto& estado,
+                       PlataformaProyecto& plataforma) {
+    plataforma.PunteroEspera(true);
+    const bool abre = SinFallar(estado, plataforma, [&] {
+        EstadoProyecto prueba;
+        AbrirProyectoArchivo(ruta, prueba);
+    });
+    if (abre) {
+        // The database of the former project is let go; the windows open the new one when
+        // they need it.
+        estado.BDProyecto.reset();
+        estado.RsGeneralViga.reset();
+        Elegir(ruta, estado, plataforma);
+    }
+    plataforma.PunteroEspera(false);
+    return abre;
+}
+
+void SinProyecto(EstadoProyecto& estado, PlataformaProyecto& plataforma) {
+    estado.NombreProyecto.clear();
+    estado.CarpetaProyecto.clear();
+    estado.BDProyecto.reset();
+    estado.RsGeneralViga.reset();
+    plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
+    plataforma.HabilitarSalvarComo(false);
 }
 
 void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
@@ -156,21 +200,28 @@ void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
     }
 
     plataforma.PunteroEspera(true);
-    estado.NombreProyecto = archivo.FileTitle;
     // Always into RutaProyectos, whatever folder the dialog chose: kept, users rely on
     // finding every project there.
-    Ignorando([&] {
-        plataforma.CopiarArchivo(carpetas.RutaPrograma + "/Imagen/ImagenViga.kvl",
-                                 RutaProyectoActual(carpetas, estado));
+    const std::string plantilla = carpetas.RutaPrograma + "/Imagen/ImagenViga.kvl";
+    const std::string ruta = carpetas.RutaProyectos + "/" + archivo.FileTitle;
+    std::optional<BaseDatos> base;
+    const bool creado = SinFallar(estado, plataforma, [&] {
+        try {
+            plataforma.CopiarArchivo(plantilla, ruta);
+        } catch (const ErrorTrevalo& e) {
+            // The message names the file at fault: the template when it is missing.
+            const bool falta = e.Numero() == ErrArchivoNoEncontrado;
+            throw ErrorTrevalo(e.Numero(), e.Descripcion() + ": " + (falta ? plantilla : ruta));
+        }
+        base = plataforma.AbrirBaseDatos(ruta);
     });
-    plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
-    Ignorando([&] {
-        estado.BDProyecto = plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado));
-    });
+    if (!creado) return;
+    estado.BDProyecto = std::move(base);
+    estado.RsGeneralViga.reset();
+    Elegir(ruta, estado, plataforma);
     estado.ProyectoNuevo = true;
     plataforma.MostrarDatosGenerales(true);
     estado.ProyectoNuevo = false;
-    plataforma.HabilitarSalvarComo(true);
 }
 
 void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
@@ -179,7 +230,7 @@ void AbrirProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     const ArchivoElegido archivo =
         PedirProyecto("Abrir un Proyecto Existente", ModoDialogo::Abrir, carpetas, plataforma);
     if (archivo.Cancelado) return;
-    ElegirProyecto(archivo, estado, plataforma);
+    AbrirProyectoRuta(archivo.FileName, estado, plataforma);
 }
 
 void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
@@ -188,9 +239,10 @@ void ModificarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     if (!HayProyectoOElegir("Modificar los Datos Generales del Proyecto", carpetas, estado,
                             plataforma))
         return;
-    Ignorando([&] {
+    const bool abierto = SinFallar(estado, plataforma, [&] {
         estado.BDProyecto = plataforma.AbrirBaseDatos(RutaProyectoActual(carpetas, estado));
     });
+    if (!abierto) return;
     estado.ProyectoNuevo = false;
     plataforma.MostrarDatosGenerales(false);
 }
@@ -202,7 +254,7 @@ void AnalizarVigas(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
         return;
     estado.ProyectoNuevo = false;
     plataforma.PunteroEspera(true);
-    plataforma.MostrarVigasProyecto();
+    if (!plataforma.MostrarVigasProyecto()) SinProyecto(estado, plataforma);
 }
 
 void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
@@ -221,12 +273,16 @@ void SalvarComoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado
     }
 
     plataforma.PunteroEspera(true);
-    Ignorando(
-        [&] { plataforma.CopiarArchivo(RutaProyectoActual(carpetas, estado), archivo.FileName); });
-    // The open database stays on the old file; from now on the project is looked for in
-    // RutaProyectos under the new title.
-    estado.NombreProyecto = archivo.FileTitle;
-    plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
+    try {
+        plataforma.CopiarArchivo(RutaProyectoActual(carpetas, estado), archivo.FileName);
+    } catch (const ErrorTrevalo& e) {
+        // No copy: the project open stays the current one.
+        plataforma.PunteroEspera(false);
+        plataforma.dialogos.Mensaje(MensajeError(e));
+        return;
+    }
+    // The open database stays on the old file; from now on the project is the copy.
+    Elegir(archivo.FileName, estado, plataforma);
 }
 
 void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
@@ -256,9 +312,7 @@ void EliminarProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,
     // By title only: a file of the same name in another folder also clears the current
     // project, kept on purpose.
     if (Mayusculas(Recortado(archivo.FileTitle)) == Mayusculas(Recortado(estado.NombreProyecto))) {
-        estado.NombreProyecto.clear();
-        plataforma.ColocarTituloMenu(TituloMenu(estado.NombreProyecto));
-        plataforma.HabilitarSalvarComo(false);
+        SinProyecto(estado, plataforma);
     }
 }
 

@@ -2,10 +2,11 @@
 // The life of a project file: create from the template, open, modify, save as, delete; and
 // the questions around the copy, rename and delete of a beam.
 //
-// A project is a ".trv" file in RutaProyectos; NombreProyecto (its file title) alone says
-// which project is current, and its path is always RutaProyectos + "/" + NombreProyecto.
-// The logic talks to the screens and files through PlataformaProyecto, so that the windows
-// plug in their dialogs and tests plug in scripted answers.
+// A project is a ".trv" file; NombreProyecto (its file title) alone says which project is
+// current, and its path is CarpetaProyecto + "/" + NombreProyecto, the folder being the one
+// the project was opened or saved in (RutaProyectos for a new project). The logic talks to
+// the screens and files through PlataformaProyecto, so that the windows plug in their dialogs
+// and tests plug in scripted answers.
 //
 // Settled behaviour kept as users know it:
 //  - a new project is always copied into RutaProyectos, whatever folder the dialog chose,
@@ -14,9 +15,12 @@
 //  - deleting a file whose title equals the current project's (case and blanks aside)
 //    clears the current project, whatever its folder.
 //
-// The menu operations ignore a failing copy, delete or open (the next step runs), except
-// the delete of EliminarProyecto, which shows the error and stops. A cancelled file dialog
-// ends an operation with nothing changed.
+// Nothing is written to a project that could not be opened: a project is chosen only when
+// its file opens as a project, and when a file fails later (moved, damaged, a template that
+// cannot be copied) the error is shown and no project is left current, with no database
+// handle, so that no window can write into the project that was open before. A failing
+// delete before a copy is ignored; the delete of EliminarProyecto shows its error and stops.
+// A cancelled file dialog ends an operation with nothing changed.
 
 #include <functional>
 #include <string>
@@ -47,11 +51,14 @@ class PlataformaProyecto {
     virtual BaseDatos AbrirBaseDatos(const std::string& ruta) = 0;
     // Shows the general data dialog modally; `proyectoNuevo` while it is shown.
     virtual void MostrarDatosGenerales(bool proyectoNuevo) = 0;
-    // Shows the project window modally; it opens the database itself.
-    virtual void MostrarVigasProyecto() = 0;
+    // Shows the project window modally; it opens the database itself. False when the window
+    // could not open the project (it has said why) and so did not show.
+    virtual bool MostrarVigasProyecto() = 0;
     virtual void ColocarTituloMenu(const std::string& titulo) = 0;
     virtual void HabilitarSalvarComo(bool habilitado) = 0;
     virtual void PunteroEspera(bool espera) = 0;
+    // A project file at `ruta` became the current project (opened, created or saved as).
+    virtual void RecordarProyecto(const std::string& /*ruta*/) {}
 };
 
 // The file and database operations on the disk, for the windows to build on. Errors: 53 "No se
@@ -77,8 +84,20 @@ std::string TituloMenu(const std::string& nombreProyecto);
 // The program's error of a failed file operation: 53 no file, 70 permission, else 75.
 ErrorTrevalo ErrorArchivo(const std::error_code& ec);
 
-// The path of the current project: RutaProyectos + "/" + NombreProyecto.
+// The path of the current project: its folder (RutaProyectos when none is kept) + "/" +
+// NombreProyecto.
 std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoProyecto& estado);
+
+// Makes the project file at `ruta` the current project, as a file chosen in "Abrir un
+// Proyecto Existente" does, once it opens as a project (it is not kept open). A file that is
+// missing or not a project shows the store's error and leaves no project current. True when
+// the project was chosen.
+bool AbrirProyectoRuta(const std::string& ruta, EstadoProyecto& estado,
+                       PlataformaProyecto& plataforma);
+
+// No project current: no name, folder, database handle or beam list; the title says so and
+// "save as" is disabled.
+void SinProyecto(EstadoProyecto& estado, PlataformaProyecto& plataforma);
 
 // The main menu's commands.
 void CrearNuevoProyecto(const CarpetasPrograma& carpetas, EstadoProyecto& estado,

@@ -12,7 +12,8 @@
 namespace trevalo {
 
 struct EstadoProyecto {
-    std::string NombreProyecto; // file title with extension, no folder; empty: none chosen
+    std::string NombreProyecto;  // file title with extension, no folder; empty: none chosen
+    std::string CarpetaProyecto; // folder of the project file; empty: RutaProyectos
     std::optional<BaseDatos> BDProyecto;
     // "SELECT * FROM GeneralViga ORDER BY NombreViga"; the row at position p is row p + 1
     // of the beam list.

@@ -3,14 +3,19 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QToolBar>
 
 #include "VentanasPrueba.h"
+#include "shell/DatosG.h"
+#include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
+#include "shell/NuevaViga.h"
 #include "shell/Sobre.h"
 #include "shell/Splash.h"
+#include "shell/VigaDatos.h"
 #include "shell/VigasProyecto.h"
 
 using namespace trevalo;
@@ -119,14 +124,38 @@ class MenuPTest : public QObject {
                  QStringLiteral("Trevalo 6.0  Proyecto: [Ejemplo Demostrativo.trv]"));
         QVERIFY(menu.Accion(QStringLiteral("ID_Proyecto_Salvarcomo"))->isEnabled());
 
-        // The project window over the menu, left by " Retorno ".
+        // The project window over the menu, left by " Retorno ". Once a window is up and
+        // waits for the user, the pointer is the normal one: the project window, the editor,
+        // the name of a new beam, the general data.
         int vigas = 0;
+        QStringList conEspera;
+        const auto anotarPuntero = [&conEspera](QWidget& w) {
+            if (QApplication::overrideCursor())
+                conEspera << QString::fromLatin1(w.metaObject()->className());
+        };
         AlAbrirse<VigasProyecto>([&](VigasProyecto& v) {
             vigas = v.Filas();
+            anotarPuntero(v);
+            AlAbrirse<VigaDatos>([&](VigaDatos& e) {
+                anotarPuntero(e);
+                e.reject();
+            });
+            QTest::mouseClick(v.Boton(QStringLiteral("LSButton19")), Qt::LeftButton);
+            AlAbrirse<NuevaViga>([&](NuevaViga& n) {
+                anotarPuntero(n);
+                n.reject();
+            });
+            QTest::mouseClick(v.Boton(QStringLiteral("LSButton3")), Qt::LeftButton);
             QTest::mouseClick(v.Boton(QStringLiteral("LSButton2")), Qt::LeftButton);
         });
         menu.Accion(QStringLiteral("ID_AnalizarVigas"))->trigger();
         QCOMPARE(vigas, 6);
+        AlAbrirse<DatosG>([&](DatosG& d) {
+            anotarPuntero(d);
+            d.reject();
+        });
+        menu.Accion(QStringLiteral("ID_Proyecto_Modificar"))->trigger();
+        QCOMPARE(conEspera, QStringList());
         QVERIFY(!QApplication::overrideCursor());
 
         bool sobre = false;
@@ -143,6 +172,27 @@ class MenuPTest : public QObject {
         menu.Accion(QStringLiteral("ID_Salida"))->trigger();
         QTRY_VERIFY(!MenuAbierto());
         QVERIFY(p.dialogos->preguntas.empty());
+    }
+
+    // A message that comes in the middle of work waits for the user under the normal pointer;
+    // the hourglass comes back when it goes.
+    void UnMensajeDuranteElTrabajoMuestraElPunteroNormal() {
+        DialogosQt dialogos;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        Qt::CursorShape forma = Qt::BlankCursor;
+        QTimer::singleShot(50, [&forma] {
+            auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!caja) return;
+            forma = QApplication::overrideCursor()->shape();
+            caja->defaultButton()->click();
+        });
+        const int respuesta = dialogos.Mensaje(
+            {"Texto", "Título", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1});
+        QCOMPARE(respuesta, RespuestaAceptar);
+        QCOMPARE(forma, Qt::ArrowCursor);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        QApplication::restoreOverrideCursor();
+        QVERIFY(!QApplication::overrideCursor());
     }
 
     void ElTapizSeColocaSegunSusOpciones() {

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -38,6 +39,8 @@ class ProgramaPrueba {
         entorno.CarpetaDocumentos = carpeta / "Documentos";
         entorno.Local = std::locale::classic();
         DatosUsuario(entorno, programa.Carpetas);
+        // The program's settings (the last projects opened) in the test's own folder.
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, Qs(carpeta / "ajustes"));
         if (auto* aplicacion = AplicacionTrevalo::Actual()) aplicacion->FijarDialogos(dialogos);
     }
     ~ProgramaPrueba() {

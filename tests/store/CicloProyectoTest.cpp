@@ -23,6 +23,8 @@ class PlataformaGuionada : public PlataformaProyectoDisco {
     std::vector<std::string> basesAbiertas;
     std::vector<bool> datosGenerales; // ProyectoNuevo of each showing of DatosG
     int ventanasProyecto = 0;
+    bool abreVentana = true; // whether the project window opens its project
+    std::vector<std::string> recordados;
     std::string titulo = "sin titulo";
     bool salvarComo = false;
     bool espera = false;
@@ -32,7 +34,11 @@ class PlataformaGuionada : public PlataformaProyectoDisco {
         return PlataformaProyectoDisco::AbrirBaseDatos(ruta);
     }
     void MostrarDatosGenerales(bool nuevo) override { datosGenerales.push_back(nuevo); }
-    void MostrarVigasProyecto() override { ++ventanasProyecto; }
+    bool MostrarVigasProyecto() override {
+        ventanasProyecto += abreVentana;
+        return abreVentana;
+    }
+    void RecordarProyecto(const std::string& ruta) override { recordados.push_back(ruta); }
     void ColocarTituloMenu(const std::string& t) override { titulo = t; }
     void HabilitarSalvarComo(bool h) override { salvarComo = h; }
     void PunteroEspera(bool e) override { espera = e; }
@@ -51,6 +57,27 @@ class Ciclo : public ::testing::Test {
     }
 
     std::string Plantilla() const { return tmp / "programa/Imagen/ImagenViga.kvl"; }
+
+    // A project of the installation's template at `ruta`.
+    static void Proyecto(const std::string& ruta) {
+        fs::copy_file(TREVALO_RUTA_PROGRAMA "/Imagen/ImagenViga.kvl", ruta);
+    }
+
+    // No project is current, and nothing is left to write into the one before.
+    void EsperarSinProyecto() const {
+        EXPECT_EQ(estado.NombreProyecto, "");
+        EXPECT_EQ(estado.CarpetaProyecto, "");
+        EXPECT_FALSE(estado.BDProyecto);
+        EXPECT_FALSE(estado.RsGeneralViga);
+        EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: []");
+        EXPECT_FALSE(p.salvarComo);
+        EXPECT_FALSE(p.espera);
+    }
+
+    static Pregunta Error(long numero, const std::string& texto) {
+        return {texto, "Error: " + std::to_string(numero), BotonesMensaje::Aceptar,
+                IconoMensaje::Advertencia, 1};
+    }
 
     ArchivoElegido En(const std::string& carpeta, const std::string& nombre) const {
         return {false, tmp / (carpeta + "/" + nombre), nombre};
@@ -88,6 +115,7 @@ TEST_F(Ciclo, CrearSobreArchivoExistentePreguntaDosVecesYLoReemplaza) {
     EXPECT_EQ(p.datosGenerales, std::vector<bool>{true});
     EXPECT_TRUE(p.salvarComo);
     EXPECT_FALSE(p.espera);
+    EXPECT_EQ(p.recordados, std::vector<std::string>{tmp / "proyectos/Edificio.trv"});
 }
 
 // A "no" to either question leaves the file and the state as they were.
@@ -139,17 +167,64 @@ TEST_F(Ciclo, CancelarNoCambiaNada) {
     EXPECT_EQ(d.dialogosArchivo.size(), 4u);
 }
 
-TEST_F(Ciclo, AbrirEligeSinAbrirLaBase) {
+TEST_F(Ciclo, AbrirEligeElArchivoEnSuCarpetaSinDejarloAbierto) {
+    Proyecto(tmp / "otra/Galpon.trv");
+    estado.BDProyecto = BaseDatos::Abrir(Plantilla()); // the former project's handle
     d.archivos = {En("otra", "Galpon.trv")};
     AbrirProyecto(carpetas, estado, p);
     EXPECT_EQ(estado.NombreProyecto, "Galpon.trv");
-    EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "proyectos/Galpon.trv");
+    EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "otra/Galpon.trv");
+    EXPECT_FALSE(estado.BDProyecto); // let go; the windows open the new one
     EXPECT_TRUE(p.basesAbiertas.empty());
     EXPECT_TRUE(p.salvarComo);
     EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Galpon.trv]");
+    EXPECT_EQ(p.recordados, std::vector<std::string>{tmp / "otra/Galpon.trv"});
+    EXPECT_FALSE(p.espera);
+    EXPECT_TRUE(d.preguntas.empty());
+}
+
+// A file that is missing or not a project: the store's error, and no project current, the
+// former one's handle dropped. By the dialog, by path, and when a menu command asks.
+TEST_F(Ciclo, AbrirUnArchivoQueNoEsProyectoLoDiceYNoDejaProyecto) {
+    EscribirArchivo(tmp / "otra/Notas.trv", "no es un proyecto");
+    const std::string falta = tmp / "otra/Falta.trv", notas = tmp / "otra/Notas.trv";
+    const Pregunta noExiste = Error(53, "No existe el archivo: " + falta);
+    const Pregunta noEs = Error(3343, "El archivo no es un proyecto de vigas: " + notas +
+                                          " (file is not a database)");
+    using Abrir = std::function<void()>;
+    const std::tuple<Abrir, Pregunta, int> casos[] = {
+        {[&] {
+             d.archivos = {En("otra", "Falta.trv")};
+             AbrirProyecto(carpetas, estado, p);
+         },
+         noExiste, 1},
+        {[&] { EXPECT_FALSE(AbrirProyectoRuta(notas, estado, p)); }, noEs, 0},
+        {[&] {
+             estado.NombreProyecto.clear();
+             d.archivos = {En("otra", "Notas.trv")};
+             AnalizarVigas(carpetas, estado, p);
+         },
+         noEs, 1},
+    };
+    for (const auto& [abrir, mensaje, dialogos] : casos) {
+        estado.NombreProyecto = "Anterior.trv";
+        estado.BDProyecto = BaseDatos::Abrir(Plantilla());
+        p.salvarComo = true;
+        d.preguntas.clear();
+        d.dialogosArchivo.clear();
+        abrir();
+        EXPECT_EQ(d.dialogosArchivo.size(), static_cast<std::size_t>(dialogos));
+        ASSERT_EQ(d.preguntas.size(), 1u);
+        EXPECT_EQ(d.preguntas[0], mensaje);
+        EsperarSinProyecto();
+    }
+    EXPECT_EQ(p.ventanasProyecto, 0);
+    EXPECT_TRUE(p.recordados.empty());
+    EXPECT_EQ(LeerArchivo(Plantilla()), vacio);
 }
 
 TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
+    Proyecto(tmp / "proyectos/Casa.trv");
     estado.NombreProyecto = "   ";
     d.archivos = {En("proyectos", "Casa.trv")};
     ModificarProyecto(carpetas, estado, p);
@@ -161,7 +236,6 @@ TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
                                    ""};
     EXPECT_EQ(d.dialogosArchivo, std::vector<DialogoArchivo>{modificar});
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Casa.trv"});
-    EXPECT_FALSE(estado.BDProyecto); // no such file: the failing open is ignored
     EXPECT_EQ(p.datosGenerales, std::vector<bool>{false});
 
     AnalizarVigas(carpetas, estado, p); // a project now: no dialog
@@ -173,6 +247,28 @@ TEST_F(Ciclo, ModificarYAnalizarPidenProyectoSoloSiNoHay) {
     AnalizarVigas(carpetas, estado, p); // cancelled: no window
     EXPECT_EQ(d.dialogosArchivo.size(), 2u);
     EXPECT_EQ(p.ventanasProyecto, 1);
+    EXPECT_TRUE(d.preguntas.empty());
+}
+
+// The project chosen has gone (moved, deleted) by the time a window needs it: the error, no
+// window, and no project current, so that nothing is written into the project open before.
+TEST_F(Ciclo, UnProyectoQueYaNoAbreNoDejaEscribirEnElAnterior) {
+    for (const bool modificar : {true, false}) {
+        estado.NombreProyecto = "Movido.trv";
+        estado.BDProyecto = BaseDatos::Abrir(Plantilla()); // the former project
+        p.salvarComo = true;
+        p.abreVentana = false; // the window cannot open the file
+        d.preguntas.clear();
+        if (modificar)
+            ModificarProyecto(carpetas, estado, p);
+        else
+            AnalizarVigas(carpetas, estado, p);
+        EXPECT_EQ(d.preguntas.size(), modificar ? 1u : 0u); // the window tells by itself
+        EsperarSinProyecto();
+    }
+    EXPECT_TRUE(p.datosGenerales.empty());
+    EXPECT_EQ(p.ventanasProyecto, 0);
+    EXPECT_EQ(LeerArchivo(Plantilla()), vacio);
 }
 
 TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
@@ -193,11 +289,12 @@ TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Viejo.trv"), vacio);
     EXPECT_EQ(estado.NombreProyecto, "Nuevo.trv");
     EXPECT_EQ(p.titulo, "Trevalo 6.0  Proyecto: [Nuevo.trv]");
-    // The handle stays on the old file, and the project is now looked for in RutaProyectos.
+    // The handle stays on the old file, and the project is now the copy, where it was saved.
     EXPECT_EQ(p.basesAbiertas, std::vector<std::string>{tmp / "proyectos/Viejo.trv"});
     ASSERT_TRUE(estado.BDProyecto);
     EXPECT_EQ(estado.BDProyecto->Ruta(), tmp / "proyectos/Viejo.trv");
-    EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "proyectos/Nuevo.trv");
+    EXPECT_EQ(RutaProyectoActual(carpetas, estado), tmp / "otra/Nuevo.trv");
+    EXPECT_EQ(p.recordados, std::vector<std::string>{tmp / "otra/Nuevo.trv"});
 }
 
 TEST_F(Ciclo, EliminarPreguntaDosVecesYBorraElArchivoElegido) {
@@ -261,14 +358,24 @@ TEST_F(Ciclo, EliminarQueFallaMuestraElErrorYNoLimpia) {
     EXPECT_EQ(estado.NombreProyecto, "Perdido.trv");
 }
 
-TEST_F(Ciclo, CopiaFallidaSeIgnoraYLaSecuenciaSigue) {
-    fs::remove(tmp / "programa/Imagen/ImagenViga.kvl");
+// A template that cannot be copied: the error names it, the general data are not shown (they
+// would be written into the project open before), and no project is current.
+TEST_F(Ciclo, PlantillaQueNoSeCopiaNoDejaEscribirEnElAnterior) {
+    Proyecto(tmp / "proyectos/Anterior.trv");
+    const std::string anterior = LeerArchivo(tmp / "proyectos/Anterior.trv");
+    estado.NombreProyecto = "Anterior.trv";
+    estado.BDProyecto = BaseDatos::Abrir(tmp / "proyectos/Anterior.trv");
+    p.salvarComo = true;
+    fs::remove(Plantilla());
     d.archivos = {En("proyectos", "Sin.trv")};
     CrearNuevoProyecto(carpetas, estado, p);
     EXPECT_FALSE(fs::exists(tmp / "proyectos/Sin.trv"));
-    EXPECT_EQ(estado.NombreProyecto, "Sin.trv");
-    EXPECT_EQ(p.basesAbiertas.size(), 1u);
-    EXPECT_TRUE(d.preguntas.empty());
+    EXPECT_EQ(d.preguntas,
+              std::vector<Pregunta>{Error(53, "No se encontró el archivo: " + Plantilla())});
+    EXPECT_TRUE(p.datosGenerales.empty());
+    EXPECT_TRUE(p.basesAbiertas.empty());
+    EsperarSinProyecto();
+    EXPECT_EQ(LeerArchivo(tmp / "proyectos/Anterior.trv"), anterior);
 }
 
 // The questions around a beam; the project's names are searched ignoring case.

@@ -122,5 +122,28 @@ TEST_F(Rechazos, CodigoMensajeYArchivosIntactos) {
         EXPECT_FALSE(std::filesystem::exists(Ruta(nuevo))) << nuevo;
 }
 
+// --help and --version answer on the standard output with exit code 0, as such tools do;
+// no command, or either of them with more words, is a bad command line.
+TEST(Calc, AyudaYVersion) {
+    const std::tuple<Argumentos, int, std::string, std::string> casos[] = {
+        {{"--help"}, 0, "Uso: trevalo-calc ORDEN ...\nÓrdenes:\n  trevalo-calc resolver ", ""},
+        {{"-h"}, 0, "Uso: trevalo-calc ORDEN", ""},
+        {{"--version"}, 0, "trevalo-calc 6.0\n", ""},
+        {{}, 2, "", "Uso: trevalo-calc ORDEN"},
+        {{"--version", "x"}, 2, "", "Uso: trevalo-calc ORDEN"},
+        {{"--ayuda"}, 2, "", "Uso: trevalo-calc ORDEN"},
+    };
+    for (const auto& [args, codigo, salida, errores] : casos) {
+        const Salida r = Calc(args);
+        SCOPED_TRACE(r.salida + r.errores);
+        EXPECT_EQ(r.codigo, codigo);
+        EXPECT_EQ(r.salida.rfind(salida, 0), 0u);
+        EXPECT_EQ(r.errores.rfind(errores, 0), 0u);
+        EXPECT_EQ(r.salida.empty(), salida.empty());
+        EXPECT_EQ(r.errores.empty(), errores.empty());
+    }
+    EXPECT_NE(Calc({"--help"}).salida.find("  trevalo-calc --version"), std::string::npos);
+}
+
 } // namespace
 } // namespace trevalo::calc

@@ -1,5 +1,5 @@
-// The desktop program: builds the application and shows the start-up window; everything
-// else lives in the windows' library.
+// The desktop program: builds the application and shows the start-up window, with the project
+// file given on the command line, if any; everything else lives in the windows' library.
 
 #include <clocale>
 #include <cstdlib>
@@ -24,6 +24,13 @@ bool HayPantalla() {
 } // namespace
 
 int main(int argc, char** argv) {
+    QStringList argumentos;
+    for (int i = 1; i < argc; ++i) argumentos << QString::fromLocal8Bit(argv[i]);
+    const trevalo::LineaOrdenes linea = trevalo::LeerLineaOrdenes(argumentos);
+    if (!linea.Valida) {
+        std::cerr << linea.Error.toStdString();
+        return 2;
+    }
     if (!HayPantalla()) {
         std::cerr << "Trevalo necesita una pantalla gráfica y no encontró ninguna (DISPLAY o "
                      "WAYLAND_DISPLAY no están definidas).\n";
@@ -36,7 +43,7 @@ int main(int argc, char** argv) {
     trevalo::TraducirAlEspanol();
     trevalo::Programa programa(std::make_unique<trevalo::DialogosQt>());
     aplicacion.FijarDialogos(&programa.Dialogo());
-    auto* splash = new trevalo::Splash(programa, trevalo::EntornoDelSistema());
+    auto* splash = new trevalo::Splash(programa, trevalo::EntornoDelSistema(), linea.Proyecto);
     splash->show();
     const int codigo = aplicacion.exec();
     aplicacion.FijarDialogos(nullptr);

@@ -1,6 +1,7 @@
 #include "app/tools/Comandos.h"
 
 #include "model/Conversiones.h"
+#include "store/CarpetasPrograma.h"
 
 namespace trevalo::calc {
 
@@ -56,15 +57,29 @@ int Ejecutar(const EntradaComando& e, const Argumentos& args, std::ostream& sali
     }
 }
 
+void Uso(std::ostream& salida) {
+    salida << "Uso: trevalo-calc ORDEN ...\nÓrdenes:\n";
+    for (const auto& e : TablaComandos()) salida << "  trevalo-calc " << e.uso << "\n";
+    salida << "  trevalo-calc --help      esta ayuda\n"
+              "  trevalo-calc --version   la versión del programa\n";
+}
+
 } // namespace
 
 int EjecutarCalc(const Argumentos& args, std::ostream& salida, std::ostream& errores) {
+    if (args.size() == 1 && (args[0] == "--help" || args[0] == "-h")) {
+        Uso(salida);
+        return 0;
+    }
+    if (args.size() == 1 && args[0] == "--version") {
+        salida << "trevalo-calc " << VersionTrevalo << "\n";
+        return 0;
+    }
     if (!args.empty())
         for (const auto& e : TablaComandos())
             if (args[0] == e.nombre)
                 return Ejecutar(e, {args.begin() + 1, args.end()}, salida, errores);
-    errores << "Uso: trevalo-calc ORDEN ...\nÓrdenes:\n";
-    for (const auto& e : TablaComandos()) errores << "  trevalo-calc " << e.uso << "\n";
+    Uso(errores);
     return 2;
 }
 
