@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 
+#include "comun/Carpeta.h"
 #include "store/BaseDatos.h"
 
 namespace {
@@ -36,20 +37,19 @@ VigaActual VigaLlena(long nt) {
     return v;
 }
 
+// A project made from the template in a folder of its own, so that runs side by side never
+// share a file.
 struct Proyecto {
+    prueba::CarpetaTemporal carpeta;
     fs::path archivo;
     EstadoProyecto estado;
     explicit Proyecto(const std::string& nombre) {
-        archivo = fs::temp_directory_path() / nombre;
-        fs::remove(archivo);
+        archivo = carpeta / nombre;
         fs::copy_file(fs::path(TREVALO_RUTA_PROGRAMA) / "Imagen" / "ImagenViga.kvl", archivo);
         estado.BDProyecto.emplace(BaseDatos::Abrir(archivo.string()));
         AbrirRsGeneralViga(estado, ConsultaListaVigas);
     }
-    ~Proyecto() {
-        estado = EstadoProyecto{};
-        fs::remove(archivo);
-    }
+    ~Proyecto() { estado = EstadoProyecto{}; }
 };
 
 void SalvarVigaLlena(benchmark::State& state) {

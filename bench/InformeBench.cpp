@@ -6,12 +6,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
-
 #include <chrono>
 #include <ctime>
 #include <filesystem>
 
+#include "comun/Carpeta.h"
 #include "comun/Proyecto.h"
 #include "output/BaseInforme.h"
 #include "output/EscritoresInforme.h"
@@ -36,14 +35,8 @@ class DialogosContados : public Dialogos {
 namespace fs = std::filesystem;
 
 void InformeCompletoPdf(benchmark::State& state) {
-    static int argc = 1;
-    static char nombre[] = "banco_informe";
-    static char* argv[] = {nombre, nullptr};
-    static QGuiApplication app(argc, argv);
-
-    const fs::path carpeta = fs::temp_directory_path() / "trevalo_banco_informe";
-    fs::remove_all(carpeta);
-    fs::create_directories(carpeta);
+    const prueba::CarpetaTemporal temporales; // of this run alone
+    const fs::path carpeta = temporales.Ruta();
     const auto proyecto = carpeta / "Cien.trv";
     std::vector<VigaActual> vigas;
     std::vector<std::string> nombres;
@@ -97,7 +90,6 @@ void InformeCompletoPdf(benchmark::State& state) {
     state.counters["progreso"] = static_cast<double>(progresos) / n;
     state.counters["avisos"] = static_cast<double>(avisos) / n;
     state.counters["pdf_MB"] = static_cast<double>(fs::file_size(pdf)) / 1e6;
-    fs::remove_all(carpeta);
 }
 
 // The argument is the number of painting threads: one by one, and one a core of this machine.

@@ -3,8 +3,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
-
 #include "VigaBanco.h"
 #include "analysis/AnalisisVigasP.h"
 #include "drawing/Ploteos.h"
@@ -13,18 +11,8 @@
 namespace trevalo {
 namespace {
 
-QGuiApplication& Aplicacion() {
-    static int argc = 1;
-    static char nombre[] = "banco";
-    static char* argv[] = {nombre, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QGuiApplication app(argc, argv);
-    return app;
-}
-
 // range(0): 1 elevation, 2 diagrams, 3 design sheet, 4 reactions.
 void PlotearVigaPorVista(benchmark::State& estadoBanco) {
-    Aplicacion();
     const auto vista = estadoBanco.range(0);
     ProyectoActual proyecto;
     VigaActual viga = VigaTodasLasCargas(10);

@@ -23,20 +23,10 @@
 namespace trevalo {
 namespace {
 
-QApplication& Aplicacion() {
-    static int argc = 1;
-    static char nombre[] = "banco";
-    static char* argv[] = {nombre, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(argc, argv);
-    return app;
-}
-
 // A program over a data folder of its own, holding the sample project and a project with
 // the 20-span beam.
 struct ProgramaBanco {
     ProgramaBanco() : programa(std::make_unique<DialogosQt>()) {
-        Aplicacion();
         EntornoInicio entorno;
         entorno.RutaAplicacion = TREVALO_RUTA_PROGRAMA;
         entorno.CarpetaPersonal = Std(carpeta.path());

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <optional>
 
 #include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
@@ -25,15 +26,13 @@ Compactar1::Compactar1(Programa& programa, QWidget* padre) : QDialog(padre), pro
 
     modelo_ = new QFileSystemModel(this);
     modelo_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
-    // The user's own folders, unless the data lie elsewhere.
-    const QString raiz = Qs(programa_.Carpetas.RutaBase).startsWith(QDir::homePath())
-                             ? QDir::homePath()
-                             : QDir::rootPath();
-    modelo_->setRootPath(raiz);
+    // The whole file system, so that projects on other disks (under /media, /mnt) are
+    // reached as well as those of the user's folders.
+    modelo_->setRootPath(QDir::rootPath());
     folderView1_ = new QTreeView(this);
     folderView1_->setObjectName(QStringLiteral("FolderView1"));
     folderView1_->setModel(modelo_);
-    folderView1_->setRootIndex(modelo_->index(raiz));
+    folderView1_->setRootIndex(modelo_->index(QDir::rootPath()));
     // The folders are read in the background: the current one is brought into view as its
     // parents come in.
     connect(modelo_, &QFileSystemModel::directoryLoaded, this, [this](const QString& carpeta) {
@@ -135,6 +134,7 @@ void Compactar1::Aceptar() {
     const double paso = 100.0 / marcados.size();
     double avance = 0;
     int hechos = 0;
+    std::optional<Pregunta> falla;
     const std::string temporal = TemporalCompactar(Std(dirActual_));
     for (const QString& nombre : marcados) {
         progressBar1_->setValue(static_cast<int>(avance));
@@ -144,9 +144,8 @@ void Compactar1::Aceptar() {
         try {
             CompactarArchivo(Std(QDir(dirActual_).filePath(nombre)), temporal);
         } catch (const ErrorTrevalo& e) {
-            Pregunta mensaje = MensajeError(e);
-            mensaje.Texto += "    \nArchivo: " + Std(nombre) + "    ";
-            programa_.Dialogo().Mensaje(mensaje);
+            falla = MensajeError(e);
+            falla->Texto += "    \nArchivo: " + Std(nombre) + "    ";
             break;
         }
         ++hechos;
@@ -154,8 +153,16 @@ void Compactar1::Aceptar() {
     progressBar1_->hide();
     lsLabel1_->hide();
     folderView1_->setFocus();
+    const std::string cuenta = "(" + std::to_string(hechos) + ")";
+    if (falla) {
+        // The files after the one that failed were not touched: the run stops there.
+        falla->Texto += "\nSe Detuvo el Proceso: se Repararon y Compactaron " + cuenta + " de (" +
+                        std::to_string(marcados.size()) + ") Archivos.    ";
+        programa_.Dialogo().Mensaje(*falla);
+        return;
+    }
     programa_.Dialogo().Mensaje(
-        {"¡Se Repararon y Compactaron (" + std::to_string(hechos) + ") Archivos con Exito!    ",
+        {"¡Se Repararon y Compactaron " + cuenta + " Archivos con Exito!    ",
          "Mantenimientos de Archivos", BotonesMensaje::Aceptar, IconoMensaje::Informacion, 1});
 }
 

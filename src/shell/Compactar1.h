@@ -3,8 +3,9 @@
 // the list and runs them, one after the other in the order of the list, through the
 // engine's compaction, which also repairs. Each file is replaced in place; the open project
 // is closed first (the project window opens it again when it is next shown). A file that
-// cannot be compacted stops the run with the engine's message: the files done stay done and
-// that file is left as it was. The dialog stays open after a run.
+// cannot be compacted stops the run with the engine's message, which also says how many were
+// done before it: the files done stay done and that file is left as it was. The folder tree
+// covers the whole file system. The dialog stays open after a run.
 
 #include <QDialog>
 

@@ -84,6 +84,11 @@ class PunteroNormalMientras {
     bool espera_;
 };
 
+// The words of a filter of FiltrosQt, as the dialog's list shows them.
+QString PalabrasFiltro(const QString& filtroQt) {
+    return filtroQt.left(filtroQt.lastIndexOf(QStringLiteral(" ("))).simplified();
+}
+
 } // namespace
 
 void TraducirAlEspanol() {
@@ -102,12 +107,10 @@ QStringList FiltrosQt(const std::string& filtro) {
     const QStringList partes = Qs(filtro).split(QLatin1Char('|'));
     QStringList filtros;
     for (int i = 0; i + 1 < partes.size(); i += 2) {
-        const QString& palabras = partes[i];
         const QString patron = QString(partes[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
-        // Words that already name the pattern in brackets are a filter as they stand.
-        filtros << (palabras.endsWith(QLatin1Char(')'))
-                        ? palabras
-                        : palabras + QStringLiteral(" (") + patron + QLatin1Char(')'));
+        // The pattern always goes last: the toolkit takes the last brackets as the pattern, so
+        // words with brackets of their own ("Tabla de Perfiles (*.plf)") stay only words.
+        filtros << partes[i] + QStringLiteral(" (") + patron + QLatin1Char(')');
     }
     return filtros;
 }
@@ -149,16 +152,21 @@ ArchivoElegido DialogosQt::Archivo(const DialogoArchivo& d) {
                             : QFileDialog::ExistingFile);
     // The questions about an existing file are the program's own, unless it asks the dialog.
     dialogo.setOption(QFileDialog::DontConfirmOverwrite, !d.PreguntarReemplazo);
+    // The list of filters shows the words as they stand; the patterns work unseen.
+    dialogo.setOption(QFileDialog::HideNameFilterDetails);
     const QStringList filtros = FiltrosQt(d.Filtro);
     dialogo.setNameFilters(filtros);
     if (d.IndiceFiltro >= 1 && d.IndiceFiltro <= filtros.size())
         dialogo.selectNameFilter(filtros[d.IndiceFiltro - 1]);
     dialogo.setDefaultSuffix(SufijoDeFiltro(d.Filtro, d.IndiceFiltro));
-    // A name typed without extension takes that of the filter in view.
+    // A name typed without extension takes that of the filter in view, told by its words.
     QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
-                     [&dialogo, &d, &filtros](const QString& filtro) {
-                         dialogo.setDefaultSuffix(SufijoDeFiltro(
-                             d.Filtro, static_cast<int>(filtros.indexOf(filtro)) + 1));
+                     [&dialogo, &d, &filtros](const QString& palabras) {
+                         int indice = 0;
+                         while (indice < filtros.size() &&
+                                PalabrasFiltro(filtros[indice]) != palabras)
+                             ++indice;
+                         dialogo.setDefaultSuffix(SufijoDeFiltro(d.Filtro, indice + 1));
                      });
     if (!d.Nombre.empty()) dialogo.selectFile(Qs(d.Nombre));
     for (;;) {

@@ -25,7 +25,8 @@ void TraducirAlEspanol();
 // The window in front, over which a dialog opens.
 QWidget* VentanaActiva();
 
-// "words|pattern|words|pattern" as the file dialog's name filters ("words (pattern)").
+// "words|pattern|words|pattern" as the file dialog's name filters ("words (pattern)", the
+// pattern last even when the words hold brackets).
 QStringList FiltrosQt(const std::string& filtro);
 
 } // namespace trevalo

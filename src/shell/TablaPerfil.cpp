@@ -206,6 +206,7 @@ void TablaPerfil::CrearControles() {
     long2_ = new CampoNumero(panel3);
     long2_->setObjectName(QStringLiteral("Long2"));
     long2_->Configurar("0", sep, miles);
+    long2_->ColocarValor(0); // what a new table stores
     long2_->setMaximumWidth(90);
     check1_ = new QCheckBox(QStringLiteral("Modificar la Tabla"), panel3);
     check1_->setObjectName(QStringLiteral("Check1"));
@@ -228,6 +229,7 @@ void TablaPerfil::CrearControles() {
     long1_ = new CampoNumero(panel1);
     long1_->setObjectName(QStringLiteral("Long1"));
     long1_->Configurar("0", sep, miles);
+    long1_->ColocarValor(0); // an empty grid until rows are read
     long1_->setMaximumWidth(70);
     ssPanel3_ = new QWidget(panel1);
     ssPanel3_->setObjectName(QStringLiteral("SSPanel3"));
@@ -500,6 +502,9 @@ bool TablaPerfil::eventFilter(QObject* objeto, QEvent* evento) {
 void TablaPerfil::MostrarEmergente() {
     if (filaEmergente_ < 1 || filaEmergente_ > spread1_->rowCount()) return;
     lsFrame3_->hide();
+    // The frame has not been laid out before it is first shown: the sketch takes the size
+    // its picture will have.
+    lsFrame3_->layout()->activate();
     LienzoImagen lienzo(picture5_->width(), picture5_->height());
     lienzo.Cls();
     DisenoDe(familia_).dibujo(lienzo, FilaDelGrid(filaEmergente_));

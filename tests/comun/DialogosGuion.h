@@ -23,6 +23,8 @@ class DialogosGuion : public Dialogos {
     std::vector<Pregunta> preguntas;
     std::vector<PedidoTexto> pedidos;
     std::vector<DialogoArchivo> dialogosArchivo;
+    // When set, file dialogs are recorded and then shown by these (the toolkit's own).
+    Dialogos* archivosReales = nullptr;
 
     int Mensaje(const Pregunta& p) override {
         preguntas.push_back(p);
@@ -34,6 +36,7 @@ class DialogosGuion : public Dialogos {
     }
     ArchivoElegido Archivo(const DialogoArchivo& d) override {
         dialogosArchivo.push_back(d);
+        if (archivosReales) return archivosReales->Archivo(d);
         return Tomar(archivos, ArchivoElegido{});
     }
     std::optional<std::int32_t> Color(std::int32_t) override {

@@ -1,11 +1,14 @@
 // A person repairs and compacts project files from the main menu: nothing marked, then three
 // projects of the folder (the open one among them) over an old temporary file left by a
-// crash; then every file, with a damaged one in the middle of the list.
+// crash; then every file, with a damaged one in the middle of the list; and the folder tree,
+// which reaches beyond the home folder.
 
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTreeView>
 
 #include "VentanasPrueba.h"
 #include "comun/Proyecto.h"
@@ -137,16 +140,45 @@ class Compactar1Test : public QObject {
             Pulsar(w, "Command2");
             w.reject();
         });
-        // The engine's message naming the file, then the count of the one done before it.
+        // One message: the engine's, naming the file, the stop and the count of the one done
+        // before it; no word of success.
         const auto& preguntas = c.p.dialogos->preguntas;
-        QCOMPARE(preguntas.size(), std::size_t(2));
+        QCOMPARE(preguntas.size(), std::size_t(1));
         QVERIFY(preguntas[0].Titulo.starts_with("Error: "));
         QCOMPARE(preguntas[0].Icono, IconoMensaje::Advertencia);
-        QVERIFY(preguntas[0].Texto.ends_with("    \nArchivo: Dañado.trv    "));
-        QCOMPARE(preguntas[1], Cuenta(1));
+        QVERIFY(preguntas[0].Texto.ends_with(
+            "    \nArchivo: Dañado.trv    \n"
+            "Se Detuvo el Proceso: se Repararon y Compactaron (1) de (4) Archivos.    "));
         QCOMPARE(LeerArchivo(danado), antesDanado);
         QCOMPARE(LeerArchivo(c.Ruta("Zapatería.trv")), antesZapateria); // after the stop
         QVERIFY(!QFile::exists(Qs(TemporalCompactar(c.proyectos))));
+    }
+
+    // With the data folder in the user's home, the tree still reaches other disks and any
+    // folder outside the home, whose projects the list shows.
+    void ElArbolAlcanzaOtrosDiscos() {
+        Carpeta c;
+        const QByteArray casa = qgetenv("HOME");
+        qputenv("HOME", c.p.carpeta.Ruta().c_str());
+        CarpetaTemporal otroDisco;
+        CrearProyecto(otroDisco / "Puente.trv", {VigaPrueba("V-1", 1)}, AjustesPrueba());
+        Compactar1 v(c.p.programa);
+        qputenv("HOME", casa);
+        auto* arbol = Hijo<QTreeView>(v, QStringLiteral("FolderView1"));
+        const auto* modelo = static_cast<const QFileSystemModel*>(arbol->model());
+        const auto alcanza = [&](const QString& carpeta) {
+            QModelIndex nodo = modelo->index(carpeta);
+            while (nodo.isValid() && nodo != arbol->rootIndex()) nodo = nodo.parent();
+            return nodo.isValid();
+        };
+        for (const QString& carpeta : {QStringLiteral("/media"), QStringLiteral("/mnt"),
+                                       Qs(c.proyectos), Qs(otroDisco.Ruta())})
+            QVERIFY2(alcanza(carpeta), qPrintable(carpeta));
+        v.CambiarCarpeta(Qs(otroDisco.Ruta()));
+        QCOMPARE(v.DirActual(), Qs(otroDisco.Ruta()));
+        QCOMPARE(modelo->filePath(arbol->currentIndex()), Qs(otroDisco.Ruta()));
+        QCOMPARE(Nombres(Hijo<QListWidget>(v, QStringLiteral("FileView1")), false),
+                 QStringList{QStringLiteral("Puente.trv")});
     }
 };
 

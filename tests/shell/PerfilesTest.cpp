@@ -120,6 +120,8 @@ class Perfiles : public QObject {
                     QCOMPARE(t.Grid().rowCount(), 0);
                     QCOMPARE(t.Grid().columnCount(), c.columnas);
                     QVERIFY(t.Cambiada());
+                    QCOMPARE(Control(t, "Long1")->text(), QStringLiteral("0"));
+                    QCOMPARE(Control(t, "Long2")->text(), QStringLiteral("0"));
                     QVERIFY(!Control(t, "Long1")->isEnabled());
                     Control<QCheckBox>(t, "Check1")->setChecked(true);
                     Escribir(t, "Long1", QStringLiteral("3"));
@@ -185,6 +187,10 @@ class Perfiles : public QObject {
             QTest::mousePress(vista, Qt::LeftButton, Qt::NoModifier, celda);
             QTRY_VERIFY_WITH_TIMEOUT(t.Emergente()->isVisible(), 2000);
             QCOMPARE(Control<QLabel>(*t.Emergente(), "LabelV6")->text(), QStringLiteral("IPE 300"));
+            // The first sketch fills its picture, laid out in the frame.
+            const auto* dibujo = Control<QLabel>(*t.Emergente(), "Picture5");
+            QCOMPARE(dibujo->pixmap().size(), dibujo->size());
+            QVERIFY(dibujo->width() > t.Emergente()->width() / 2);
             const QPoint raton = vista->mapTo(&t, celda);
             QVERIFY(t.Emergente()->geometry().left() > raton.x());
             QVERIFY(t.Emergente()->geometry().top() > raton.y());
@@ -235,6 +241,7 @@ class Perfiles : public QObject {
     void GeneradorCapturaUnaSeccionEnLaTabla() {
         Tabla(F::DobleTee, "DobleTee_G.pfl", {"Generadas", 2530, {}});
         Editar(F::DobleTee, "DobleTee_G.pfl", [&](TablaPerfil& t) {
+            QCOMPARE(Control(t, "Long1")->text(), QStringLiteral("0")); // a table with no rows
             Control<QCheckBox>(t, "Check1")->setChecked(true);
             AlAbrirse<DobleTee>([&](DobleTee& g) {
                 QCOMPARE(g.windowTitle(), QStringLiteral("Propiedades Geométricas"));

@@ -32,13 +32,16 @@ void PulsarCelda(QTableWidget& grid, int fila, int columna, const std::function<
     QApplication::sendEvent(vista, &arriba);
 }
 
+// A table of the tables folder; a new one is first made from its template, as "Crear" makes it.
 void CapturarTabla(Programa& programa, QWidget& padre, FamiliaPerfil familia,
-                   const std::string& archivo, const QString& nombre) {
-    programa.Perfiles = {programa.Carpetas.RutaPerfiles + "/" + archivo, archivo, false, false};
+                   const std::string& archivo, const QString& nombre, bool nueva = false) {
+    const std::string ruta = programa.Carpetas.RutaPerfiles + "/" + archivo;
+    if (nueva) CrearTablaPerfiles(programa.Carpetas.RutaPrograma, familia, ruta);
+    programa.Perfiles = {ruta, archivo, nueva, false};
     TablaPerfil tabla(programa, familia, &padre);
     tabla.show();
     Guardar(tabla, nombre);
-    if (tabla.Emergente())
+    if (tabla.Emergente() && !nueva)
         PulsarCelda(tabla.Grid(), 4, 4,
                     [&] { Guardar(tabla, nombre + QStringLiteral("_croquis")); });
     tabla.hide();
@@ -53,6 +56,8 @@ void CapturasPerfiles(Programa& programa, QWidget& padre) {
                   QStringLiteral("21_tabla_doble_tee"));
     CapturarTabla(programa, padre, FamiliaPerfil::SeccionU, "U_UPN.pfl",
                   QStringLiteral("22_tabla_u"));
+    CapturarTabla(programa, padre, FamiliaPerfil::SeccionU, "U_Nueva.pfl",
+                  QStringLiteral("22_tabla_u_nueva"), true);
     CapturarTabla(programa, padre, FamiliaPerfil::TuboCuadrado, "Cuadrada_SHS.pfl",
                   QStringLiteral("23_tabla_cuadrada"));
     CapturarTabla(programa, padre, FamiliaPerfil::TuboRectangular, "Rectangular_RHS.pfl",
