@@ -14,6 +14,7 @@
 
 #include "VentanasPrueba.h"
 #include "analysis/AnalisisVigasP.h"
+#include "app/capturas/PrimeraViga.h"
 #include "design/TablaDiseno.h"
 #include "drawing/GeometriaPlot.h"
 #include "shell/Ayuda.h"
@@ -135,30 +136,6 @@ QStringList TitulosVentanas(ProgramaPrueba& p) {
     visor.VistaPreliminar();
     titulo(ExportarCAD(programa, ventana->NombresLista(), ventana.get()));
     return titulos;
-}
-
-// The beam of the manual's worked example as its steps type it: two spans of 5 m of the type
-// 0.30 x 0.50, a pin at joint 1 and rollers at joints 2 and 3, 1625 kgf/m on both spans.
-VigaActual PrimeraViga() {
-    VigaActual v;
-    NuevaVigaDefecto(v);
-    v.NT = 2;
-    RedimensionarViga(v);
-    for (long t = 1; t <= 2; ++t) {
-        v.LT(t) = 5.0;
-        v.VT(t) = 1.0;
-        v.FMayorTramo(t) = 1.5;
-        v.W1(t) = 1625;
-    }
-    v.NJRest = 3;
-    v.R1.Redim(3);
-    v.Apoyo.Redim(3);
-    const Apoyos apoyos[] = {ApoyoFijo, RodilloEnX, RodilloEnX};
-    for (long j = 1; j <= 3; ++j) {
-        v.R1(j) = static_cast<std::int16_t>(j);
-        v.Apoyo(j) = apoyos[j - 1];
-    }
-    return v;
 }
 
 // The help's contents, depth first: each section's title and the address of its topic.

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "app/capturas/Capturas.h"
+#include "app/capturas/PrimeraViga.h"
 #include "shell/Carga01.h"
 #include "shell/NuevaViga.h"
 #include "shell/TextoQt.h"
@@ -17,35 +18,6 @@
 namespace trevalo {
 
 namespace {
-
-const char* const NombrePrimeraViga = "PRIMERA VIGA";
-
-// The beam as the steps of the example leave it in the editor.
-void PrimeraViga(VigaActual& v) {
-    v.NombreVigaActual = NombrePrimeraViga;
-    NuevaVigaDefecto(v);
-    v.VigaNueva = true;
-    v.NT = 2;
-    RedimensionarViga(v);
-    for (long t = 1; t <= 2; ++t) {
-        v.LT(t) = 5.0;
-        v.VT(t) = 1.0;
-        v.FMayorTramo(t) = v.FMayoracion;
-        v.W1(t) = 1625;
-    }
-    v.NombreEje(3) = "3";
-    v.LDer(3) = v.LDer(2);
-    v.LIzq(3) = v.LIzq(2);
-    v.HC(3) = v.HC(2);
-    v.NJRest = 3;
-    v.R1.Redim(3);
-    v.Apoyo.Redim(3);
-    const Apoyos apoyos[] = {ApoyoFijo, RodilloEnX, RodilloEnX};
-    for (long j = 1; j <= 3; ++j) {
-        v.R1(j) = static_cast<std::int16_t>(j);
-        v.Apoyo(j) = apoyos[j - 1];
-    }
-}
 
 // The editor's pages of the example, moved through with " Siguiente " as a person does.
 void PaginasEditor(Programa& programa, VigasProyecto& ventana) {
@@ -79,7 +51,8 @@ void CapturasPrimeraViga(Programa& programa, VigasProyecto& ventana) {
     Guardar(nueva, QStringLiteral("PrimeraViga_1_nombre"));
     nueva.hide();
 
-    PrimeraViga(programa.Viga);
+    programa.Viga = PrimeraViga();
+    programa.Viga.VigaNueva = true;
     SalvarViga(programa.Estado, programa.Viga);
     ventana.ColoquePantalla();
     const auto nombres = ventana.NombresLista();
