@@ -1,6 +1,10 @@
-// generar-manual AYUDA.qhp MANUAL.pdf: prints the help's topics, in the order of its contents,
-// into the program's manual: a cover, a table of contents with the page of each chapter, and
-// a chapter per topic starting on a new page, numbered as the contents nest them.
+// generar-manual AYUDA.qhp CAPTURAS MANUAL.pdf: prints the help's topics, in the order of its
+// contents, into the program's manual: a cover, a table of contents with the page of each
+// chapter, and a chapter per topic starting on a new page, numbered as the contents nest them.
+// A section of the contents that points into a topic (Tema.html#ancla) is a numbered heading
+// of that topic's chapter. A topic shows the picture of a window where it says
+// <!-- captura: NOMBRE -->, NOMBRE.png from the folder of pictures the screenshot tour made
+// of the program; a picture that is not there stops the manual.
 
 #include <QAbstractTextDocumentLayout>
 #include <QDate>
@@ -8,13 +12,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QXmlStreamReader>
+#include <algorithm>
 #include <iostream>
+#include <stdexcept>
 
 namespace {
 
@@ -22,7 +29,12 @@ struct Capitulo {
     QString numero; // "2.1"
     QString titulo;
     QString archivo;
+    QString ancla; // the heading inside the topic; "" for the whole topic
 };
+
+// The widest picture: the width of the text on the page, in the pixels of a screen at 96 dpi
+// in which the document measures pictures.
+constexpr int AnchoImagen = 640;
 
 // The sections of the help's contents, depth first, numbered by their nesting.
 QList<Capitulo> Capitulos(const QString& proyecto) {
@@ -44,24 +56,49 @@ QList<Capitulo> Capitulos(const QString& proyecto) {
         ++numeros[profundidad++];
         QStringList numero;
         for (const int n : numeros) numero << QString::number(n);
+        const QStringList ref =
+            xml.attributes().value(QStringLiteral("ref")).toString().split(QLatin1Char('#'));
         capitulos.append({numero.join(QLatin1Char('.')),
-                          xml.attributes().value(QStringLiteral("title")).toString(),
-                          xml.attributes().value(QStringLiteral("ref")).toString()});
+                          xml.attributes().value(QStringLiteral("title")).toString(), ref[0],
+                          ref.value(1)});
     }
     return capitulos;
 }
 
-// The body of a topic without its own title, which the chapter heading replaces.
-QString Cuerpo(const QString& ruta) {
-    QFile archivo(ruta);
+// A window's picture (the tour draws its frame) at its size on a screen or narrowed to the text.
+QString Imagen(const QString& ruta) {
+    const QSize tamano = QImageReader(ruta).size();
+    if (!tamano.isValid()) throw std::runtime_error("falta la captura " + ruta.toStdString());
+    return QStringLiteral("<p align='center' style='margin-top:6px; margin-bottom:10px'>"
+                          "<img src='%1' width='%2'></p>")
+        .arg(QUrl::fromLocalFile(ruta).toString())
+        .arg(std::min(tamano.width(), AnchoImagen));
+}
+
+// The body of chapter i without its own title, which the chapter heading replaces: the
+// headings of its sections numbered and anchored for the contents, the pictures in place.
+QString Cuerpo(const QList<Capitulo>& capitulos, qsizetype i, const QString& carpeta,
+               const QString& capturas) {
+    QFile archivo(carpeta + QLatin1Char('/') + capitulos[i].archivo);
     if (!archivo.open(QIODevice::ReadOnly)) return {};
     QString html = QString::fromUtf8(archivo.readAll());
     const QRegularExpression cuerpo(QStringLiteral("<body[^>]*>(.*)</body>"),
                                     QRegularExpression::DotMatchesEverythingOption);
     const auto m = cuerpo.match(html);
     if (m.hasMatch()) html = m.captured(1);
-    return html.remove(QRegularExpression(QStringLiteral("<h1[^>]*>.*?</h1>"),
-                                          QRegularExpression::DotMatchesEverythingOption));
+    html.remove(QRegularExpression(QStringLiteral("<h1[^>]*>.*?</h1>"),
+                                   QRegularExpression::DotMatchesEverythingOption));
+    for (qsizetype s = i + 1; s < capitulos.size(); ++s)
+        if (capitulos[s].archivo == capitulos[i].archivo && !capitulos[s].ancla.isEmpty())
+            html.replace(QStringLiteral("<a name=\"%1\"></a>").arg(capitulos[s].ancla),
+                         QStringLiteral("<a name='cap%1'></a>%2 ").arg(s).arg(capitulos[s].numero));
+    const QRegularExpression captura(QStringLiteral("<!-- captura: (\\S+) -->"));
+    for (auto c = captura.globalMatch(html); c.hasNext();) {
+        const auto marca = c.next();
+        html.replace(marca.captured(0), Imagen(capturas + QLatin1Char('/') + marca.captured(1) +
+                                               QStringLiteral(".png")));
+    }
+    return html;
 }
 
 QString Portada() {
@@ -81,7 +118,8 @@ QString Indice(const QList<Capitulo>& capitulos, const QList<int>& paginas) {
     for (qsizetype i = 0; i < capitulos.size(); ++i) {
         const Capitulo& c = capitulos[i];
         const int nivel = int(c.numero.count(QLatin1Char('.')));
-        html += QStringLiteral("<tr><td style='padding-left:%1px%2'>%3&nbsp;&nbsp;%4</td>"
+        html += QStringLiteral("<tr><td style='white-space:pre-wrap; padding-left:%1px%2'>"
+                               "%3&nbsp;&nbsp;%4</td>"
                                "<td align='right'>%5</td></tr>")
                     .arg(nivel * 24)
                     .arg(nivel == 0 ? QStringLiteral("; font-weight:bold") : QString())
@@ -92,16 +130,17 @@ QString Indice(const QList<Capitulo>& capitulos, const QList<int>& paginas) {
 }
 
 QString Documento(const QList<Capitulo>& capitulos, const QList<int>& paginas,
-                  const QString& carpeta, const QString& estilo) {
+                  const QString& carpeta, const QString& capturas, const QString& estilo) {
     QString html = QStringLiteral("<html><head><style>") + estilo +
                    QStringLiteral("</style></head><body>") + Portada() + Indice(capitulos, paginas);
     for (qsizetype i = 0; i < capitulos.size(); ++i) {
         const Capitulo& c = capitulos[i];
+        if (!c.ancla.isEmpty()) continue; // a heading of its topic's chapter
         html +=
             QStringLiteral("<h1 style='page-break-before: always'><a name='cap%1'></a>%2 %3</h1>")
                 .arg(i)
                 .arg(c.numero, c.titulo.toHtmlEscaped()) +
-            Cuerpo(carpeta + QLatin1Char('/') + c.archivo);
+            Cuerpo(capitulos, i, carpeta, capturas);
     }
     return html + QStringLiteral("</body></html>");
 }
@@ -124,8 +163,8 @@ QList<int> Paginas(QTextDocument& documento, qsizetype n) {
 
 int main(int argc, char** argv) {
     QGuiApplication aplicacion(argc, argv);
-    if (argc != 3) {
-        std::cerr << "uso: generar-manual AYUDA.qhp MANUAL.pdf\n";
+    if (argc != 4) {
+        std::cerr << "uso: generar-manual AYUDA.qhp CAPTURAS MANUAL.pdf\n";
         return 2;
     }
     const QString proyecto = QString::fromLocal8Bit(argv[1]);
@@ -135,7 +174,8 @@ int main(int argc, char** argv) {
     css.open(QIODevice::ReadOnly);
     const QString estilo = QString::fromUtf8(css.readAll());
 
-    QPdfWriter pdf(QString::fromLocal8Bit(argv[2]));
+    const QString capturas = QString::fromLocal8Bit(argv[2]);
+    QPdfWriter pdf(QString::fromLocal8Bit(argv[3]));
     pdf.setTitle(QStringLiteral("Trevalo 6.0 - Manual del Programa"));
     pdf.setCreator(QStringLiteral("Trevalo 6.0"));
     pdf.setPageSize(QPageSize(QPageSize::A4));
@@ -152,9 +192,14 @@ int main(int argc, char** argv) {
     documento.setPageSize(pagina);
     // The first layout finds the chapters' pages; the second prints them in the contents,
     // whose lines keep their length.
-    documento.setHtml(Documento(capitulos, {}, carpeta, estilo));
-    const QList<int> paginas = Paginas(documento, capitulos.size());
-    documento.setHtml(Documento(capitulos, paginas, carpeta, estilo));
+    try {
+        documento.setHtml(Documento(capitulos, {}, carpeta, capturas, estilo));
+        const QList<int> paginas = Paginas(documento, capitulos.size());
+        documento.setHtml(Documento(capitulos, paginas, carpeta, capturas, estilo));
+    } catch (const std::runtime_error& e) {
+        std::cerr << e.what() << "\n";
+        return 1;
+    }
 
     const int total = documento.pageCount();
     for (int p = 0; p < total; ++p) {

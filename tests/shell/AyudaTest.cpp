@@ -1,21 +1,52 @@
 // A person asks for help: the topics from the menu with their contents, index and search;
-// F1 in each window opens that window's own topic; every window has a topic in the help file
-// and the manual was printed from them.
+// F1 in each window opens that window's own topic; every window has a topic in the help file,
+// found under the title the window shows, and the manual was printed from them; the manual's
+// worked example prints the program's own results.
 
 #include <QHelpContentWidget>
 #include <QHelpEngine>
 #include <QHelpIndexWidget>
 #include <QHelpSearchEngine>
+#include <QPrintPreviewDialog>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <cmath>
 
 #include "VentanasPrueba.h"
+#include "analysis/AnalisisVigasP.h"
+#include "app/capturas/PrimeraViga.h"
+#include "design/TablaDiseno.h"
+#include "drawing/GeometriaPlot.h"
 #include "shell/Ayuda.h"
+#include "shell/Calendario.h"
+#include "shell/Carga01.h"
+#include "shell/Carga02.h"
+#include "shell/Carga03.h"
+#include "shell/Carga04.h"
+#include "shell/Carga05.h"
+#include "shell/Carga06.h"
+#include "shell/Carga07.h"
+#include "shell/Carga08.h"
 #include "shell/Compactar1.h"
 #include "shell/ConfigurarPrograma.h"
+#include "shell/DatosG.h"
+#include "shell/DobleTee.h"
+#include "shell/ExportarCAD.h"
+#include "shell/ImpreReport.h"
+#include "shell/ImpreVigas.h"
 #include "shell/MenuP.h"
+#include "shell/NuevaViga.h"
+#include "shell/OpcionPerfil.h"
+#include "shell/Renombrar.h"
 #include "shell/Sobre.h"
+#include "shell/Splash.h"
+#include "shell/TablaPerfil.h"
 #include "shell/VentanaAyuda.h"
+#include "shell/VerReportes.h"
+#include "shell/VigaDatos.h"
+#include "shell/VigaSalvarComo.h"
+#include "shell/VigasMetalicas.h"
+#include "store/BaseDatos.h"
 
 using namespace trevalo;
 using namespace trevalo::prueba;
@@ -38,6 +69,81 @@ QString TemaConF1(QWidget& ventana) {
     const QString tema = ayuda->Actual().fileName();
     ayuda->close();
     return tema;
+}
+
+const QString Variable = QStringLiteral("…"); // a name in a title, as the contents write it
+
+// The title of every window of the program, the name of a project, beam or table in it
+// written as the help's contents write it. The windows are made over the sample project.
+QStringList TitulosVentanas(ProgramaPrueba& p) {
+    Programa& programa = p.programa;
+    const std::string proyecto = "Ejemplo Demostrativo.trv";
+    auto ventana = VentanaProyecto(p, proyecto);
+    QStringList titulos;
+    const auto titulo = [&titulos](const QWidget& w, const std::string& nombre = {}) {
+        QString t = w.windowTitle();
+        titulos << (nombre.empty() ? t : t.replace(Qs(nombre), Variable));
+    };
+    titulos << Splash(programa, p.entorno).windowTitle();
+    MenuP menu(programa);
+    titulo(menu, proyecto);
+    titulo(*ventana, proyecto);
+    titulo(DatosG(programa, &menu), proyecto);
+    titulo(Calendario(QDate::currentDate()));
+    titulo(ConfigurarPrograma(programa, &menu));
+    titulo(Compactar1(programa, &menu));
+    titulo(Sobre(programa, &menu));
+    if (VentanaAyuda* ayuda = AbrirAyuda(programa, QString(), &menu)) {
+        titulo(*ayuda);
+        ayuda->close();
+    }
+    const int fila = ventana->FilaActiva();
+    titulo(NuevaViga(
+        programa, fila, ventana->NombresLista(), [](int) {}, ventana.get()));
+    titulo(VigaSalvarComo(programa, fila, ventana.get()));
+    titulo(Renombrar(programa, ventana.get()));
+    {
+        VigaDatos editor(programa, ventana.get());
+        titulo(editor, programa.Viga.NombreVigaActual);
+        Arreglo<std::int16_t> marcas(programa.Viga.NT);
+        marcas(1) = 1;
+        titulo(Carga01(programa, marcas, &editor));
+        titulo(Carga02(programa, marcas, &editor));
+        titulo(Carga03(programa, marcas, &editor));
+        titulo(Carga04(programa, marcas, &editor));
+        titulo(Carga05(programa, marcas, &editor));
+        titulo(Carga06(programa, marcas, &editor));
+        titulo(Carga07(programa, marcas, &editor));
+        titulo(Carga08(programa, marcas, &editor));
+        titulo(VigasMetalicas(programa, &editor));
+    }
+    titulo(OpcionPerfil(programa, ventana.get()));
+    for (const FamiliaPerfil familia : TodasLasFamilias) {
+        programa.Perfiles = {programa.Carpetas.RutaPerfiles + "/DobleTee_IPE.pfl", Std(Variable),
+                             false, false};
+        titulo(TablaPerfil(programa, familia, ventana.get()));
+    }
+    titulo(DobleTee(
+        programa, [](const CapturaSeccion&) {}, ventana.get()));
+    titulo(ImpreVigas(programa, ventana->NombresLista(), ventana.get()));
+    titulo(ImpreReport(programa, ventana.get()));
+    VerReportes visor(programa, ContenidoInforme{}, ventana.get());
+    titulo(visor);
+    AlAbrirse<QPrintPreviewDialog>([&](QPrintPreviewDialog& vista) {
+        titulo(vista);
+        vista.reject();
+    });
+    visor.VistaPreliminar();
+    titulo(ExportarCAD(programa, ventana->NombresLista(), ventana.get()));
+    return titulos;
+}
+
+// The help's contents, depth first: each section's title and the address of its topic.
+void Secciones(QHelpContentItem* item, QList<std::pair<QString, QUrl>>& secciones) {
+    for (int i = 0; i < item->childCount(); ++i) {
+        secciones.append({item->child(i)->title(), item->child(i)->url()});
+        Secciones(item->child(i), secciones);
+    }
 }
 
 } // namespace
@@ -64,7 +170,7 @@ class AyudaTest : public QObject {
         QCOMPARE(paneles.tabText(2), QStringLiteral("Buscar"));
         QHelpEngine& motor = ayuda->Motor();
         // The chapters of the manual.
-        QTRY_COMPARE(motor.contentModel()->rowCount(QModelIndex()), 7);
+        QTRY_COMPARE(motor.contentModel()->rowCount(QModelIndex()), 8);
         QTRY_VERIFY(motor.indexModel()->stringList().contains(QStringLiteral("compactar")));
 
         // A word of a topic's text finds it.
@@ -104,16 +210,45 @@ class AyudaTest : public QObject {
         menu.close();
     }
 
-    void CadaVentanaTieneSuTemaYElManualExiste() {
+    void CadaVentanaSeEncuentraPorSuTitulo() {
         ProgramaPrueba p;
+        const QStringList titulos = TitulosVentanas(p);
+        QVERIFY(titulos.contains(QStringLiteral("Perfiles de Sección Doble Tee     Tabla: […]")));
         MenuP menu(p.programa);
         VentanaAyuda* ayuda = AbrirAyuda(p.programa, QString(), &menu);
         QVERIFY(ayuda);
-        for (const auto& [clase, tema] : TemasVentanas()) {
-            const QByteArray html = ayuda->Motor().fileData(VentanaAyuda::Direccion(tema));
-            QVERIFY2(html.contains("<h1>"), qPrintable(clase + QStringLiteral(": ") + tema));
+        QHelpContentModel& contenido = *ayuda->Motor().contentModel();
+        QTRY_COMPARE(contenido.rowCount(QModelIndex()), 8);
+        QList<std::pair<QString, QUrl>> secciones;
+        for (int r = 0; r < contenido.rowCount(QModelIndex()); ++r) {
+            QHelpContentItem* item = contenido.contentItemAt(contenido.index(r, 0));
+            secciones.append({item->title(), item->url()});
+            Secciones(item, secciones);
         }
+        QStringList enContenido;
+        for (const auto& [titulo, direccion] : secciones) {
+            enContenido << titulo;
+            // The topic opens under the same title, a section at its heading; every topic
+            // shows a picture of its window in the manual.
+            QUrl tema = direccion;
+            tema.setFragment(QString());
+            const QString html = QString::fromUtf8(ayuda->Motor().fileData(tema));
+            const QString encabezado =
+                direccion.hasFragment()
+                    ? QStringLiteral("<a name=\"%1\"></a>%2</h2>").arg(direccion.fragment(), titulo)
+                    : QStringLiteral("<h1>%1</h1>").arg(titulo);
+            QVERIFY2(html.contains(encabezado), qPrintable(encabezado));
+            QVERIFY2(html.contains(QStringLiteral("<!-- captura: ")), qPrintable(titulo));
+        }
+        for (const QString& titulo : titulos)
+            QVERIFY2(enContenido.contains(titulo), qPrintable(titulo));
+        // F1 opens a topic of the contents in every window.
+        QStringList temas;
+        for (const auto& seccion : secciones) temas << seccion.second.fileName();
+        for (const auto& [clase, tema] : TemasVentanas())
+            QVERIFY2(temas.contains(tema), qPrintable(clase + QStringLiteral(": ") + tema));
         ayuda->close();
+
         // The four profile tables are one class, told apart by name.
         QDialog tabla;
         tabla.setObjectName(QStringLiteral("TablaSeccionU"));
@@ -122,7 +257,60 @@ class AyudaTest : public QObject {
         QFile manual(Qs(p.programa.Carpetas.RutaPrograma + "/Manual/AyudaTrevalo6.pdf"));
         QVERIFY(manual.open(QIODevice::ReadOnly));
         QVERIFY(manual.read(5) == "%PDF-");
-        QVERIFY(manual.size() > 20000);
+        QVERIFY(manual.size() > 500000); // the pictures of the windows are in it
+    }
+
+    // The worked example's beam solved and designed by the program on the sample project's
+    // settings: the numbers the manual prints are the program's, and those of the closed form
+    // of two equal spans under a uniform load.
+    void ElEjemploImprimeLosResultadosDelPrograma() {
+        ProgramaPrueba p;
+        EstadoProyecto estado;
+        estado.BDProyecto =
+            BaseDatos::Abrir(p.programa.Carpetas.RutaProyectos + "/Ejemplo Demostrativo.trv");
+        ProyectoActual proyecto;
+        VigaActual viga = PrimeraViga();
+        ResultadosViga r;
+        AnalizarViga(LectorGeneralProyecto(*estado.BDProyecto), proyecto, viga, r);
+        GeometriaJuntas geometria;
+        GeometriaPlot(viga, geometria);
+        ResumenAcero resumen;
+        const auto tabla =
+            TablaDiseno(proyecto, viga, r, geometria.XPlot, geometria.YPlot, 10, resumen);
+        const EstacionDiseno& apoyo = tabla.front().Estaciones.back();
+
+        // Own weight folded into the load typed; a support moment hogging, negative.
+        const double w = 0.30 * 0.50 * proyecto.PesoConcreto + 1625, L = 5.0;
+        QCOMPARE(w, 2000.0);
+        const double EI = 15100 * std::sqrt(proyecto.FC) * 10000 * 0.30 * 0.125 / 12;
+        const auto entero = [](double x) { return QString::number(qRound(x)); };
+        const auto decimales = [](double x, int n) {
+            return QString::number(x, 'f', n).replace(QLatin1Char('.'), QLatin1Char(','));
+        };
+        const struct {
+            double programa, mano;
+            QString texto;
+        } valores[] = {
+            {r.ReacV(1), 0.375 * w * L, entero(r.ReacV(1))},
+            {r.ReacV(2), 1.25 * w * L, entero(r.ReacV(2))},
+            {r.ReacV(3), 0.375 * w * L, entero(r.ReacV(3))},
+            {r.MomJ(1), -w * L * L / 8, entero(r.MomJ(1))},
+            {r.GiroZ(1), -w * L * L * L / (48 * EI), decimales(r.GiroZ(1), 6)},
+            {apoyo.Mu, -1.5 * w * L * L / 8, entero(apoyo.Mu)},
+            {apoyo.AsSup, apoyo.AsSup, decimales(apoyo.AsSup, 2)},
+        };
+        MenuP menu(p.programa);
+        VentanaAyuda* ayuda = AbrirAyuda(p.programa, QString(), &menu);
+        QVERIFY(ayuda);
+        const QString tema = QString::fromUtf8(
+            ayuda->Motor().fileData(VentanaAyuda::Direccion(QStringLiteral("SuPrimeraViga.html"))));
+        for (const auto& v : valores) {
+            QVERIFY2(qAbs(v.programa - v.mano) <= 1e-9 * qAbs(v.mano), qPrintable(v.texto));
+            const QString celda = QStringLiteral("<td class=\"trevalo\">%1</td>").arg(v.texto);
+            QVERIFY2(tema.contains(celda), qPrintable(celda));
+        }
+        QVERIFY(apoyo.AsSup > 4.5); // above the least steel, which governs elsewhere
+        ayuda->close();
     }
 };
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <clocale>
@@ -12,6 +13,7 @@
 #include <iostream>
 
 #include "app/capturas/Capturas.h"
+#include "shell/Calendario.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
 #include "shell/MenuP.h"
@@ -38,10 +40,38 @@ void Esperar(int ms) {
     espera.exec();
 }
 
+namespace {
+
+// A window's picture under a title bar with its title, as a desktop frames it; a tool tip or
+// a window without title as it is.
+QPixmap ConTitulo(QWidget& ventana) {
+    const QPixmap contenido = ventana.grab();
+    const QString titulo = ventana.windowTitle();
+    if (!ventana.isWindow() || titulo.isEmpty() || ventana.windowType() == Qt::ToolTip)
+        return contenido;
+    const QSize tamano = contenido.deviceIndependentSize().toSize();
+    const int barra = 26;
+    QPixmap marco(QSize(tamano.width() + 2, tamano.height() + barra + 1) *
+                  contenido.devicePixelRatio());
+    marco.setDevicePixelRatio(contenido.devicePixelRatio());
+    marco.fill(QColor(0x2b, 0x4a, 0x78));
+    QPainter pintor(&marco);
+    pintor.drawPixmap(1, barra, contenido);
+    QFont letra = ventana.font();
+    letra.setBold(true);
+    pintor.setFont(letra);
+    pintor.setPen(Qt::white);
+    pintor.drawText(QRect(10, 0, tamano.width() - 20, barra), Qt::AlignVCenter | Qt::AlignLeft,
+                    titulo);
+    return marco;
+}
+
+} // namespace
+
 void Guardar(QWidget& ventana, const QString& nombre) {
     Esperar(150);
     const QString ruta = carpeta + QLatin1Char('/') + nombre + QStringLiteral(".png");
-    if (!ventana.grab().save(ruta)) std::cerr << "no se pudo escribir " << Std(ruta) << "\n";
+    if (!ConTitulo(ventana).save(ruta)) std::cerr << "no se pudo escribir " << Std(ruta) << "\n";
     std::cout << Std(ruta) << "\n";
 }
 
@@ -106,6 +136,8 @@ void Recorrido(Programa& programa) {
 
     DatosG datos(programa, &menu);
     Capturar(datos, QStringLiteral("07_datos_generales"));
+    Calendario calendario(QDate(2024, 3, 15), &datos);
+    Capturar(calendario, QStringLiteral("07_calendario"));
     NuevaViga nueva(
         programa, ventana.FilaActiva(), ventana.NombresLista(), [](int) {}, &ventana);
     Capturar(nueva, QStringLiteral("08_nueva_viga"));
@@ -125,6 +157,7 @@ void Recorrido(Programa& programa) {
     CapturasPerfiles(programa, ventana);
     CapturasExportar(programa, ventana);
     CapturasInformes(programa, ventana);
+    CapturasPrimeraViga(programa, ventana);
     ventana.hide();
     CapturasAjustes(programa, menu);
     menu.close();

@@ -42,5 +42,8 @@ void CapturasExportar(Programa& programa, VigasProyecto& ventana);
 // The report windows: the print dialog, the output kinds and the viewer on the sample
 // project's report (its head and a picture), over the project window on screen.
 void CapturasInformes(Programa& programa, VigasProyecto& ventana);
+// The steps of the manual's worked example: a new beam of two equal spans in the sample
+// project, typed, loaded and solved, from its name to its reactions.
+void CapturasPrimeraViga(Programa& programa, VigasProyecto& ventana);
 
 } // namespace trevalo

@@ -1,4 +1,6 @@
+#include <QApplication>
 #include <QCheckBox>
+#include <QTimer>
 
 #include "app/capturas/Capturas.h"
 #include "output/ProgramaInforme.h"
@@ -32,6 +34,21 @@ void CapturasInformes(Programa& programa, VigasProyecto& ventana) {
     visor.IrAPagina(3);
     visor.FijarZoom(75);
     Guardar(visor, QStringLiteral("17_visor_diagramas"));
+    // The system's print dialog and the preview, as the viewer's buttons open them.
+    const auto capturarModal = [](const QString& nombre) {
+        QTimer::singleShot(500, [nombre] {
+            if (QWidget* dialogo = QApplication::activeModalWidget()) {
+                Guardar(*dialogo, nombre);
+                dialogo->close();
+            }
+        });
+    };
+    // A file name of the user's kind, not the tour's folder.
+    visor.Impresora().setOutputFileName(QStringLiteral("Informe.pdf"));
+    capturarModal(QStringLiteral("18_imprimir_informe"));
+    visor.Imprimir();
+    capturarModal(QStringLiteral("19_vista_preliminar"));
+    visor.VistaPreliminar();
     visor.hide();
 }
 
