@@ -14,8 +14,8 @@ namespace trevalo {
 struct EstadoProyecto {
     std::string NombreProyecto; // file title with extension, no folder; empty: none chosen
     std::optional<BaseDatos> BDProyecto;
-    // "SELECT * FROM GeneralViga ORDER BY NombreViga"; the row at position p is row p + 1
-    // of the beam list.
+    // "SELECT * FROM GeneralViga ORDER BY NombreViga COLLATE ESPANOL"; the row at position p is row
+    // p + 1 of the beam list.
     std::optional<Recordset> RsGeneralViga;
     bool ProyectoNuevo = false;
     std::string NombreCopiaViga; // name under which CopiarViga writes
