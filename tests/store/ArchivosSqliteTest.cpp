@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cstdio>
-#include <regex>
 
 #include "ProyectoPrueba.h"
 #include "comun/Proyecto.h"
@@ -81,10 +80,12 @@ void CrearProyectoAntiguo(const std::string& ruta) {
     SQLite::Statement esquema(plantilla, "SELECT sql FROM sqlite_master WHERE sql IS NOT NULL "
                                          "ORDER BY type = 'index'");
     std::string guion;
-    while (esquema.executeStep())
-        guion += std::regex_replace(esquema.getColumn(0).getString(), std::regex("NombreViga TEXT"),
-                                    "NombreViga TEXT COLLATE ESPANOL") +
-                 ";\n";
+    while (esquema.executeStep()) {
+        std::string sql = esquema.getColumn(0).getString();
+        if (const auto i = sql.find("NombreViga TEXT"); i != std::string::npos)
+            sql.insert(i + 15, " COLLATE ESPANOL");
+        guion += sql + ";\n";
+    }
     BaseDatos::Crear(ruta).EjecutarGuion(guion);
 }
 

@@ -10,7 +10,6 @@
 #include <cmath>
 #include <filesystem>
 #include <limits>
-#include <regex>
 
 #include "model/Conversiones.h"
 #include "model/Errores.h"
@@ -95,10 +94,30 @@ bool LlevaColacion(ConexionDatos& c) {
     });
 }
 
-// The statement without its declarations of the collation.
-std::string SinColacion(const std::string& sql) {
-    static const std::regex colacion(R"(\s+COLLATE\s+("?)ESPANOL\1)", std::regex::icase);
-    return std::regex_replace(sql, colacion, "");
+// The statement without its declarations of the collation: "COLLATE ESPANOL" in any case,
+// the name bare or between double quotes, with the blanks before it.
+std::string SinColacion(std::string sql) {
+    auto esBlanco = [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; };
+    std::string mayusculas = sql;
+    for (char& c : mayusculas) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    for (std::size_t i = mayusculas.find("COLLATE"); i != std::string::npos;
+         i = mayusculas.find("COLLATE", i + 1)) {
+        std::size_t j = i + 7;
+        while (j < sql.size() && esBlanco(sql[j])) ++j;
+        const bool comillas = j < sql.size() && sql[j] == '"';
+        if (mayusculas.compare(j + comillas, 7, "ESPANOL") != 0) continue;
+        const std::size_t fin = j + comillas + 7 + comillas;
+        if (comillas ? fin > sql.size() || sql[fin - 1] != '"'
+                     : fin < sql.size() &&
+                           (std::isalnum(static_cast<unsigned char>(sql[fin])) || sql[fin] == '_'))
+            continue; // another collation's name
+        std::size_t inicio = i;
+        while (inicio > 0 && esBlanco(sql[inicio - 1])) --inicio;
+        sql.erase(inicio, fin - inicio);
+        mayusculas.erase(inicio, fin - inicio);
+        i = inicio;
+    }
+    return sql;
 }
 
 // Rebuilds every table that declares the collation without it, rows and indexes kept (the
