@@ -4,7 +4,8 @@
 --
 -- Only the fields the export writes are here, typed as the values written: 16-bit integers
 -- INTEGER, doubles REAL, yes/no INTEGER 0 or 1, texts TEXT. Nombre ties the rows of a beam
--- together and compares with the program's collation ESPANOL (case-blind, accents kept).
+-- together; the export compares it by the program's rules (case-blind, accents kept) in its
+-- statements, never in the schema, so any SQLite tool reads the file.
 
 CREATE TABLE Proyecto (
   Proyecto TEXT,
@@ -27,7 +28,7 @@ CREATE TABLE Proyecto (
 );
 
 CREATE TABLE VigaDatos (
-  Nombre TEXT COLLATE ESPANOL,
+  Nombre TEXT,
   NT INTEGER,
   EscViga INTEGER,
   EscCorte INTEGER,
@@ -49,7 +50,7 @@ CREATE TABLE VigaDatos (
 );
 
 CREATE TABLE VigaTramos (
-  Nombre TEXT COLLATE ESPANOL,
+  Nombre TEXT,
   Numero INTEGER,
   L REAL,
   B REAL,
@@ -58,7 +59,7 @@ CREATE TABLE VigaTramos (
 );
 
 CREATE TABLE VigaEjes (
-  Nombre TEXT COLLATE ESPANOL,
+  Nombre TEXT,
   Numero INTEGER,
   Eje TEXT,
   OpcionColInf INTEGER,
@@ -74,7 +75,7 @@ CREATE TABLE VigaEjes (
 );
 
 CREATE TABLE VigaEstribos (
-  Nombre TEXT COLLATE ESPANOL,
+  Nombre TEXT,
   Tramo INTEGER,
   ESeparacionIzq REAL,
   ERamasIzq INTEGER,
@@ -91,7 +92,7 @@ CREATE TABLE VigaEstribos (
 );
 
 CREATE TABLE VigaRefTeorico (
-  Nombre TEXT COLLATE ESPANOL,
+  Nombre TEXT,
   Numero INTEGER,
   Tramo INTEGER,
   AsSupIzquierda REAL,
@@ -103,11 +104,11 @@ CREATE TABLE VigaRefTeorico (
 );
 
 -- Tables the export only clears, beam by beam; the drawing program fills them.
-CREATE TABLE VigaAuxiliares (Nombre TEXT COLLATE ESPANOL);
-CREATE TABLE VigaCortes (Nombre TEXT COLLATE ESPANOL);
-CREATE TABLE VigaIguales (Nombre TEXT COLLATE ESPANOL);
-CREATE TABLE VigaParamento (Nombre TEXT COLLATE ESPANOL);
-CREATE TABLE VigaRefuerzoEjeInferior (Nombre TEXT COLLATE ESPANOL);
-CREATE TABLE VigaRefuerzoEjeSuperior (Nombre TEXT COLLATE ESPANOL);
-CREATE TABLE VigaRefuerzoTramoInferior (Nombre TEXT COLLATE ESPANOL);
-CREATE TABLE VigaRefuerzoTramoSuperior (Nombre TEXT COLLATE ESPANOL);
+CREATE TABLE VigaAuxiliares (Nombre TEXT);
+CREATE TABLE VigaCortes (Nombre TEXT);
+CREATE TABLE VigaIguales (Nombre TEXT);
+CREATE TABLE VigaParamento (Nombre TEXT);
+CREATE TABLE VigaRefuerzoEjeInferior (Nombre TEXT);
+CREATE TABLE VigaRefuerzoEjeSuperior (Nombre TEXT);
+CREATE TABLE VigaRefuerzoTramoInferior (Nombre TEXT);
+CREATE TABLE VigaRefuerzoTramoSuperior (Nombre TEXT);

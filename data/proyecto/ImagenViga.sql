@@ -2,9 +2,10 @@
 -- Imagen/ImagenViga.kvl; a new project is a copy of it.
 --
 -- Types: text TEXT; 16-bit, 32-bit integers and bytes INTEGER; double REAL; yes/no INTEGER
--- 0 or 1, never Null; the date as TEXT 'dd/MM/yyyy'. Beam names compare and sort with the
--- program's collation ESPANOL (case-blind, accents kept), known only to the program's own
--- connections. No key constraint: the program keeps keys unique by deleting first.
+-- 0 or 1, never Null; the date as TEXT 'dd/MM/yyyy'. Plain SQLite: no column names a
+-- collation, so any SQLite tool reads the file; the program compares and sorts beam names
+-- by its own rules (case-blind, accents kept) in its statements. No key constraint: the
+-- program keeps keys unique by deleting first.
 
 CREATE TABLE GeneralProyecto (
   Proyecto TEXT,
@@ -27,7 +28,7 @@ CREATE TABLE GeneralProyecto (
 );
 
 CREATE TABLE GeneralViga (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   NT INTEGER,
   OpcionConcreto INTEGER,
   OpcionCarga INTEGER,
@@ -36,14 +37,14 @@ CREATE TABLE GeneralViga (
 );
 
 CREATE TABLE Tramos (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   Tramo INTEGER,
   LT REAL,
   VT REAL
 );
 
 CREATE TABLE Juntas (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   Numero INTEGER,
   NombreEje TEXT,
   LDer REAL,
@@ -52,20 +53,20 @@ CREATE TABLE Juntas (
 );
 
 CREATE TABLE JuntasDesplazadas (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   R3 INTEGER,
   XX REAL,
   YY REAL
 );
 
 CREATE TABLE JuntasRestringidas (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   R1 INTEGER,
   Apoyo INTEGER
 );
 
 CREATE TABLE JuntasResortes (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   R10 INTEGER,
   SH10 REAL,
   SV10 REAL,
@@ -73,7 +74,7 @@ CREATE TABLE JuntasResortes (
 );
 
 CREATE TABLE TiposVigas (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   Tipo INTEGER,
   B1 REAL,
   T1 REAL,
@@ -81,7 +82,7 @@ CREATE TABLE TiposVigas (
 );
 
 CREATE TABLE CargasTramos (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   Tramo INTEGER,
   W1 INTEGER,
   Gravedad INTEGER,
@@ -196,7 +197,7 @@ CREATE TABLE CargasTramos (
 );
 
 CREATE TABLE AccionesNodales (
-  NombreViga TEXT COLLATE ESPANOL,
+  NombreViga TEXT,
   R2 INTEGER,
   QC1 REAL,
   QC2 REAL,

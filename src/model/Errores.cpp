@@ -24,4 +24,12 @@ ErrorTrevalo ErrorTrevalo::Cancelado() {
     return {ErrCancelado, "Cancelado"};
 }
 
+ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
+    if (ec == std::errc::no_such_file_or_directory)
+        return ErrorTrevalo(ErrArchivoNoEncontrado, "No se encontró el archivo");
+    if (ec == std::errc::permission_denied || ec == std::errc::operation_not_permitted)
+        return ErrorTrevalo(ErrPermisoDenegado, "Permiso denegado");
+    return ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
+}
+
 } // namespace trevalo

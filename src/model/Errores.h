@@ -8,6 +8,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace trevalo {
 
@@ -55,5 +56,8 @@ inline constexpr long ErrTablaNoEncontrada = 3078;   // the engine cannot find t
 inline constexpr long ErrNoEnColeccion = 3265;       // item not found in this collection
 inline constexpr long ErrFormatoNoReconocido = 3343; // unrecognized database format
 inline constexpr long ErrObjetoNoValido = 3420;      // object invalid or no longer set
+
+// The program's error of a failed file operation: 53 no file, 70 permission, else 75.
+ErrorTrevalo ErrorArchivo(const std::error_code& ec);
 
 } // namespace trevalo

@@ -264,7 +264,8 @@ std::string CarpetaProyectosCAD(const CarpetasPrograma& carpetas) {
 
 void LimpieRegistrosViga(BaseDatos& cad, const std::string& nombre) {
     for (const char* tabla : TablasVigaCAD)
-        cad.Ejecutar(std::string("DELETE FROM ") + tabla + " WHERE Nombre=?", {nombre});
+        cad.Ejecutar(std::string("DELETE FROM ") + tabla + " WHERE Nombre=? COLLATE ESPANOL",
+                     {nombre});
 }
 
 void EscribirProyectoCAD(BaseDatos& cad, const ProyectoActual& p, const std::string& fecha) {

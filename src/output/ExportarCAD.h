@@ -43,7 +43,7 @@ extern const char* const TablasVigaCAD[13];
 
 // The concrete beams of the project, the list the export takes its beams from.
 inline constexpr const char* ConsultaListaConcreto =
-    "SELECT * FROM GeneralViga WHERE OpcionConcreto=0 ORDER BY NombreViga ASC";
+    "SELECT * FROM GeneralViga WHERE OpcionConcreto=0 ORDER BY NombreViga COLLATE ESPANOL ASC";
 
 inline constexpr const char* TituloExportarCAD = "Exportar a Korvel-CAD Estructural 8.0";
 inline constexpr const char* FiltroProyectosCAD = "Korvel-Cad|*.Cad";

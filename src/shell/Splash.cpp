@@ -15,7 +15,7 @@ namespace trevalo {
 
 EntornoInicio EntornoDelSistema() {
     EntornoInicio entorno;
-    entorno.RutaAplicacion = Std(QCoreApplication::applicationDirPath());
+    entorno.RutaAplicacion = CarpetaInstalacion(Std(QCoreApplication::applicationDirPath()));
     entorno.CarpetaPersonal = Std(QDir::homePath());
     entorno.CarpetaDocumentos =
         Std(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));

@@ -38,6 +38,22 @@ template <typename T> void Leer(const Recordset& rs, const std::string& campo, T
     destino = Convertir<T>(rs.Campo(campo));
 }
 
+// The header of a beam in GeneralViga, by a name compared without regard to case.
+const char* const CabeceraViga = "SELECT * FROM GeneralViga WHERE NombreViga=? COLLATE ESPANOL";
+
+// The name of the beam as GeneralViga stores it, or `nombre` itself when there is none.
+std::string NombreEnArchivo(BaseDatos& bd, const std::string& nombre) {
+    auto rs = bd.AbrirRecordset(CabeceraViga, {nombre});
+    return rs.RecordCount() ? rs.Campo("NombreViga").Texto() : nombre;
+}
+
+// Deletes the rows of the beam stored as `guardado` from the eight child tables.
+void BorrarFilasHijas(BaseDatos& bd, const std::string& guardado) {
+    for (long i = 0; i < 8; ++i)
+        bd.Ejecutar(std::string("DELETE FROM ") + TablasViga[i] + " WHERE NombreViga=?",
+                    {guardado});
+}
+
 // Opens the rows of one beam in a table, in the order of its key, with the count exact.
 Recordset FilasDeViga(BaseDatos& bd, const std::string& tabla, const std::string& orden,
                       const std::string& nombre) {
@@ -89,8 +105,8 @@ void LeerCabecera(Recordset& rs, VigaActual& v) {
     LeerFilaViga(lector, TablaGeneralViga, v, 1);
 }
 
-void LeerTablasHijas(BaseDatos& bd, VigaActual& v) {
-    LectorTablas lector(bd, v.NombreVigaActual);
+void LeerTablasHijas(BaseDatos& bd, const std::string& guardado, VigaActual& v) {
+    LectorTablas lector(bd, guardado);
     LeerTablasViga(lector, v);
 }
 
@@ -226,14 +242,14 @@ BaseDatos AbrirBaseConTablas(const std::string& ruta, const std::vector<std::str
         throw ErrorTrevalo(ErrArchivoNoEncontrado, "No existe el archivo: " + ruta);
     const ErrorTrevalo noEsBase(ErrFormatoNoReconocido, noEs + ruta);
     try {
-        BaseDatos bd = BaseDatos::Abrir(ruta);
+        BaseDatos bd = BaseDatos::AbrirComoEsta(ruta);
         if (!TieneTablas(bd, tablas)) throw noEsBase;
-        return bd;
     } catch (const ErrorTrevalo& e) {
         if (e.Numero() == ErrFormatoNoReconocido) throw;
         throw ErrorTrevalo(ErrFormatoNoReconocido,
                            noEsBase.Descripcion() + " (" + e.Descripcion() + ")");
     }
+    return BaseDatos::Abrir(ruta); // a file of an earlier version is converted here
 }
 
 void AbrirProyectoArchivo(const std::string& ruta, EstadoProyecto& estado) {
@@ -311,15 +327,15 @@ std::function<void(ProyectoActual&)> LectorGeneralProyecto(const BaseDatos& bd) 
 void LeerViga(EstadoProyecto& estado, VigaActual& v) {
     try {
         BaseDatos& bd = ProyectoAbierto(estado);
-        auto cabecera =
-            bd.AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {v.NombreVigaActual});
+        auto cabecera = bd.AbrirRecordset(CabeceraViga, {v.NombreVigaActual});
         if (cabecera.RecordCount() == 0) {
             NuevaVigaDefecto(v);
             return;
         }
+        const std::string guardado = cabecera.Campo("NombreViga").Texto();
         LeerCabecera(cabecera, v);
         cabecera.Close();
-        LeerTablasHijas(bd, v);
+        LeerTablasHijas(bd, guardado, v);
     } catch (...) {
         // Whatever stopped the read, nothing half read is left to be shown as the beam.
         NuevaVigaDefecto(v);
@@ -331,14 +347,16 @@ void LeerViga(EstadoProyecto& estado, VigaActual& v) {
 
 void SalvarViga(EstadoProyecto& estado, VigaActual& v) {
     EscribirViga(estado, [&](BaseDatos& bd, Recordset& lista) {
+        std::string guardado = v.NombreVigaActual;
         if (v.VigaNueva) {
             lista.AddNew();
-            lista.Campo("NombreViga", Valor(v.NombreVigaActual));
+            lista.Campo("NombreViga", Valor(guardado));
         } else {
             lista.Edit();
+            guardado = lista.Campo("NombreViga").Texto();
         }
         EscribirCabecera(lista, v);
-        EscribirTablasHijas(bd, v, {v.NombreVigaActual, false});
+        EscribirTablasHijas(bd, v, {guardado, false});
     });
     estado.BeamNuevo = true;
     v.VigaNueva = false;
@@ -347,7 +365,9 @@ void SalvarViga(EstadoProyecto& estado, VigaActual& v) {
 void CopiarViga(EstadoProyecto& estado, const VigaActual& v) {
     const std::string copia = estado.NombreCopiaViga;
     EscribirViga(estado, [&](BaseDatos& bd, Recordset& lista) {
-        bd.Ejecutar("DELETE FROM GeneralViga WHERE NombreViga=?", {copia});
+        const std::string anterior = NombreEnArchivo(bd, copia);
+        BorrarFilasHijas(bd, anterior);
+        bd.Ejecutar("DELETE FROM GeneralViga WHERE NombreViga=?", {anterior});
         lista.AddNew();
         lista.Campo("NombreViga", Valor(copia));
         EscribirCabecera(lista, v);
@@ -356,12 +376,11 @@ void CopiarViga(EstadoProyecto& estado, const VigaActual& v) {
 }
 
 bool ExisteViga(BaseDatos& bd, const std::string& nombre) {
-    return bd.AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {nombre})
-               .RecordCount() > 0;
+    return bd.AbrirRecordset(CabeceraViga, {nombre}).RecordCount() > 0;
 }
 
 std::string NombreVigaGuardado(BaseDatos& bd, const std::string& nombre) {
-    auto rs = bd.AbrirRecordset("SELECT * FROM GeneralViga WHERE NombreViga=?", {nombre});
+    auto rs = bd.AbrirRecordset(CabeceraViga, {nombre});
     if (rs.RecordCount() == 0)
         throw ErrorTrevalo(ErrNoEnColeccion, "La viga no existe en el proyecto: " + nombre);
     return rs.Campo("NombreViga").Texto();
@@ -383,8 +402,7 @@ void EliminarViga(EstadoProyecto& estado, const std::string& nombre) {
     BaseDatos& bd = ProyectoAbierto(estado);
     Recordset& lista = ListaVigasAbierta(estado);
     Transaccion t(bd);
-    for (long i = 0; i < 8; ++i)
-        bd.Ejecutar(std::string("DELETE FROM ") + TablasViga[i] + " WHERE NombreViga=?", {nombre});
+    BorrarFilasHijas(bd, NombreEnArchivo(bd, nombre));
     lista.Delete();
     t.Confirmar();
 }

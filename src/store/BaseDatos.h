@@ -4,8 +4,19 @@
 //
 // Names travel as bound parameters, so any character of a name is stored as typed. Every
 // write of more than one statement runs in one transaction: on failure the file is as it
-// was. Name comparisons ignore case (the engine's collation): "viga ñ" and "VIGA Ñ" are one
-// beam.
+// was.
+//
+// Names keep their rules in the program, not in the file. A name that a person or a caller
+// gives is looked up in GeneralViga with the program's collation named in the statement
+// ("WHERE NombreViga=? COLLATE ESPANOL": case-blind, accents and ñ kept, "viga ñ" and
+// "VIGA Ñ" are one beam), and the list is sorted by it (Spanish order). Every other table
+// is then read and written under the name exactly as GeneralViga stores it, with SQLite's
+// own comparison. So the project file is plain SQLite: any tool checks it, and
+// "WHERE NombreViga = 'Viga 1'" finds a beam's rows in every table. Chosen over a folded key
+// stored beside each name: no second column to keep in step when a name is written by
+// another tool, no key that a new Unicode version would fold otherwise, and the lookup that
+// folds touches only GeneralViga, one row a beam, while the large tables keep their index on
+// the stored name.
 //
 // Failures. Every operation raises the program's error. LeerViga, SalvarViga and CopiarViga
 // raise it with the number of the error they met and the text the user reads (below); the
@@ -29,7 +40,8 @@ Recordset& ListaVigasAbierta(EstadoProyecto& estado);
 
 // Opens RsGeneralViga on `sql` and, when it has rows, MoveLast then MoveFirst.
 void AbrirRsGeneralViga(EstadoProyecto& estado, const std::string& sql);
-inline const char* const ConsultaListaVigas = "SELECT * FROM GeneralViga ORDER BY NombreViga";
+inline const char* const ConsultaListaVigas =
+    "SELECT * FROM GeneralViga ORDER BY NombreViga COLLATE ESPANOL";
 
 // Opens the project file at `ruta` into `estado`: NombreProyecto its file name, BDProyecto
 // its database, RsGeneralViga the beam list. A missing file raises 53 ("No existe el
@@ -39,9 +51,11 @@ inline const char* const ConsultaListaVigas = "SELECT * FROM GeneralViga ORDER B
 // it was.
 void AbrirProyectoArchivo(const std::string& ruta, EstadoProyecto& estado);
 
-// Opens the database at `ruta` when it holds every table named (case ignored). A missing file
-// raises 53 ("No existe el archivo: " + ruta); any other file raises 3343 (noEs + ruta, with
-// the engine's text in brackets when the engine refused it).
+// Opens the database at `ruta` when it holds every table named (case ignored), converting a
+// file of an earlier version (BaseDatos::Abrir). A missing file raises 53 ("No existe el
+// archivo: " + ruta); any other file raises 3343 (noEs + ruta, with the engine's text in
+// brackets when the engine refused it); a project that cannot be converted, the error of
+// the conversion.
 BaseDatos AbrirBaseConTablas(const std::string& ruta, const std::vector<std::string>& tablas,
                              const std::string& noEs);
 
@@ -83,8 +97,8 @@ std::string NombreVigaGuardado(BaseDatos& bd, const std::string& nombre);
 // nine tables, GeneralViga last. The caller requeries the list.
 void RenombrarViga(EstadoProyecto& estado);
 
-// Deletes the rows of `nombre` from the eight child tables, then the current row of
-// RsGeneralViga.
+// Deletes the rows of `nombre` (case ignored) from the eight child tables, then the current
+// row of RsGeneralViga.
 void EliminarViga(EstadoProyecto& estado, const std::string& nombre);
 
 } // namespace trevalo

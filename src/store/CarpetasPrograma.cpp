@@ -69,6 +69,11 @@ char SeparadorAscii(wchar_t c, char usual) {
 
 } // namespace
 
+std::string CarpetaInstalacion(const std::string& carpetaEjecutable) {
+    const fs::path carpeta = (fs::path(carpetaEjecutable) / "../share/trevalo").lexically_normal();
+    return SinBarraFinal(carpeta.string());
+}
+
 std::locale LocalDeLaMaquina() {
     try {
         return std::locale("");

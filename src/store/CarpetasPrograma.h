@@ -16,11 +16,17 @@
 
 namespace trevalo {
 
-// What the caller knows about the machine before start-up: the windows take the folder of
-// the executable, the home and the documents folders from the system, and the locale from
-// LocalDeLaMaquina().
+// The program's own folder of an installation whose executables lie in `carpetaEjecutable`:
+// "../share/trevalo" from there, as the install prefix lays it out (bin/trevalo,
+// share/trevalo/Imagen ...) and the build tree does too, so that any prefix works and no
+// absolute path is kept in the program. Given without "..", without a trailing "/".
+std::string CarpetaInstalacion(const std::string& carpetaEjecutable);
+
+// What the caller knows about the machine before start-up: the windows take the program's
+// folder (CarpetaInstalacion of the executable's), the home and the documents folders from
+// the system, and the locale from LocalDeLaMaquina().
 struct EntornoInicio {
-    std::string RutaAplicacion;    // folder of the executable; a trailing "/" is dropped
+    std::string RutaAplicacion;    // the program's own folder; a trailing "/" is dropped
     std::string CarpetaPersonal;   // the user's home folder, first choice of raiz
     std::string CarpetaDocumentos; // the documents folder, the fallback
     std::locale Local;             // number format of the machine

@@ -98,14 +98,6 @@ bool HayProyectoOElegir(const std::string& titulo, const CarpetasPrograma& carpe
 
 } // namespace
 
-ErrorTrevalo ErrorArchivo(const std::error_code& ec) {
-    if (ec == std::errc::no_such_file_or_directory)
-        return ErrorTrevalo(ErrArchivoNoEncontrado, "No se encontró el archivo");
-    if (ec == std::errc::permission_denied || ec == std::errc::operation_not_permitted)
-        return ErrorTrevalo(ErrPermisoDenegado, "Permiso denegado");
-    return ErrorTrevalo(ErrAccesoArchivo, "Error de acceso a la ruta o el archivo");
-}
-
 bool ExisteArchivoDisco(const std::string& ruta) {
     std::error_code ec;
     return std::filesystem::is_regular_file(ruta, ec);

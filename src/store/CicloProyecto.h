@@ -81,9 +81,6 @@ void BorrarArchivoDisco(const std::string& ruta);
 // "Trevalo 6.0  Proyecto: [" + nombre + "]" (two blanks before "Proyecto").
 std::string TituloMenu(const std::string& nombreProyecto);
 
-// The program's error of a failed file operation: 53 no file, 70 permission, else 75.
-ErrorTrevalo ErrorArchivo(const std::error_code& ec);
-
 // The path of the current project: its folder (RutaProyectos when none is kept) + "/" +
 // NombreProyecto.
 std::string RutaProyectoActual(const CarpetasPrograma& carpetas, const EstadoProyecto& estado);

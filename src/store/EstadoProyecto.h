@@ -15,8 +15,8 @@ struct EstadoProyecto {
     std::string NombreProyecto;  // file title with extension, no folder; empty: none chosen
     std::string CarpetaProyecto; // folder of the project file; empty: RutaProyectos
     std::optional<BaseDatos> BDProyecto;
-    // "SELECT * FROM GeneralViga ORDER BY NombreViga"; the row at position p is row p + 1
-    // of the beam list.
+    // "SELECT * FROM GeneralViga ORDER BY NombreViga COLLATE ESPANOL"; the row at position p is row
+    // p + 1 of the beam list.
     std::optional<Recordset> RsGeneralViga;
     bool ProyectoNuevo = false;
     std::string NombreCopiaViga; // name under which CopiarViga writes

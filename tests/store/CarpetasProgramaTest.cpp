@@ -184,4 +184,13 @@ TEST_F(Inicio, SeparadoresPasanALasCarpetas) {
     EXPECT_EQ(carpetas.SeparadorMiles, '.');
 }
 
+TEST(CarpetaInstalacion, EsShareTrevaloJuntoAlBinDelEjecutable) {
+    const std::pair<const char*, const char*> casos[] = {
+        {"/usr/bin", "/usr/share/trevalo"},
+        {"/opt/trevalo/bin/", "/opt/trevalo/share/trevalo"},
+        {"/home/ana/trevalo/build/bin", "/home/ana/trevalo/build/share/trevalo"},
+    };
+    for (const auto& [bin, carpeta] : casos) EXPECT_EQ(CarpetaInstalacion(bin), carpeta) << bin;
+}
+
 } // namespace

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "store/BaseDatos.h"
+#include "store/CarpetasPrograma.h"
 
 namespace trevalo::calc {
 
@@ -16,7 +17,8 @@ void CargarVigaCalc(EstadoProyecto& estado, const std::string& nombre, ProyectoA
 }
 
 std::string RutaProgramaCalc() {
-    return std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+    return CarpetaInstalacion(
+        std::filesystem::read_symlink("/proc/self/exe").parent_path().string());
 }
 
 } // namespace trevalo::calc

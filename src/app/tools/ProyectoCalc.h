@@ -19,7 +19,8 @@ namespace trevalo::calc {
 void CargarVigaCalc(EstadoProyecto& estado, const std::string& nombre, ProyectoActual& proyecto,
                     VigaActual& viga);
 
-// The program's own folder, where the executable lies: Imagen/ beside it holds the templates.
+// The program's own folder, share/trevalo beside the executable's bin/ (CarpetaInstalacion):
+// Imagen/ in it holds the templates.
 std::string RutaProgramaCalc();
 
 } // namespace trevalo::calc

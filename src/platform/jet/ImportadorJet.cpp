@@ -66,12 +66,11 @@ std::string TipoColumna(const MdbHandle* mdb, const MdbColumn* col) {
     case MDB_BINARY:
         return "VARBINARY(" + std::to_string(col->col_size) + ")";
     case MDB_TEXT: // Jet 4 keeps two bytes a character
-        return "VARCHAR(" + std::to_string(jet4 ? col->col_size / 2 : col->col_size) +
-               ") COLLATE ESPANOL";
+        return "VARCHAR(" + std::to_string(jet4 ? col->col_size / 2 : col->col_size) + ")";
     case MDB_OLE:
         return "LONGBINARY";
     case MDB_MEMO:
-        return "LONGTEXT COLLATE ESPANOL";
+        return "LONGTEXT";
     case MDB_REPID:
         return "GUID";
     case MDB_NUMERIC:

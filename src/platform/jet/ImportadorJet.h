@@ -3,10 +3,10 @@
 // .pfl): Jet 3 or Jet 4 databases, read through mdbtools, copied whole into a new file of the
 // program's engine with the same tables, columns and column types.
 //
-// Types: text VARCHAR(n) and memo LONGTEXT (UTF-8, compared with the program's collation
-// ESPANOL); byte TINYINT, integer SMALLINT, long INTEGER; single REAL, double DOUBLE,
-// currency CURRENCY and decimal DECIMAL(p,s) as reals; boolean BOOLEAN as 0 or 1; date
-// DATETIME as the text "yyyy-mm-dd hh:mm:ss"; binary VARBINARY(n) and OLE LONGBINARY as
+// Types: text VARCHAR(n) and memo LONGTEXT (UTF-8, no collation declared: the program's
+// statements compare names by its own rules); byte TINYINT, integer SMALLINT, long INTEGER; single
+// REAL, double DOUBLE, currency CURRENCY and decimal DECIMAL(p,s) as reals; boolean BOOLEAN as 0 or
+// 1; date DATETIME as the text "yyyy-mm-dd hh:mm:ss"; binary VARBINARY(n) and OLE LONGBINARY as
 // bytes; replication ids GUID as text. Null stays Null. In a project the date is the text
 // "dd/MM/yyyy", the form in which the program keeps a project's date.
 //

@@ -8,6 +8,7 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <filesystem>
 #include <limits>
 
 #include "model/Conversiones.h"
@@ -35,6 +36,12 @@ template <typename F> auto Motor(F&& f) -> decltype(f()) {
     } catch (const SQLite::Exception& e) {
         throw ErrorMotor(e);
     }
+}
+
+std::string Identificador(const std::string& nombre) {
+    std::string r = "\"";
+    for (char ch : nombre) r += ch == '"' ? std::string("\"\"") : std::string(1, ch);
+    return r + "\"";
 }
 
 // --- The collation of names ---------------------------------------------------------------
@@ -74,6 +81,86 @@ std::shared_ptr<ConexionDatos> Conectar(const std::string& ruta, int banderas) {
         return c;
     });
 }
+
+// --- Files of earlier versions, whose schema declared the collation ----------------------------
+
+const char* const DeclaraColacion = "sql LIKE '%COLLATE%ESPANOL%'";
+
+bool LlevaColacion(ConexionDatos& c) {
+    return Motor([&] {
+        return c.db.execAndGet(std::string("SELECT count(*) FROM sqlite_master WHERE ") +
+                               DeclaraColacion)
+                   .getInt() > 0;
+    });
+}
+
+// The statement without its declarations of the collation: "COLLATE ESPANOL" in any case,
+// the name bare or between double quotes, with the blanks before it.
+std::string SinColacion(std::string sql) {
+    auto esBlanco = [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; };
+    std::string mayusculas = sql;
+    for (char& c : mayusculas) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    for (std::size_t i = mayusculas.find("COLLATE"); i != std::string::npos;
+         i = mayusculas.find("COLLATE", i + 1)) {
+        std::size_t j = i + 7;
+        while (j < sql.size() && esBlanco(sql[j])) ++j;
+        const bool comillas = j < sql.size() && sql[j] == '"';
+        if (mayusculas.compare(j + comillas, 7, "ESPANOL") != 0) continue;
+        const std::size_t fin = j + comillas + 7 + comillas;
+        if (comillas ? fin > sql.size() || sql[fin - 1] != '"'
+                     : fin < sql.size() &&
+                           (std::isalnum(static_cast<unsigned char>(sql[fin])) || sql[fin] == '_'))
+            continue; // another collation's name
+        std::size_t inicio = i;
+        while (inicio > 0 && esBlanco(sql[inicio - 1])) --inicio;
+        sql.erase(inicio, fin - inicio);
+        mayusculas.erase(inicio, fin - inicio);
+        i = inicio;
+    }
+    return sql;
+}
+
+// Rebuilds every table that declares the collation without it, rows and indexes kept (the
+// way SQLite's documentation changes a column's declaration: a new table, the rows copied).
+void QuitarColacion(BaseDatos& bd) {
+    struct Tabla {
+        std::string nombre, sql;
+        std::vector<std::string> indices;
+    };
+    std::vector<Tabla> tablas;
+    for (auto rs = bd.AbrirRecordset(std::string("SELECT name, sql FROM sqlite_master WHERE "
+                                                 "type='table' AND ") +
+                                     DeclaraColacion);
+         !rs.AlFinal(); rs.MoveNext())
+        tablas.push_back({rs.Campo("name").Texto(), rs.Campo("sql").Texto(), {}});
+    for (Tabla& t : tablas) {
+        for (auto rs = bd.AbrirRecordset("SELECT sql FROM sqlite_master WHERE type='index' AND "
+                                         "tbl_name=? AND sql IS NOT NULL",
+                                         {t.nombre});
+             !rs.AlFinal(); rs.MoveNext())
+            t.indices.push_back(rs.Campo("sql").Texto());
+        const std::string nombre = Identificador(t.nombre);
+        const std::string antigua = Identificador(t.nombre + "_conversion");
+        bd.EjecutarGuion("ALTER TABLE " + nombre + " RENAME TO " + antigua + ";" +
+                         SinColacion(t.sql) + ";INSERT INTO " + nombre + " SELECT * FROM " +
+                         antigua + " ORDER BY rowid;DROP TABLE " + antigua + ";");
+        for (const std::string& indice : t.indices) bd.EjecutarGuion(SinColacion(indice));
+    }
+}
+
+void Borrar(const std::string& ruta) {
+    std::error_code ec;
+    std::filesystem::remove(ruta, ec);
+}
+
+// The first line of the engine's integrity check of the file: "ok" when sound.
+std::string Integridad(const std::string& ruta) {
+    auto c = Conectar(ruta, SQLite::OPEN_READONLY);
+    return Motor([&] { return c->db.execAndGet("PRAGMA integrity_check").getString(); });
+}
+
+// SQLite's code for a damaged database.
+constexpr long ErrBaseDanada = 11;
 
 // --- Values ----------------------------------------------------------------------------------
 
@@ -152,12 +239,6 @@ bool SeleccionDeTabla(const std::string& f, std::string& tabla, std::string& res
                              IgualesSinCaso(siguiente, "ORDER"));
 }
 
-std::string Identificador(const std::string& nombre) {
-    std::string r = "\"";
-    for (char ch : nombre) r += ch == '"' ? std::string("\"\"") : std::string(1, ch);
-    return r + "\"";
-}
-
 } // namespace
 
 // --- Valor -------------------------------------------------------------------------------------
@@ -220,6 +301,19 @@ Valor::Binario Valor::Bytes() const {
 BaseDatos::BaseDatos(std::shared_ptr<ConexionDatos> conexion) : conexion_(std::move(conexion)) {}
 
 BaseDatos BaseDatos::Abrir(const std::string& ruta) {
+    auto conexion = Conectar(ruta, SQLite::OPEN_READWRITE);
+    if (!LlevaColacion(*conexion)) return BaseDatos(std::move(conexion));
+    conexion.reset(); // closed before the converted copy takes the file's place
+    try {
+        ReemplazarPorCopia(ruta, ruta + ".conversion", QuitarColacion);
+    } catch (const ErrorTrevalo& e) {
+        throw ErrorTrevalo(e.Numero(), "No se pudo convertir el archivo al formato actual: " +
+                                           ruta + " (" + e.Descripcion() + ")");
+    }
+    return AbrirComoEsta(ruta);
+}
+
+BaseDatos BaseDatos::AbrirComoEsta(const std::string& ruta) {
     return BaseDatos(Conectar(ruta, SQLite::OPEN_READWRITE));
 }
 
@@ -241,6 +335,29 @@ void BaseDatos::EjecutarGuion(const std::string& sql) {
 
 const std::string& BaseDatos::Ruta() const {
     return conexion_->ruta;
+}
+
+void ReemplazarPorCopia(const std::string& ruta, const std::string& temporal,
+                        const std::function<void(BaseDatos& copia)>& preparar) {
+    Borrar(temporal);
+    try {
+        BaseDatos::AbrirComoEsta(ruta).Ejecutar("VACUUM INTO ?", {temporal});
+        if (preparar) {
+            BaseDatos copia = BaseDatos::AbrirComoEsta(temporal);
+            Transaccion t(copia);
+            preparar(copia);
+            t.Confirmar();
+        }
+        if (const std::string estado = Integridad(temporal); estado != "ok")
+            throw ErrorTrevalo(ErrBaseDanada,
+                               "La copia de " + ruta + " no pasó la verificación: " + estado);
+        std::error_code ec;
+        std::filesystem::rename(temporal, ruta, ec);
+        if (ec) throw ErrorArchivo(ec);
+    } catch (const ErrorTrevalo&) {
+        Borrar(temporal);
+        throw;
+    }
 }
 
 // --- Transaccion -----------------------------------------------------------------------------

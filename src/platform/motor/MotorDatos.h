@@ -3,11 +3,20 @@
 // database): SQLite files behind a small handle, statements with bound parameters, an
 // updatable recordset with a current position, and a transaction guard.
 //
-// Names. Every connection carries the collation "ESPANOL" (ICU, Spanish rules, secondary
-// strength): comparisons ignore case for every letter (á = Á, ñ = Ñ, ü = Ü, "viga ñ" =
-// "VIGA Ñ") but keep accents and the ñ apart ("a" <> "á", "n" <> "ñ"), as the earlier
-// engine of the users' files compared text. Name columns of the templates declare it, so
-// every search and ORDER BY on them follows it.
+// Names. Every connection of the program carries the collation "ESPANOL" (ICU, Spanish
+// rules, secondary strength): comparisons ignore case for every letter (á = Á, ñ = Ñ,
+// ü = Ü, "viga ñ" = "VIGA Ñ") but keep accents and the ñ apart ("a" <> "á", "n" <> "ñ"), as
+// the earlier engine of the users' files compared text. No schema declares it: the program's
+// own statements name it where they look up or sort names ("... WHERE Nombre=? COLLATE
+// ESPANOL", "ORDER BY Nombre COLLATE ESPANOL"), so that every file stays plain SQLite that
+// any tool checks and queries (the stock shell, Python), with SQLite's binary comparison.
+//
+// Files of earlier versions declared the collation in their schema, and no other tool could
+// read them. Abrir converts such a file once: a copy written beside it as "<file>.conversion"
+// gets every table rebuilt without the collation, in one transaction, passes the integrity
+// check, and is renamed over the file (as compaction does). A file that cannot be converted
+// is left as it was, and the error of the failed step is raised with the text "No se pudo
+// convertir el archivo al formato actual: " + path + " (" + the step's text + ")".
 //
 // Errors. Every engine failure becomes ErrorTrevalo with SQLite's extended result code and
 // its text. Recordset misuse raises the numbers users know from the earlier engine:
@@ -16,6 +25,7 @@
 // Conversions of a field value raise 94 (Null), 13 (not a number) and 6 (out of range).
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <variant>
@@ -73,9 +83,13 @@ struct ConexionDatos; // the open SQLite connection, shared by the handle and it
 // when the last handle and the last recordset on it are gone.
 class BaseDatos {
   public:
-    // Opens an existing file for reading and writing. A missing file or a file that is not
-    // a database raises the engine's error (14, 26).
+    // Opens an existing file for reading and writing; a file whose schema declares the
+    // collation is converted first (above). A missing file or a file that is not a database
+    // raises the engine's error (14, 26).
     static BaseDatos Abrir(const std::string& ruta);
+    // Opens the file as it stands, never converting it: to look into a file before it is
+    // taken for one of the program's.
+    static BaseDatos AbrirComoEsta(const std::string& ruta);
     // Opens the file, creating an empty database if it does not exist. Used to build
     // templates and by tests; the program copies templates instead.
     static BaseDatos Crear(const std::string& ruta);
@@ -98,6 +112,16 @@ class BaseDatos {
     std::shared_ptr<ConexionDatos> conexion_;
     friend class Transaccion;
 };
+
+// Writes a copy of the database `ruta` at `temporal` (compacted: SQLite's VACUUM INTO), lets
+// `preparar` change the copy inside one transaction, checks the copy's integrity and renames
+// it over `ruta` in one step: at no moment does the data live only in the copy. An older file
+// at `temporal` is deleted first and never reused. On any failure `ruta` is untouched,
+// `temporal` is gone and the error is raised: the engine's (26, 11, 14 ...); 11 when the copy
+// fails its integrity check; 70 or 75 when the copy cannot take the file's place. `ruta` must
+// not be open.
+void ReemplazarPorCopia(const std::string& ruta, const std::string& temporal,
+                        const std::function<void(BaseDatos& copia)>& preparar = {});
 
 // One transaction around a multi-statement write: Confirmar() makes the writes permanent;
 // leaving the scope without it (an exception) takes every write back, so the file is as it

@@ -1,9 +1,12 @@
-// The database engine: name collation, recordset movement and writes, transactions, errors.
+// The database engine: name collation, conversion of files that declared it, recordset
+// movement and writes, transactions, errors.
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+
+#include <SQLiteCpp/SQLiteCpp.h>
 
 #include "comun/Aserciones.h"
 #include "comun/Carpeta.h"
@@ -18,8 +21,7 @@ class MotorDatos : public ::testing::Test {
   protected:
     void SetUp() override {
         bd_.emplace(BaseDatos::Crear(dir_ / "prueba.db"));
-        bd_->EjecutarGuion("CREATE TABLE Nombres (Nombre TEXT COLLATE ESPANOL, N INTEGER, "
-                           "X REAL DEFAULT 7.5);");
+        bd_->EjecutarGuion("CREATE TABLE Nombres (Nombre TEXT, N INTEGER, X REAL DEFAULT 7.5);");
     }
     void Poner(const std::vector<std::string>& nombres) {
         long n = 1;
@@ -54,14 +56,48 @@ TEST_F(MotorDatos, LaColacionIgualaMayusculasYGuardaAcentos) {
         SCOPED_TRACE(std::string(c.a) + " / " + c.b);
         bd_->Ejecutar("DELETE FROM Nombres");
         Poner({c.a});
-        EXPECT_EQ(Leer("SELECT * FROM Nombres WHERE Nombre=?", {c.b}).size(), c.iguales ? 1u : 0u);
+        EXPECT_EQ(Leer("SELECT * FROM Nombres WHERE Nombre=? COLLATE ESPANOL", {c.b}).size(),
+                  c.iguales ? 1u : 0u);
     }
 }
 
 TEST_F(MotorDatos, ElOrdenEsElDelAlfabetoEspanol) {
     Poner({"ñandú", "Oso", "nube", "Árbol", "avión", "Zeta", "NZ"});
-    EXPECT_EQ(Leer("SELECT * FROM Nombres ORDER BY Nombre"),
+    EXPECT_EQ(Leer("SELECT * FROM Nombres ORDER BY Nombre COLLATE ESPANOL"),
               (std::vector<std::string>{"Árbol", "avión", "nube", "NZ", "ñandú", "Oso", "Zeta"}));
+}
+
+// The first line of the integrity check of a plain SQLite connection, which knows no
+// collation of the program, or the engine's message when it cannot even read the schema.
+std::string IntegridadSinColacion(const std::string& ruta) {
+    try {
+        return SQLite::Database(ruta).execAndGet("PRAGMA integrity_check").getString();
+    } catch (const SQLite::Exception& e) {
+        return e.what();
+    }
+}
+
+TEST_F(MotorDatos, UnArchivoQueDeclarabaLaColacionSeConvierteAlAbrirlo) {
+    bd_->EjecutarGuion("CREATE TABLE Viejos (Nombre TEXT COLLATE \"ESPANOL\", N INTEGER);"
+                       "CREATE INDEX ViejosNombre ON Viejos (Nombre COLLATE ESPANOL, N);"
+                       "INSERT INTO Viejos VALUES ('b', 1), ('A', 2), ('ñ', 3);");
+    bd_.reset();
+    const std::string ruta = dir_ / "prueba.db";
+    EXPECT_EQ(IntegridadSinColacion(ruta), "no such collation sequence: ESPANOL");
+
+    BaseDatos& bd = bd_.emplace(BaseDatos::Abrir(ruta));
+    auto esquema = bd.AbrirRecordset("SELECT sql FROM sqlite_master WHERE sql LIKE '%Viejos%'");
+    EXPECT_EQ(esquema.RecordCount(), 2); // the table and its index
+    for (; !esquema.AlFinal(); esquema.MoveNext())
+        EXPECT_EQ(esquema.Campo("sql").Texto().find("ESPANOL"), std::string::npos);
+    std::vector<std::string> filas;
+    for (auto rs = bd.AbrirRecordset("SELECT * FROM Viejos ORDER BY rowid"); !rs.AlFinal();
+         rs.MoveNext())
+        filas.push_back(rs.Campo("Nombre").Texto() + rs.Campo("N").Texto());
+    EXPECT_EQ(filas, (std::vector<std::string>{"b1", "A2", "ñ3"}));
+    EXPECT_EQ(Leer("SELECT * FROM Nombres"), std::vector<std::string>{}); // untouched table kept
+    EXPECT_EQ(IntegridadSinColacion(ruta), "ok");
+    EXPECT_FALSE(fs::exists(ruta + ".conversion"));
 }
 
 TEST_F(MotorDatos, UnNombreConComillasViajaComoParametro) {
