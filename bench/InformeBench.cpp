@@ -1,6 +1,7 @@
 // The full report of a generated project of 100 continuous beams (one to four spans each),
-// with diagrams and reactions (300 pictures), to PDF: every beam loaded, solved and painted
-// at print resolution into the report database, then the report read back and written.
+// with diagrams and reactions (300 pictures), to PDF and to HTML: every beam loaded, solved,
+// recorded and painted at print resolution into the report database, then the report read
+// back, joined to its drawings and written as each kind.
 // Counters give each stage's seconds and the progress reports seen; the argument is the
 // number of threads that paint the pictures.
 
@@ -47,9 +48,11 @@ void InformeCompletoPdf(benchmark::State& state) {
     prueba::CrearProyecto(proyecto.string(), vigas, prueba::AjustesPrueba());
     const auto temporal = (carpeta / "Temporal.mdb").string();
     const auto pdf = (carpeta / "Informe.pdf").string();
+    const auto html = (carpeta / "Informe.htm").string();
 
     using Reloj = std::chrono::steady_clock;
-    double llenado = 0, escritura = 0, cpuLlenado = 0, cpuEscritura = 0;
+    double llenado = 0, escritura = 0, cpuLlenado = 0, cpuEscritura = 0, escrituraHtml = 0,
+           cpuHtml = 0;
     auto cpu = [] { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; };
     long avisos = 0, progresos = 0;
     for (auto _ : state) {
@@ -69,15 +72,21 @@ void InformeCompletoPdf(benchmark::State& state) {
 
         const double c0 = cpu();
         const auto t0 = Reloj::now();
-        LlenarImpreDatos(temporal, FilaGeneralesDe(ajustes, "banco", "6.0"), nombres, {0, 1, 1},
-                         pasos, static_cast<int>(state.range(0)));
+        const auto dibujos =
+            LlenarImpreDatos(temporal, FilaGeneralesDe(ajustes, "banco", "6.0"), nombres, {0, 1, 1},
+                             pasos, static_cast<int>(state.range(0)));
         const auto t1 = Reloj::now();
         const double c1 = cpu();
-        const auto contenido = LeerBaseInforme(temporal);
+        auto contenido = LeerBaseInforme(temporal);
+        UnirDibujos(contenido, dibujos);
         EscribirInformePdf(contenido, pdf);
         const auto t2 = Reloj::now();
+        const double c2 = cpu();
+        EscribirInformeHtml(contenido, html);
+        cpuHtml += cpu() - c2;
+        escrituraHtml += std::chrono::duration<double>(Reloj::now() - t2).count();
         cpuLlenado += c1 - c0;
-        cpuEscritura += cpu() - c1;
+        cpuEscritura += c2 - c1;
         llenado += std::chrono::duration<double>(t1 - t0).count();
         escritura += std::chrono::duration<double>(t2 - t1).count();
         if (contenido.Graficos.size() != 300) state.SkipWithError("not 300 pictures");
@@ -87,6 +96,9 @@ void InformeCompletoPdf(benchmark::State& state) {
     state.counters["pdf_s"] = escritura / n;
     state.counters["llenado_cpu_s"] = cpuLlenado / n;
     state.counters["pdf_cpu_s"] = cpuEscritura / n;
+    state.counters["html_cpu_s"] = cpuHtml / n;
+    state.counters["html_s"] = escrituraHtml / n;
+    state.counters["html_MB"] = static_cast<double>(fs::file_size(html)) / 1e6;
     state.counters["progreso"] = static_cast<double>(progresos) / n;
     state.counters["avisos"] = static_cast<double>(avisos) / n;
     state.counters["pdf_MB"] = static_cast<double>(fs::file_size(pdf)) / 1e6;

@@ -22,6 +22,7 @@ OperacionGrabada LienzoGrabador::Nueva(TipoOperacion tipo) const {
     op.FillColor = FillColor;
     op.DrawMode = DrawMode;
     op.ForeColor = ForeColor;
+    op.BackColor = BackColor;
     op.FontName = FontName;
     op.FontSize = FontSize;
     op.FontBold = FontBold;
@@ -77,11 +78,21 @@ void LienzoGrabador::DrawTextA(const std::string& texto, const Rect& rectangulo,
     operaciones_.push_back(op);
 }
 
+Lienzo& LienzoGrabador::Medidor() {
+    medidas_->FontName = FontName;
+    medidas_->FontSize = FontSize;
+    medidas_->FontBold = FontBold;
+    medidas_->FontUnderline = FontUnderline;
+    return *medidas_;
+}
+
 double LienzoGrabador::TextWidth(const std::string& texto) {
+    if (medidas_) return Medidor().TextWidth(texto);
     return 0.75 * FontSize * Caracteres(texto);
 }
 
-double LienzoGrabador::TextHeight(const std::string&) {
+double LienzoGrabador::TextHeight(const std::string& texto) {
+    if (medidas_) return Medidor().TextHeight(texto);
     return 1.75 * FontSize;
 }
 
@@ -106,6 +117,47 @@ const OperacionGrabada* LienzoGrabador::BuscarTexto(const std::string& texto) co
             op.Texto == texto)
             return &op;
     return nullptr;
+}
+
+void Reproducir(const std::vector<OperacionGrabada>& operaciones, Lienzo& l) {
+    for (const auto& op : operaciones) {
+        l.SelectObject(op.PlumaUsada);
+        l.FillStyle = op.FillStyle;
+        l.FillColor = op.FillColor;
+        l.DrawMode = op.DrawMode;
+        l.ForeColor = op.ForeColor;
+        l.BackColor = op.BackColor;
+        l.FontName = op.FontName;
+        l.FontSize = op.FontSize;
+        l.FontBold = op.FontBold;
+        l.FontUnderline = op.FontUnderline;
+        const auto& p = op.Puntos;
+        switch (op.Tipo) {
+        case TipoOperacion::Cls:
+            l.Cls();
+            break;
+        case TipoOperacion::Linea:
+            l.MoveToEx(p[0].x, p[0].y);
+            l.LineTo(p[1].x, p[1].y);
+            break;
+        case TipoOperacion::Poligono:
+            l.Polygon(p);
+            break;
+        case TipoOperacion::Elipse:
+            l.Ellipse(p[0].x, p[0].y, p[1].x, p[1].y);
+            break;
+        case TipoOperacion::Arco:
+            l.MoveToEx(p[0].x, p[0].y);
+            l.AngleArc(p[1].x, p[1].y, op.Radio, op.Angulo, op.Barrido);
+            break;
+        case TipoOperacion::Texto:
+            l.TextOutA(p[0].x, p[0].y, op.Texto, op.Angulo);
+            break;
+        case TipoOperacion::TextoEnRectangulo:
+            l.DrawTextA(op.Texto, op.Rectangulo, op.Formato);
+            break;
+        }
+    }
 }
 
 } // namespace trevalo

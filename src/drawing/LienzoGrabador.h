@@ -1,10 +1,13 @@
 #pragma once
 // A canvas that paints nothing and records every operation with the surface's state at that
-// moment, for tests. Its text metrics are fixed so that positions can be worked out by
-// hand: a character is 0.75 * FontSize pixels wide, a line 1.75 * FontSize pixels high
-// (Arial 8 gives 6 by 14, close to the real font at 96 dpi).
+// moment. Tests read the recording; a report keeps each picture as one, painted again
+// (Reproducir) on the raster picture of the report database, the PDF, the HTML page and the
+// viewer. Without a canvas to measure with, its text metrics are fixed so that positions can
+// be worked out by hand: a character is 0.75 * FontSize pixels wide, a line 1.75 * FontSize
+// pixels high (Arial 8 gives 6 by 14, close to the real font at 96 dpi).
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "drawing/Lienzo.h"
@@ -28,6 +31,7 @@ struct OperacionGrabada {
     Color FillColor = 0;
     int DrawMode = DrawModeCopiar;
     Color ForeColor = 0;
+    Color BackColor = ColorBlanco; // what Cls paints
     std::string FontName;
     double FontSize = 0;
     bool FontBold = false;
@@ -36,7 +40,11 @@ struct OperacionGrabada {
 
 class LienzoGrabador : public Lienzo {
   public:
-    LienzoGrabador(double ancho, double alto) : ancho_(ancho), alto_(alto) {}
+    // `medidas`, if given, measures the texts (it takes the recorder's font properties first),
+    // so that the recording is laid out as a painting on that canvas would be; it outlives
+    // the recorder.
+    LienzoGrabador(double ancho, double alto, Lienzo* medidas = nullptr)
+        : ancho_(ancho), alto_(alto), medidas_(medidas) {}
 
     double ScaleWidth() const override { return ancho_; }
     double ScaleHeight() const override { return alto_; }
@@ -60,6 +68,8 @@ class LienzoGrabador : public Lienzo {
     // null pointer when there is none.
     const OperacionGrabada* BuscarTexto(const std::string& texto) const;
     void Borrar() { operaciones_.clear(); }
+    // The recording, taken out of the recorder (which is left empty).
+    std::vector<OperacionGrabada> Soltar() { return std::move(operaciones_); }
 
     bool Congelado() const { return congelado_; }
     int Refrescos() const { return refrescos_; }
@@ -71,12 +81,20 @@ class LienzoGrabador : public Lienzo {
 
   private:
     OperacionGrabada Nueva(TipoOperacion tipo) const;
+    // The measuring canvas with this canvas's font.
+    Lienzo& Medidor();
 
     double ancho_;
     double alto_;
+    Lienzo* medidas_;
     bool congelado_ = false;
     int refrescos_ = 0;
     std::vector<OperacionGrabada> operaciones_;
 };
+
+// Paints `operaciones` on `lienzo`, each with the state it was recorded with: the same calls in
+// the same order as the painting recorded, so a raster canvas gets the same pixels. The
+// canvas's pen is the last one recorded afterwards.
+void Reproducir(const std::vector<OperacionGrabada>& operaciones, Lienzo& lienzo);
 
 } // namespace trevalo

@@ -35,8 +35,9 @@ ContenidoInforme LeerBaseInforme(const std::string& ruta) {
     auto s = bd.AbrirRecordset("SELECT Numero, Grafico FROM Graficos ORDER BY Numero");
     for (; !s.AlFinal(); s.MoveNext()) {
         const auto& grafico = s.Campo("Grafico");
-        contenido.Graficos.push_back(
-            {s.Campo("Numero").Entero16(), grafico.EsNulo() ? Valor::Binario{} : grafico.Bytes()});
+        contenido.Graficos.push_back({s.Campo("Numero").Entero16(),
+                                      grafico.EsNulo() ? Valor::Binario{} : grafico.Bytes(),
+                                      nullptr});
     }
     return contenido;
 }

@@ -26,4 +26,11 @@ std::vector<LineaCabecera> LineasCabecera(const ContenidoInforme& c) {
     };
 }
 
+void UnirDibujos(ContenidoInforme& c, const DibujosInforme& dibujos) {
+    if (dibujos.size() != c.Graficos.size()) return;
+    for (std::size_t i = 0; i < dibujos.size(); ++i)
+        if (c.Graficos[i].Numero != static_cast<std::int16_t>(i + 1)) return;
+    for (std::size_t i = 0; i < dibujos.size(); ++i) c.Graficos[i].Dibujo = dibujos[i];
+}
+
 } // namespace trevalo

@@ -1,10 +1,13 @@
 #pragma once
 // The report written to a file, one writer per kind of output, each from the report's
-// content alone (what LeerBaseInforme gives):
-//   PDF    the page layout of PaginaInforme, A4 portrait, pictures at print resolution;
-//   HTML   one self-contained .htm, pictures embedded as data URIs;
-//   xlsx   the head's data in cells (numbers as numbers), each picture placed on the sheet;
-//   RTF    the head as a table, each picture embedded as PNG on a page of its own.
+// content alone (what LeerBaseInforme gives, joined to the fill's drawings by UnirDibujos):
+//   PDF    the page layout of PaginaInforme, A4 portrait, pictures as vectors and text with
+//          their fonts embedded as subsets;
+//   HTML   one self-contained .htm, pictures as inline SVG, text as text;
+//   xlsx   the head's data in cells (numbers as numbers), each picture's PNG placed on the sheet;
+//   RTF    the head as a table, each picture's PNG on a page of its own.
+// The PNG is the database's picture, painted from the drawing at print resolution. A picture
+// without a drawing goes to the PDF and the HTML page as its PNG.
 //
 // Errors: 75 "Error de acceso a la ruta o el archivo" when the file cannot be written.
 

@@ -1,5 +1,7 @@
 #include "output/LlenarImpreDatos.h"
 
+#include <QThreadPool>
+
 #include <algorithm>
 #include <cassert>
 #include <deque>
@@ -9,8 +11,6 @@
 
 #include "model/Errores.h"
 #include "output/BaseInforme.h"
-#include "output/GraficoPng.h"
-#include "output/HilosTrabajo.h"
 
 namespace trevalo {
 
@@ -35,8 +35,17 @@ class SalidaInforme {
   public:
     SalidaInforme(EscrituraBaseInforme& base, const PasosInforme& pasos, int hilos)
         : base_(base), pasos_(pasos), limite_(static_cast<std::size_t>(2 * hilos)) {
-        if (hilos > 1) pintores_.emplace(hilos);
+        if (hilos > 1) {
+            pintores_.emplace();
+            pintores_->setMaxThreadCount(hilos);
+        }
     }
+    // Pictures not begun are dropped (the walk ended by an error); those under way are waited for.
+    ~SalidaInforme() {
+        if (pintores_) pintores_->clear();
+    }
+    SalidaInforme(const SalidaInforme&) = delete;
+    SalidaInforme& operator=(const SalidaInforme&) = delete;
 
     void Aviso(const std::optional<Pregunta>& aviso) {
         if (!aviso) return;
@@ -48,13 +57,16 @@ class SalidaInforme {
 
     void Grafico(TrabajoGrafico trabajo) {
         if (!pintores_) return Guardar(trabajo());
-        pendientes_.emplace_back(pintores_->Encargar(std::move(trabajo)));
+        auto tarea = std::make_shared<std::packaged_task<GraficoPintado()>>(std::move(trabajo));
+        pendientes_.emplace_back(tarea->get_future());
+        pintores_->start([tarea] { (*tarea)(); });
         ++graficos_;
         while (graficos_ > limite_ || FrenteListo()) Entregar();
     }
 
-    void Terminar() {
+    DibujosInforme Terminar() {
         while (!pendientes_.empty()) Entregar();
+        return std::move(dibujos_);
     }
 
   private:
@@ -77,6 +89,7 @@ class SalidaInforme {
     void Guardar(const GraficoPintado& grafico) {
         if (grafico.Aviso) pasos_.Avisar(*grafico.Aviso);
         base_.AgregarGrafico(n_++, grafico.Png);
+        dibujos_.push_back(grafico.Dibujo);
     }
 
     EscrituraBaseInforme& base_;
@@ -85,8 +98,8 @@ class SalidaInforme {
     std::deque<Pendiente> pendientes_;
     std::size_t graficos_ = 0;
     std::int16_t n_ = 1;
-    std::optional<HilosTrabajo<GraficoPintado>>
-        pintores_; // last: its threads end before the rest goes
+    DibujosInforme dibujos_;
+    std::optional<QThreadPool> pintores_; // last: its threads end before the rest goes
 };
 
 // Steps A to C of one loaded beam.
@@ -106,11 +119,11 @@ struct OcultarPanel {
 
 } // namespace
 
-void LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& generales,
-                      const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
-                      const PasosInforme& pasos, int hilos) {
+DibujosInforme LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& generales,
+                                const std::vector<std::string>& vigas,
+                                const OpcionesImpresion& opciones, const PasosInforme& pasos,
+                                int hilos) {
     assert(!vigas.empty());
-    const MemoriaGraficos memoria;
     EscrituraBaseInforme base(rutaTemporal);
     base.EscribirGenerales(generales);
     base.VaciarGraficos();
@@ -134,8 +147,9 @@ void LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& gene
         salida.Aviso(pasos.CargarViga(vigas[static_cast<std::size_t>(opciones.VigaReporte - 1)]));
         PintarViga(salida, vistas, pasos);
     }
-    salida.Terminar();
+    auto dibujos = salida.Terminar();
     base.Confirmar();
+    return dibujos;
 }
 
 } // namespace trevalo

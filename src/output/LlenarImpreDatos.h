@@ -15,6 +15,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,9 +37,10 @@ enum class VistaInforme { Diseno, Diagramas, Reacciones };
 // The pictures each beam gets, in their order.
 std::vector<VistaInforme> VistasInforme(const OpcionesImpresion& opciones);
 
-// A picture painted and encoded as PNG, with the message of a fault of its painting (the
-// picture is then what the canvas held).
+// A picture painted: its drawing, the PNG made from it, and the message of a fault of its
+// painting (the picture is then what the canvas held).
 struct GraficoPintado {
+    std::shared_ptr<const DibujoInforme> Dibujo;
     std::vector<std::uint8_t> Png;
     std::optional<Pregunta> Aviso;
 };
@@ -63,10 +65,11 @@ struct PasosInforme {
 // Precondition: `vigas` is not empty (the report command returns before for an empty list).
 // `hilos` threads paint (1: each picture on the calling thread, at once). Raises error 9 for
 // a VigaReporte beyond the list, the errors of the steps, and the engine's errors of the
-// report database.
-void LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& generales,
-                      const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
-                      const PasosInforme& pasos, int hilos = 1);
+// report database. Returns the drawings of the pictures stored, in Numero order.
+DibujosInforme LlenarImpreDatos(const std::string& rutaTemporal, const FilaGenerales& generales,
+                                const std::vector<std::string>& vigas,
+                                const OpcionesImpresion& opciones, const PasosInforme& pasos,
+                                int hilos = 1);
 
 // The painting threads a machine affords: one a core.
 int HilosPintura();

@@ -2,18 +2,13 @@
 
 #include <QFontMetricsF>
 
+#include <QPaintEngine>
+
 #include <algorithm>
 #include <cassert>
-#include <cstring>
-#include <deque>
-#include <functional>
-#include <future>
-#include <string_view>
-#include <vector>
 
-#include "output/GraficoPng.h"
-#include "output/HilosTrabajo.h"
-#include "output/LlenarImpreDatos.h"
+#include "drawing/LienzoGrabador.h"
+#include "platform/lienzos/LienzoQt.h"
 
 namespace trevalo {
 
@@ -124,115 +119,26 @@ void PintarCabecera(QPainter& p, const ContenidoInforme& c) {
           QStringLiteral("Calculista"));
 }
 
-// The painted zones of a picture, found by cutting it along white gaps of at least
-// BandaBlanca rows, then each piece along white gaps of as many columns, and so on until no
-// piece can be cut; each zone is trimmed to its paint. Only these go to the page, which looks
-// the same on white paper and spares a PDF the compression of the blank parts of every
-// picture; zones never touch, so no seam can show between them.
-constexpr int BandaBlanca = 12;
-
-// The runs of painted lines of `zona` (rows, or columns when `porColumnas`) separated by
-// more than BandaBlanca white ones, as offsets from the zone's edge.
-std::vector<std::pair<int, int>> TramosPintados(const QImage& rgb, const QRect& zona,
-                                                bool porColumnas) {
-    const QRgb blanco = qRgb(255, 255, 255);
-    std::vector<char> pintada(static_cast<std::size_t>(porColumnas ? zona.width() : zona.height()));
-    for (int y = zona.top(); y <= zona.bottom(); ++y) {
-        const auto* fila = reinterpret_cast<const QRgb*>(rgb.constScanLine(y));
-        for (int x = zona.left(); x <= zona.right(); ++x) {
-            if (fila[x] == blanco) continue;
-            if (!porColumnas) {
-                pintada[static_cast<std::size_t>(y - zona.top())] = 1;
-                break;
-            }
-            pintada[static_cast<std::size_t>(x - zona.left())] = 1;
-        }
+// The picture in the frame `marco`: its drawing painted again on the page, or its raster
+// image when it has none.
+void PintarDibujo(QPainter& p, const GraficoInforme& grafico, const QRectF& marco) {
+    p.save();
+    p.setClipRect(marco);
+    p.translate(marco.topLeft());
+    p.scale(marco.width() / AnchoGraficoPantalla, marco.height() / AltoGraficoPantalla);
+    if (grafico.Dibujo) {
+        const bool raster = p.paintEngine() && p.paintEngine()->type() == QPaintEngine::Raster;
+        LienzoQt lienzo(p, AnchoGraficoPantalla, AltoGraficoPantalla, raster);
+        Reproducir(*grafico.Dibujo, lienzo);
+    } else {
+        const QImage imagen = QImage::fromData(grafico.Grafico.data(),
+                                               static_cast<int>(grafico.Grafico.size()), "PNG");
+        p.drawImage(QRectF(0, 0, AnchoGraficoPantalla, AltoGraficoPantalla), imagen);
     }
-    std::vector<std::pair<int, int>> tramos;
-    for (int i = 0; i < static_cast<int>(pintada.size()); ++i) {
-        if (!pintada[static_cast<std::size_t>(i)]) continue;
-        if (tramos.empty() || i - tramos.back().second > BandaBlanca)
-            tramos.emplace_back(i, i);
-        else
-            tramos.back().second = i;
-    }
-    return tramos;
+    p.restore();
 }
 
-// Cuts `zona` across its rows or its columns; `otraEntera` says the other direction left it
-// whole, so a zone that neither direction cuts is final.
-void Cortar(const QImage& rgb, const QRect& zona, bool porColumnas, bool otraEntera,
-            std::vector<QRect>& zonas) {
-    const auto tramos = TramosPintados(rgb, zona, porColumnas);
-    for (const auto& [desde, hasta] : tramos) {
-        const QRect pieza =
-            porColumnas ? QRect(zona.left() + desde, zona.top(), hasta - desde + 1, zona.height())
-                        : QRect(zona.left(), zona.top() + desde, zona.width(), hasta - desde + 1);
-        const bool entera = pieza == zona;
-        if (entera && otraEntera)
-            zonas.push_back(pieza);
-        else
-            Cortar(rgb, pieza, !porColumnas, entera, zonas);
-    }
-}
-
-std::vector<QRect> ZonasPintadas(const QImage& rgb) {
-    std::vector<QRect> zonas;
-    if (!rgb.isNull()) Cortar(rgb, rgb.rect(), false, false, zonas);
-    return zonas;
-}
-
-// A digest of a zone: its size and every sixteenth row. Zones with equal digests are
-// compared whole before one stands for the other.
-std::size_t Huella(const QImage& zona) {
-    constexpr int Paso = 16;
-    std::size_t h = std::hash<long long>()(static_cast<long long>(zona.width()) << 32 |
-                                           static_cast<unsigned>(zona.height()));
-    const auto bytes = static_cast<std::size_t>(zona.width()) * sizeof(QRgb);
-    for (int y = 0; y < zona.height(); y += Paso) {
-        const std::string_view fila(reinterpret_cast<const char*>(zona.constScanLine(y)), bytes);
-        h = h * 1099511628211u ^ std::hash<std::string_view>()(fila);
-    }
-    return h;
-}
-
-bool MismosPixeles(const QImage& a, const QImage& b) {
-    if (a.size() != b.size() || a.format() != b.format()) return false;
-    const auto bytes = static_cast<std::size_t>(a.width()) * sizeof(QRgb);
-    for (int y = 0; y < a.height(); ++y)
-        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), bytes) != 0) return false;
-    return true;
-}
-
-// The zones of the last pictures written. A zone with the pixels of one of them takes that
-// one's image, which a PDF writer recognises and stores once: the elevation of a beam heads
-// several of its pictures.
-class ZonasEscritas {
-  public:
-    void Reusar(GraficoPreparado& preparado) {
-        for (ZonaGrafico& zona : preparado.Zonas) {
-            const auto igual =
-                std::find_if(zonas_.begin(), zonas_.end(), [&](const ZonaGrafico& z) {
-                    return z.Huella == zona.Huella && MismosPixeles(z.Imagen, zona.Imagen);
-                });
-            if (igual != zonas_.end()) zona.Imagen = igual->Imagen;
-        }
-        cuantas_.push_back(preparado.Zonas.size());
-        zonas_.insert(zonas_.end(), preparado.Zonas.begin(), preparado.Zonas.end());
-        if (cuantas_.size() > Ventana) {
-            zonas_.erase(zonas_.begin(), zonas_.begin() + static_cast<long>(cuantas_.front()));
-            cuantas_.pop_front();
-        }
-    }
-
-  private:
-    static constexpr std::size_t Ventana = 6; // the pictures of two beams
-    std::deque<ZonaGrafico> zonas_;
-    std::deque<std::size_t> cuantas_;
-};
-
-void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme& grafico,
-                   const GraficoPreparado& preparado) {
+void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme& grafico) {
     Letra(p, 8, true, ColorEtiqueta);
     const QRectF cabeza(Izquierda, Arriba, AnchoUtil, 14);
     Texto(p, QRectF(cabeza.left(), cabeza.top(), AnchoUtil * 0.55, 14), Qt::AlignLeft,
@@ -250,13 +156,7 @@ void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme&
     const QSizeF tamano(AnchoGraficoPantalla * escala, AltoGraficoPantalla * escala);
     const QRectF marco(Izquierda + (AnchoUtil - tamano.width()) / 2, arriba, tamano.width(),
                        tamano.height());
-    const double e = marco.width() / preparado.Tamano.width();
-    for (const ZonaGrafico& zona : preparado.Zonas) {
-        const QRect& z = zona.Lugar;
-        p.drawImage(QRectF(marco.left() + z.left() * e, marco.top() + z.top() * e, z.width() * e,
-                           z.height() * e),
-                    zona.Imagen);
-    }
+    PintarDibujo(p, grafico, marco);
     p.setPen(QPen(ColorRaya, 0.5));
     p.setBrush(Qt::NoBrush);
     p.drawRect(marco);
@@ -267,8 +167,8 @@ void PintarGrafico(QPainter& p, const ContenidoInforme& c, const GraficoInforme&
 
 } // namespace
 
-void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInforme& c, int pagina,
-                         const GraficoPreparado& preparado) {
+void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInforme& c,
+                         int pagina) {
     assert(pagina >= 1 && pagina <= CantidadPaginasInforme(c));
     const double escala =
         std::min(destino.width() / AnchoPaginaPuntos, destino.height() / AltoPaginaPuntos);
@@ -282,7 +182,7 @@ void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInfo
     if (pagina == 1)
         PintarCabecera(p, c);
     else
-        PintarGrafico(p, c, c.Graficos[static_cast<std::size_t>(pagina - 2)], preparado);
+        PintarGrafico(p, c, c.Graficos[static_cast<std::size_t>(pagina - 2)]);
     PintarPie(p, c, pagina);
     p.restore();
 }
@@ -291,52 +191,13 @@ int CantidadPaginasInforme(const ContenidoInforme& contenido) {
     return 1 + static_cast<int>(contenido.Graficos.size());
 }
 
-GraficoPreparado PrepararGrafico(const GraficoInforme& grafico) {
-    GraficoPreparado preparado;
-    const QImage imagen = DecodificarPng(grafico.Grafico).convertToFormat(QImage::Format_RGB32);
-    if (imagen.isNull()) return preparado;
-    preparado.Tamano = imagen.size();
-    for (const QRect& lugar : ZonasPintadas(imagen)) {
-        QImage pixeles = imagen.copy(lugar);
-        const std::size_t huella = Huella(pixeles);
-        preparado.Zonas.push_back({lugar, std::move(pixeles), huella});
-    }
-    return preparado;
-}
-
-GraficoPreparado PrepararPagina(const ContenidoInforme& c, int pagina) {
-    return pagina == 1 ? GraficoPreparado()
-                       : PrepararGrafico(c.Graficos[static_cast<std::size_t>(pagina - 2)]);
-}
-
-void PintarPaginaInforme(QPainter& p, const QRectF& destino, const ContenidoInforme& c,
-                         int pagina) {
-    PintarPaginaInforme(p, destino, c, pagina, PrepararPagina(c, pagina));
-}
-
 bool PintarInforme(QPagedPaintDevice& dispositivo, const ContenidoInforme& contenido) {
-    const MemoriaGraficos memoria;
     QPainter pintor;
     if (!pintor.begin(&dispositivo)) return false;
     const QRectF pagina(0, 0, dispositivo.width(), dispositivo.height());
-    // The pictures of the next pages are decoded on other threads while a page is painted.
-    HilosTrabajo<GraficoPreparado> lectores(HilosPintura());
-    const auto adelante = static_cast<std::size_t>(2 * HilosPintura());
-    std::deque<std::future<GraficoPreparado>> preparados;
-    std::size_t siguiente = 0;
-    ZonasEscritas escritas;
     for (int k = 1; k <= CantidadPaginasInforme(contenido); ++k) {
-        for (; siguiente < contenido.Graficos.size() && preparados.size() < adelante; ++siguiente)
-            preparados.push_back(lectores.Encargar(
-                [&grafico = contenido.Graficos[siguiente]] { return PrepararGrafico(grafico); }));
-        GraficoPreparado preparado;
-        if (k > 1) {
-            preparado = preparados.front().get();
-            preparados.pop_front();
-            escritas.Reusar(preparado);
-            dispositivo.newPage();
-        }
-        PintarPaginaInforme(pintor, pagina, contenido, k, preparado);
+        if (k > 1) dispositivo.newPage();
+        PintarPaginaInforme(pintor, pagina, contenido, k);
     }
     return pintor.end();
 }

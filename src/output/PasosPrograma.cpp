@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "analysis/AnalisisVigasP.h"
+#include "drawing/LienzoGrabador.h"
 #include "output/GraficoPng.h"
 #include "platform/lienzos/LienzosArchivo.h"
 
@@ -52,13 +53,19 @@ struct CuadroInforme {
     EstadoPloteos vista;
 };
 
+// The picture is recorded once, measured on the image canvas, and the image is painted from
+// the recording: the raster picture and the drawing cannot differ.
 GraficoPintado PintarCuadro(CuadroInforme& c) {
-    LienzoImagen lienzo(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
+    LienzoImagen imagen(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
+    LienzoGrabador lienzo(AnchoGraficoPantalla, AltoGraficoPantalla, &imagen);
     lienzo.Cls();
     GraficoPintado grafico;
     grafico.Aviso = Avisando(
         [&] { PlotearViga(lienzo, c.vista, c.proyecto, c.viga, c.resultados); }, MensajeFalla);
-    grafico.Png = CodificarPng(lienzo.Imagen());
+    auto dibujo = std::make_shared<const DibujoInforme>(lienzo.Soltar());
+    Reproducir(*dibujo, imagen);
+    grafico.Png = CodificarPng(imagen.Imagen());
+    grafico.Dibujo = std::move(dibujo);
     return grafico;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 // The report's walk bound to the program: a beam is loaded from the open project by the
-// beam store, solved by the frame analysis and painted by PlotearViga on a hidden image
-// canvas of 710 by 810 pixels, at print resolution (FactorImpresion image pixels to the
-// canvas pixel), then stored as PNG.
+// beam store, solved by the frame analysis and painted by PlotearViga into a recording of a
+// canvas of 710 by 810 pixels, which is painted on a hidden image at print resolution
+// (FactorImpresion image pixels to the canvas pixel), stored as PNG.
 //
 // Before each picture the view is reset as a report needs it: zoom 1, no pan, no grid
 // (EnPantalla false), no joint numbers, text factor 1, 10 stations per metre on the

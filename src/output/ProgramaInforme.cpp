@@ -35,16 +35,17 @@ std::int16_t PosicionVigaInforme(BaseDatos& bd, const std::vector<std::string>& 
     return 0;
 }
 
-void LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
-                           const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
-                           const std::string& carpetaPrograma, const std::string& rutaTemporal,
-                           const std::string& version,
-                           const std::function<void(const std::string&, double)>& progreso) {
+DibujosInforme
+LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
+                      const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
+                      const std::string& carpetaPrograma, const std::string& rutaTemporal,
+                      const std::string& version,
+                      const std::function<void(const std::string&, double)>& progreso) {
     CopiarArchivoDisco(carpetaPrograma + "/Imagen/Temporal.kvl", rutaTemporal);
     auto pasos = PasosPrograma(modelo, dialogos);
     pasos.Progreso = progreso;
-    LlenarImpreDatos(rutaTemporal, FilaGeneralesDe(modelo.proyecto, Usuario(), version), vigas,
-                     opciones, pasos, HilosPintura());
+    return LlenarImpreDatos(rutaTemporal, FilaGeneralesDe(modelo.proyecto, Usuario(), version),
+                            vigas, opciones, pasos, HilosPintura());
 }
 
 } // namespace trevalo

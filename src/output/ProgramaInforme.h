@@ -27,11 +27,12 @@ std::int16_t PosicionVigaInforme(BaseDatos& bd, const std::vector<std::string>& 
 // window, or ListaVigasInforme) chosen by `opciones`. `progreso` receives the label and value of
 // the progress bar. The model's settings are those of the project (LeerGeneralProyecto) and the
 // project has beams; the model is left as PasosPrograma leaves it. Errors as LlenarImpreDatos; a
-// missing template is error 53 "No se encontró el archivo".
-void LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
-                           const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
-                           const std::string& carpetaPrograma, const std::string& rutaTemporal,
-                           const std::string& version,
-                           const std::function<void(const std::string&, double)>& progreso);
+// missing template is error 53 "No se encontró el archivo". Returns the pictures' drawings.
+DibujosInforme
+LlenarInformePrograma(ModeloInforme& modelo, Dialogos& dialogos,
+                      const std::vector<std::string>& vigas, const OpcionesImpresion& opciones,
+                      const std::string& carpetaPrograma, const std::string& rutaTemporal,
+                      const std::string& version,
+                      const std::function<void(const std::string&, double)>& progreso);
 
 } // namespace trevalo

@@ -45,6 +45,7 @@ std::string CarpetaReportes(const CarpetasPrograma& carpetas) {
 
 ContenidoInforme AbrirReporte(const Programa& programa) {
     auto contenido = LeerBaseInforme(RutaTemporal(programa.Carpetas));
+    UnirDibujos(contenido, programa.Dibujos);
     contenido.SeparadorDecimal = programa.Carpetas.SeparadorDecimal;
     contenido.SeparadorMiles = programa.Carpetas.SeparadorMiles;
     return contenido;

@@ -24,7 +24,8 @@ struct RelojDeArena {
 std::string RutaTemporal(const CarpetasPrograma& carpetas);
 std::string CarpetaReportes(const CarpetasPrograma& carpetas);
 
-// The filled report database with the machine's separators. Engine errors as LeerBaseInforme.
+// The filled report database with the machine's separators and the drawings of its pictures
+// kept by the fill. Engine errors as LeerBaseInforme.
 ContenidoInforme AbrirReporte(const Programa& programa);
 
 // The Save dialog of an output kind with a file (1 to 4): its title and filter, the folder

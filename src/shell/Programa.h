@@ -36,6 +36,7 @@ struct Programa {
     bool SinFocoCanvas = false;   // the editor drives the project window's moves
     OpcionesImpresion Impresion;  // the choice of the last accepted print dialog
     std::uint8_t TipoSalida = 0;  // the report's output kind, 0 (the viewer) between reports
+    DibujosInforme Dibujos;       // the drawings of the last report's pictures
 
     Dialogos& Dialogo() { return *dialogos_; }
 

@@ -21,7 +21,8 @@
 
 namespace trevalo {
 
-// One page of the report at the zoom chosen, painted as the PDF and the printer paint it.
+// One page of the report at the zoom chosen, painted as the PDF and the printer paint it: its
+// picture from the drawing, sharp at every zoom.
 class HojaInforme : public QWidget {
   public:
     HojaInforme(const ContenidoInforme& contenido, QWidget* parent)
@@ -34,7 +35,6 @@ class HojaInforme : public QWidget {
     int Pagina() const { return pagina_; }
     void FijarPagina(int pagina) {
         pagina_ = pagina;
-        preparado_ = PrepararPagina(contenido_, pagina_);
         update();
     }
     int Zoom() const { return zoom_; }
@@ -50,13 +50,12 @@ class HojaInforme : public QWidget {
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter pintor(this);
-        PintarPaginaInforme(pintor, rect(), contenido_, pagina_, preparado_);
+        PintarPaginaInforme(pintor, rect(), contenido_, pagina_);
     }
 
   private:
     const ContenidoInforme& contenido_;
     int pagina_ = 1;
-    GraficoPreparado preparado_; // the page's picture, decoded once
     int zoom_ = 100;
 };
 

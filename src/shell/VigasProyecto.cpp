@@ -659,9 +659,11 @@ void VigasProyecto::LlenarImpreDatos() {
         lsPanelP_->repaint();
     };
     try {
-        LlenarInformePrograma(modelo, programa_.Dialogo(), NombresLista(), programa_.Impresion,
-                              programa_.Carpetas.RutaPrograma, RutaTemporal(programa_.Carpetas),
-                              programa_.Carpetas.VersionPrograma, progreso);
+        programa_.Dibujos.clear();
+        programa_.Dibujos =
+            LlenarInformePrograma(modelo, programa_.Dialogo(), NombresLista(), programa_.Impresion,
+                                  programa_.Carpetas.RutaPrograma, RutaTemporal(programa_.Carpetas),
+                                  programa_.Carpetas.VersionPrograma, progreso);
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }

@@ -42,7 +42,7 @@ struct Recorrido {
             return [this, marca, falla] {
                 if (falla) throw ErrorTrevalo(11, "División por cero");
                 pasos.push_back("pintar " + marca);
-                return GraficoPintado{{marca.begin(), marca.end()}, std::nullopt};
+                return GraficoPintado{nullptr, {marca.begin(), marca.end()}, std::nullopt};
             };
         };
         p.Panel = [this](bool visible) { panel.push_back(visible); };

@@ -1,10 +1,10 @@
-// The four writers and the page layout on a report of known content: every picture
-// reaches each file whole, the PDF has a page for the head and one per picture, the texts
-// survive their encodings, and a file that cannot be written is error 75.
+// The four writers and the page layout on a report of known content: every picture reaches
+// each file, as its drawing in the PDF and the HTML page and as its PNG whole in the others;
+// the PDF has a page for the head and one per picture, the texts survive their encodings,
+// and a file that cannot be written is error 75.
 
 #include <gtest/gtest.h>
 
-#include <QBuffer>
 #include <QImage>
 #include <QPainter>
 
@@ -15,23 +15,32 @@
 #include "comun/AplicacionQt.h"
 #include "comun/Aserciones.h"
 #include "comun/Carpeta.h"
+#include "drawing/LienzoGrabador.h"
 #include "output/EscritoresInforme.h"
 #include "output/GraficoPng.h"
 #include "output/PaginaInforme.h"
 #include "output/SalidasInforme.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 namespace trevalo {
 namespace {
 
-// A picture of the report's size, white with a solid block of the given colour in the
-// middle third, so that its place on a page can be found again.
-std::vector<std::uint8_t> Grafico(QRgb color) {
-    QImage imagen(AnchoGrafico, AltoGrafico, QImage::Format_RGB32);
-    imagen.fill(Qt::white);
-    QPainter p(&imagen);
-    p.fillRect(AnchoGrafico / 3, AltoGrafico / 3, AnchoGrafico / 3, AltoGrafico / 3, QColor(color));
-    p.end();
-    return CodificarPng(imagen);
+// A picture of the report's size, white with a solid block of the given colour (0xBBGGRR) in
+// the middle third, so that its place on a page can be found again, and a caption; its PNG
+// painted from its drawing, as the fill does.
+GraficoInforme Grafico(int numero, Color color) {
+    LienzoGrabador l(AnchoGraficoPantalla, AltoGraficoPantalla);
+    l.Cls();
+    l.FillStyle = RellenoSolido;
+    l.FillColor = color;
+    l.SelectObject({EstiloSolido, 1, color});
+    constexpr long a = AnchoGraficoPantalla / 3, h = AltoGraficoPantalla / 3;
+    l.Polygon({{a, h}, {2 * a, h}, {2 * a, 2 * h}, {a, 2 * h}});
+    l.TextOutA(20, 20, "Viga V-" + std::to_string(100 + numero) + " d=0.45");
+    auto dibujo = std::make_shared<const DibujoInforme>(l.Soltar());
+    LienzoImagen imagen(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
+    Reproducir(*dibujo, imagen);
+    return {static_cast<std::int16_t>(numero), CodificarPng(imagen.Imagen()), std::move(dibujo)};
 }
 
 ContenidoInforme Contenido(int graficos) {
@@ -44,9 +53,14 @@ ContenidoInforme Contenido(int graficos) {
     c.Generales.FC = 250;
     c.Generales.FY = 4200;
     c.Generales.D8 = 0.05;
-    const QRgb colores[] = {qRgb(255, 0, 0), qRgb(0, 160, 0), qRgb(0, 0, 255)};
-    for (int k = 1; k <= graficos; ++k)
-        c.Graficos.push_back({static_cast<std::int16_t>(k), Grafico(colores[(k - 1) % 3])});
+    const Color colores[] = {0x0000FF, 0x00A000, 0xFF0000}; // red, green, blue
+    for (int k = 1; k <= graficos; ++k) c.Graficos.push_back(Grafico(k, colores[(k - 1) % 3]));
+    return c;
+}
+
+// The same report read from the database alone: pictures without their drawings.
+ContenidoInforme SinDibujos(ContenidoInforme c) {
+    for (auto& g : c.Graficos) g.Dibujo = nullptr;
     return c;
 }
 
@@ -130,24 +144,15 @@ TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
     EXPECT_EQ(PreguntaAbrirArchivo("Obra.pdf"), "¿Desea Abrir el Archivo Obra.pdf?    ");
 }
 
-// Each picture's painted zones become images, lossless (no JPEG stream); a zone that
-// repeats one of the pictures just before it is stored once (picture 4 repeats picture 1);
-// zones apart across the columns are separate images.
+// Pictures with their drawings go as vectors and text, no image; a picture without one as its
+// PNG, lossless (no JPEG stream).
 TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
     struct Caso {
         ContenidoInforme contenido;
         std::size_t paginas, imagenes;
     };
-    ContenidoInforme lado = Contenido(0);
-    QImage dos(AnchoGrafico, AltoGrafico, QImage::Format_RGB32);
-    dos.fill(Qt::white);
-    QPainter p(&dos);
-    p.fillRect(10, 10, 100, 100, Qt::red);
-    p.fillRect(300, 10, 100, 100, Qt::blue);
-    p.end();
-    lado.Graficos.push_back({1, CodificarPng(dos)});
     const Caso casos[] = {
-        {Contenido(0), 1, 0}, {Contenido(1), 2, 1}, {Contenido(4), 5, 3}, {lado, 2, 2}};
+        {Contenido(0), 1, 0}, {Contenido(3), 4, 0}, {SinDibujos(Contenido(2)), 3, 2}};
     int k = 0;
     for (const Caso& c : casos) {
         const auto ruta = carpeta / ("r" + std::to_string(++k) + ".pdf");
@@ -160,11 +165,32 @@ TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
     }
 }
 
-TEST_F(EscritoresTest, HtmlEmbedsEveryPictureWholeAndEscapesTexts) {
+// Each picture inline as SVG, its text as text; without drawings, each PNG whole.
+TEST_F(EscritoresTest, HtmlDrawsEveryPictureAsSvgAndEscapesTexts) {
     const auto c = Contenido(3);
     const auto ruta = carpeta / "r.htm";
     EscribirInformeHtml(c, ruta);
     const std::string html = prueba::LeerArchivo(ruta);
+    EXPECT_EQ(Contar(html, "<svg "), 3u);
+    EXPECT_EQ(Contar(html, "</svg>"), 3u);
+    EXPECT_EQ(html.find("data:image"), std::string::npos);
+    EXPECT_EQ(html.find("<?xml"), std::string::npos);
+    for (int k = 1; k <= 3; ++k) {
+        EXPECT_EQ(Contar(html, ">Viga V-" + std::to_string(100 + k) + " d=0.45</text>"), 1u) << k;
+        EXPECT_EQ(Contar(html, "<title>Gráfico " + std::to_string(k) + "</title>"), 1u) << k;
+    }
+    EXPECT_NE(html.find("fill=\"#ff0000\""), std::string::npos); // picture 1's block
+    EXPECT_NE(html.find("Edificio Ñandú {torre} \\ &lt;norte&gt; &amp; sur"), std::string::npos);
+    EXPECT_NE(html.find("<h1>ANALISIS Y DISEÑO DE VIGAS CONTINUAS</h1>"), std::string::npos);
+    EXPECT_NE(html.find("<meta charset=\"utf-8\">"), std::string::npos);
+}
+
+TEST_F(EscritoresTest, HtmlWithoutDrawingsEmbedsEveryPictureWhole) {
+    const auto c = SinDibujos(Contenido(3));
+    const auto ruta = carpeta / "r.htm";
+    EscribirInformeHtml(c, ruta);
+    const std::string html = prueba::LeerArchivo(ruta);
+    EXPECT_EQ(html.find("<svg"), std::string::npos);
     const auto uris = Trozos(html, "src=\"data:image/png;base64,", "\"");
     ASSERT_EQ(uris.size(), 3u);
     for (std::size_t k = 0; k < uris.size(); ++k) {
@@ -172,9 +198,6 @@ TEST_F(EscritoresTest, HtmlEmbedsEveryPictureWholeAndEscapesTexts) {
                                                       QByteArray::AbortOnBase64DecodingErrors);
         EXPECT_EQ(std::vector<std::uint8_t>(png.begin(), png.end()), c.Graficos[k].Grafico);
     }
-    EXPECT_NE(html.find("Edificio Ñandú {torre} \\ &lt;norte&gt; &amp; sur"), std::string::npos);
-    EXPECT_NE(html.find("<h1>ANALISIS Y DISEÑO DE VIGAS CONTINUAS</h1>"), std::string::npos);
-    EXPECT_NE(html.find("<meta charset=\"utf-8\">"), std::string::npos);
 }
 
 TEST_F(EscritoresTest, RtfEmbedsEveryPictureAsPngAndEncodesTexts) {
@@ -230,35 +253,35 @@ TEST_F(EscritoresTest, AnUnwritableFileIsError75ForEveryKind) {
 // The page painter: the picture of page k + 1 is graphic k, large, centred across the
 // page; the head page has its title band and no picture.
 TEST_F(EscritoresTest, PagesPlaceEachPictureLargeAndCentred) {
-    const auto c = Contenido(3);
-    ASSERT_EQ(CantidadPaginasInforme(c), 4);
-    const int ancho = 595, alto = 842; // one pixel a point
-    const QRgb colores[] = {qRgb(255, 0, 0), qRgb(0, 160, 0), qRgb(0, 0, 255)};
-    for (int pagina = 1; pagina <= 4; ++pagina) {
-        QImage imagen(ancho, alto, QImage::Format_RGB32);
-        imagen.fill(Qt::gray);
-        QPainter p(&imagen);
-        PintarPaginaInforme(p, QRectF(0, 0, ancho, alto), c, pagina);
-        p.end();
-        EXPECT_EQ(imagen.pixel(5, 5), qRgb(255, 255, 255)) << pagina; // the page is white
-        if (pagina == 1) {
-            EXPECT_LT(qGray(imagen.pixel(ancho / 2, 56)), 100); // the dark top rule
-            continue;
+    for (const auto& c : {Contenido(3), SinDibujos(Contenido(3))}) {
+        ASSERT_EQ(CantidadPaginasInforme(c), 4);
+        const int ancho = 595, alto = 842; // one pixel a point
+        const QRgb colores[] = {qRgb(255, 0, 0), qRgb(0, 160, 0), qRgb(0, 0, 255)};
+        for (int pagina = 1; pagina <= 4; ++pagina) {
+            QImage imagen(ancho, alto, QImage::Format_RGB32);
+            imagen.fill(Qt::gray);
+            QPainter p(&imagen);
+            PintarPaginaInforme(p, QRectF(0, 0, ancho, alto), c, pagina);
+            p.end();
+            EXPECT_EQ(imagen.pixel(5, 5), qRgb(255, 255, 255)) << pagina; // the page is white
+            if (pagina == 1) {
+                EXPECT_LT(qGray(imagen.pixel(ancho / 2, 56)), 100); // the dark top rule
+                continue;
+            }
+            const QRgb color = colores[(pagina - 2) % 3];
+            // The picture spans the text width (481.9 of 595 points): its middle third is the
+            // block, found at the page's centre line and a little off it.
+            const double escala = (595.28 - 2 * 56.7) / AnchoGraficoPantalla;
+            const int y = static_cast<int>(56.7 + 30 + AltoGraficoPantalla * escala / 2);
+            EXPECT_EQ(imagen.pixel(ancho / 2, y), color) << pagina;
+            EXPECT_EQ(imagen.pixel(ancho / 2 - 70, y), color) << pagina;
+            EXPECT_EQ(imagen.pixel(ancho / 2 - 100, y), qRgb(255, 255, 255)) << pagina;
         }
-        const QRgb color = colores[(pagina - 2) % 3];
-        // The picture spans the text width (481.9 of 595 points): its middle third is the
-        // block, found at the page's centre line and a little off it.
-        const double escala = (595.28 - 2 * 56.7) / AnchoGraficoPantalla;
-        const int y = static_cast<int>(56.7 + 30 + AltoGraficoPantalla * escala / 2);
-        EXPECT_EQ(imagen.pixel(ancho / 2, y), color) << pagina;
-        EXPECT_EQ(imagen.pixel(ancho / 2 - 70, y), color) << pagina;
-        EXPECT_EQ(imagen.pixel(ancho / 2 - 100, y), qRgb(255, 255, 255)) << pagina;
     }
 }
 
-// Every pixel back, by this program's reader and by the toolkit's own PNG reader; a PNG of
-// another writer (filtered rows, several chunks) read all the same; a picture too wide for
-// the drawing compressor.
+// Every pixel back by the toolkit's PNG reader (libpng), with the print resolution; also a
+// picture too wide for the drawing compressor.
 TEST_F(EscritoresTest, PngKeepsEveryPixelAndCarriesThePrintResolution) {
     auto patron = [](int ancho, int alto) {
         QImage imagen(ancho, alto, QImage::Format_RGB32);
@@ -267,31 +290,16 @@ TEST_F(EscritoresTest, PngKeepsEveryPixelAndCarriesThePrintResolution) {
                 imagen.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
         return imagen;
     };
+    auto leer = [](const std::vector<std::uint8_t>& png) {
+        return QImage::fromData(png.data(), static_cast<int>(png.size()), "PNG");
+    };
     const QImage imagen = patron(AnchoGrafico, AltoGrafico);
-    const std::vector<std::uint8_t> png = CodificarPng(imagen);
-    const QImage vuelta = DecodificarPng(png);
-    ASSERT_EQ(vuelta.size(), imagen.size());
+    const QImage vuelta = leer(CodificarPng(imagen));
     EXPECT_EQ(vuelta.convertToFormat(QImage::Format_RGB32), imagen);
     EXPECT_NEAR(vuelta.dotsPerMeterX() * 0.0254, 96 * FactorImpresion, 0.5);
-    const QImage ajena = QImage::fromData(png.data(), static_cast<int>(png.size()), "PNG");
-    EXPECT_EQ(ajena.convertToFormat(QImage::Format_RGB32), imagen);
-    EXPECT_EQ(ajena.dotsPerMeterY(), vuelta.dotsPerMeterY());
-
-    QByteArray deOtro;
-    QBuffer buffer(&deOtro);
-    buffer.open(QIODevice::WriteOnly);
-    ASSERT_TRUE(imagen.save(&buffer, "PNG", 0));
-    EXPECT_EQ(DecodificarPng({deOtro.begin(), deOtro.end()}).convertToFormat(QImage::Format_RGB32),
-              imagen);
-
+    EXPECT_EQ(vuelta.dotsPerMeterY(), vuelta.dotsPerMeterX());
     const QImage ancha = patron(11000, 3);
-    EXPECT_EQ(DecodificarPng(CodificarPng(ancha)).convertToFormat(QImage::Format_RGB32), ancha);
-
-    EXPECT_TRUE(DecodificarPng({}).isNull());
-    EXPECT_TRUE(DecodificarPng({1, 2, 3}).isNull());
-    std::vector<std::uint8_t> danado = png;
-    danado[danado.size() / 2] ^= 0x40; // inside the compressed rows: the chunk's CRC fails
-    EXPECT_TRUE(DecodificarPng(danado).isNull());
+    EXPECT_EQ(leer(CodificarPng(ancha)).convertToFormat(QImage::Format_RGB32), ancha);
 }
 
 } // namespace

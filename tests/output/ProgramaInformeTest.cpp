@@ -1,25 +1,48 @@
 // The fill over the real program: beams loaded from a project file, solved and painted at
-// print resolution. Every picture decodes, has the report's size and shows a drawing; the
-// three views of a beam differ; a beam that cannot be solved is told and the walk goes on.
+// print resolution. Every picture decodes, has the report's size and shows a drawing, the
+// very pixels of a painting straight on the image; the three views of a beam differ; a beam
+// that cannot be solved is told and the walk goes on. The PDF read back by poppler's tools
+// holds the pictures' texts as text and no image.
 
 #include <gtest/gtest.h>
 
 #include <QImage>
 
+#include <cstdio>
+#include <memory>
 #include <set>
 
 #include "BaseTemporal.h"
 #include "comun/AplicacionQt.h"
 #include "comun/DialogosGuion.h"
 #include "comun/Proyecto.h"
+#include "drawing/LienzoGrabador.h"
+#include "drawing/Ploteos.h"
 #include "output/BaseInforme.h"
-#include "output/GraficoPng.h"
+#include "output/EscritoresInforme.h"
 #include "output/PasosPrograma.h"
+#include "platform/lienzos/LienzosArchivo.h"
 
 namespace trevalo {
 namespace {
 
 using namespace prueba;
+
+QImage Imagen(const GraficoInforme& g) {
+    return QImage::fromData(g.Grafico.data(), static_cast<int>(g.Grafico.size()), "PNG")
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+// What a command prints on its standard output.
+std::string Salida(const std::string& orden) {
+    std::string r;
+    const std::unique_ptr<FILE, int (*)(FILE*)> tubo(popen(orden.c_str(), "r"), pclose);
+    if (!tubo) return r;
+    char bloque[4096];
+    for (std::size_t n; (n = std::fread(bloque, 1, sizeof bloque, tubo.get())) > 0;)
+        r.append(bloque, n);
+    return r;
+}
 
 // Share of pixels that are not white.
 double Tinta(const QImage& imagen) {
@@ -44,8 +67,8 @@ class ProgramaInformeTest : public BaseTemporalTest {
         LeerGeneralProyecto(*estado.BDProyecto, ajustes);
         prueba::DialogosGuion dialogos;
         auto pasos = PasosPrograma(modelo, dialogos);
-        LlenarImpreDatos(ruta, FilaGeneralesDe(ajustes, "usuario", "6.0"), vigas, opciones, pasos,
-                         hilos);
+        dibujos = LlenarImpreDatos(ruta, FilaGeneralesDe(ajustes, "usuario", "6.0"), vigas,
+                                   opciones, pasos, hilos);
         std::vector<std::string> avisos;
         for (const auto& p : dialogos.preguntas) avisos.push_back(p.Titulo + "|" + p.Texto);
         return avisos;
@@ -58,6 +81,7 @@ class ProgramaInformeTest : public BaseTemporalTest {
     ResultadosViga resultados;
     EstadoPloteos vista;
     ModeloInforme modelo{estado, ajustes, viga, resultados, vista};
+    DibujosInforme dibujos;
 };
 
 TEST_F(ProgramaInformeTest, EveryPictureDecodesAtTheReportsSizeAndTheViewsDiffer) {
@@ -71,7 +95,7 @@ TEST_F(ProgramaInformeTest, EveryPictureDecodesAtTheReportsSizeAndTheViewsDiffer
     ASSERT_EQ(c.Graficos.size(), 6u);
     std::set<std::vector<std::uint8_t>> distintos;
     for (const auto& g : c.Graficos) {
-        const QImage imagen = DecodificarPng(g.Grafico);
+        const QImage imagen = Imagen(g);
         ASSERT_FALSE(imagen.isNull()) << g.Numero;
         // The hidden canvas of 710 by 810 pixels, at print resolution.
         EXPECT_EQ(imagen.width(), 710 * FactorImpresion);
@@ -86,6 +110,48 @@ TEST_F(ProgramaInformeTest, EveryPictureDecodesAtTheReportsSizeAndTheViewsDiffer
     EXPECT_EQ(resultados.NJuntas, 4);
     EXPECT_TRUE(vista.VerReacciones);
     EXPECT_FALSE(vista.EnPantalla);
+    // The pictures of V-102 are those of a painting straight on the image canvas.
+    ASSERT_EQ(dibujos.size(), 6u);
+    const VistaInforme pasos[] = {VistaInforme::Diseno, VistaInforme::Diagramas,
+                                  VistaInforme::Reacciones};
+    for (std::size_t k = 0; k < 3; ++k) {
+        EstadoPloteos v = vista;
+        VistaDeInforme(v, pasos[k]);
+        LienzoImagen directo(AnchoGraficoPantalla, AltoGraficoPantalla, FactorImpresion);
+        directo.Cls();
+        PlotearViga(directo, v, ajustes, viga, resultados);
+        EXPECT_TRUE(Imagen(c.Graficos[3 + k]) == directo.Imagen()) << "picture " << 4 + k;
+    }
+}
+
+// The report as PDF: each beam's name and every number of its design sheet are text on the
+// picture's page; pdfimages finds no image at all.
+TEST_F(ProgramaInformeTest, PdfCarriesThePicturesAsTextAndVectors) {
+    CrearProyecto(proyecto, {VigaPrueba("V-101", 1), VigaPrueba("V-102", 2)}, AjustesPrueba());
+    EXPECT_TRUE(Llenar({"V-101", "V-102"}, {0, 1, 1}).empty());
+    auto c = LeerBaseInforme(ruta);
+    UnirDibujos(c, dibujos);
+    ASSERT_EQ(c.Graficos.size(), 6u);
+    const std::string pdf = carpeta / "Informe.pdf";
+    EscribirInformePdf(c, pdf);
+    // Only the two heading lines of the list.
+    const std::string imagenes = Salida("pdfimages -list '" + pdf + "'");
+    EXPECT_EQ(std::count(imagenes.begin(), imagenes.end(), '\n'), 2) << imagenes;
+    for (int viga = 0; viga < 2; ++viga) {
+        const int pagina = 2 + 3 * viga; // the design sheet
+        const std::string texto = Salida("pdftotext -f " + std::to_string(pagina) + " -l " +
+                                         std::to_string(pagina) + " '" + pdf + "' -");
+        EXPECT_NE(texto.find(viga == 0 ? "V-101" : "V-102"), std::string::npos) << texto;
+        int numeros = 0;
+        for (const auto& op : *c.Graficos[static_cast<std::size_t>(3 * viga)].Dibujo) {
+            const bool numero = !op.Texto.empty() &&
+                                op.Texto.find_first_not_of("-0123456789.,") == std::string::npos;
+            if (!numero || op.Angulo != 0) continue;
+            ++numeros;
+            EXPECT_NE(texto.find(op.Texto), std::string::npos) << op.Texto << " on page " << pagina;
+        }
+        EXPECT_GE(numeros, 5) << pagina;
+    }
 }
 
 TEST_F(ProgramaInformeTest, TheViewOfEachStepIsResetForTheReport) {
@@ -130,8 +196,8 @@ TEST_F(ProgramaInformeTest, ABeamThatCannotBeSolvedIsToldAndTheWalkGoesOn) {
     EXPECT_EQ(avisos.front().rfind("Error Número: ", 0), 0u) << avisos.front();
     const auto c = LeerBaseInforme(ruta);
     ASSERT_EQ(c.Graficos.size(), 6u);
-    for (const auto& g : c.Graficos) EXPECT_FALSE(DecodificarPng(g.Grafico).isNull());
-    EXPECT_GT(Tinta(DecodificarPng(c.Graficos[4].Grafico)), 0.005); // V-3 is drawn
+    for (const auto& g : c.Graficos) EXPECT_FALSE(Imagen(g).isNull());
+    EXPECT_GT(Tinta(Imagen(c.Graficos[4])), 0.005); // V-3 is drawn
 }
 
 // Painting on several threads stores the very bytes of a painting one by one, in the same

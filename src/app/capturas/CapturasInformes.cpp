@@ -22,9 +22,10 @@ void CapturasInformes(Programa& programa, VigasProyecto& ventana) {
     // The sample project's full report, as the report command fills it.
     ModeloInforme modelo{programa.Estado, programa.Proyecto, programa.Viga, programa.Resultados,
                          programa.Vista};
-    LlenarInformePrograma(modelo, programa.Dialogo(), ventana.NombresLista(), {0, 1, 1},
-                          programa.Carpetas.RutaPrograma, RutaTemporal(programa.Carpetas),
-                          programa.Carpetas.VersionPrograma, {});
+    programa.Dibujos =
+        LlenarInformePrograma(modelo, programa.Dialogo(), ventana.NombresLista(), {0, 1, 1},
+                              programa.Carpetas.RutaPrograma, RutaTemporal(programa.Carpetas),
+                              programa.Carpetas.VersionPrograma, {});
     VerReportes visor(programa, AbrirReporte(programa), &ventana);
     visor.show();
     Esperar(300);

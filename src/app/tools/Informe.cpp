@@ -122,13 +122,14 @@ int Informe(const PedidoInforme& pedido, std::ostream& salida, std::ostream& err
     EstadoPloteos vista;
     ModeloInforme modelo{estado, proyecto, viga, resultados, vista};
     DialogosConsola dialogos(errores);
-    LlenarInformePrograma(modelo, dialogos, vigas, opciones, RutaProgramaCalc(), temporal,
-                          TREVALO_VERSION, [&errores](const std::string& etiqueta, double valor) {
-                              errores << etiqueta << " (" << static_cast<int>(valor + 0.5)
-                                      << " %)\n";
-                          });
+    const auto dibujos = LlenarInformePrograma(
+        modelo, dialogos, vigas, opciones, RutaProgramaCalc(), temporal, TREVALO_VERSION,
+        [&errores](const std::string& etiqueta, double valor) {
+            errores << etiqueta << " (" << static_cast<int>(valor + 0.5) << " %)\n";
+        });
 
-    const auto contenido = LeerBaseInforme(temporal);
+    auto contenido = LeerBaseInforme(temporal);
+    UnirDibujos(contenido, dibujos);
     errores << "Escribiendo el informe: " << pedido.salida << "\n";
     EscribirInforme(contenido, pedido.salida, *ArchivoPorExtension(pedido.salida));
     salida << pedido.salida << ": " << CantidadPaginasInforme(contenido) << " páginas, "

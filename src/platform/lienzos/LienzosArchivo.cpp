@@ -1,5 +1,6 @@
 #include "platform/lienzos/LienzosArchivo.h"
 
+#include <QBuffer>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QSvgGenerator>
@@ -73,6 +74,22 @@ LienzoVectorial::LienzoVectorial(const std::string& ruta, int ancho, int alto, F
 
 void LienzoVectorial::Terminar() {
     if (painter.isActive()) painter.end();
+}
+
+std::string PintarSvg(int ancho, int alto, const std::string& titulo,
+                      const std::function<void(Lienzo&)>& pintar) {
+    QBuffer buffer;
+    QSvgGenerator generador;
+    generador.setOutputDevice(&buffer);
+    generador.setSize(QSize(ancho, alto));
+    generador.setViewBox(QRect(0, 0, ancho, alto));
+    generador.setResolution(96);
+    generador.setTitle(QString::fromStdString(titulo));
+    QPainter painter(&generador);
+    LienzoQt lienzo(painter, ancho, alto, false);
+    pintar(lienzo);
+    painter.end();
+    return buffer.data().toStdString();
 }
 
 void PintarEnArchivo(const std::string& ruta, int ancho, int alto,

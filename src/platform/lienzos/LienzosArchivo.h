@@ -45,6 +45,11 @@ class LienzoVectorial : private detalle::SuperficieVectorial, public LienzoQt {
     ~LienzoVectorial() override { Terminar(); }
 };
 
+// The SVG document (UTF-8) of what `pintar` paints on a canvas of `ancho` by `alto` pixels, with
+// `titulo` as its title; texts stay text.
+std::string PintarSvg(int ancho, int alto, const std::string& titulo,
+                      const std::function<void(Lienzo&)>& pintar);
+
 // Paints through `pintar` into the file, PNG, SVG or PDF by its extension (any other: PNG).
 // Error 75 when the file cannot be written.
 void PintarEnArchivo(const std::string& ruta, int ancho, int alto,
