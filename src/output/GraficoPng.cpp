@@ -13,11 +13,11 @@
 namespace trevalo {
 
 // A report makes hundreds of pictures of millions of pixels, so their PNG files are written
-// here rather than by the image codecs of the toolkit: compression is most of the time of a
-// report's fill (a 300-picture report: 2.0 s of processor with the drawing compressor, 5.9 s
-// with libdeflate's fastest level, 12 s with the toolkit's libpng writer). The file is the
-// plainest PNG: 8-bit RGB, rows unfiltered (the drawing compressor finds the runs and the
-// repeated rows itself), one IDAT chunk.
+// here rather than by the image codecs of the toolkit: per picture, banco_grafico_png measures
+// 2-3 ms of processor for the drawing compressor, 9 ms for libdeflate (14 ms at its level 1)
+// and 45 ms for the toolkit's libpng writer, for files 2 to 3 times larger than libdeflate's.
+// The file is the plainest PNG: 8-bit RGB, rows unfiltered (the drawing compressor finds the
+// runs and the repeated rows itself), one IDAT chunk.
 
 namespace {
 
