@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstring>
 
 #include "ProyectoPrueba.h"
 #include "comun/Proyecto.h"
@@ -82,8 +83,9 @@ void CrearProyectoAntiguo(const std::string& ruta) {
     std::string guion;
     while (esquema.executeStep()) {
         std::string sql = esquema.getColumn(0).getString();
-        if (const auto i = sql.find("NombreViga TEXT"); i != std::string::npos)
-            sql.insert(i + 15, " COLLATE ESPANOL");
+        for (const char* columna : {"NombreViga TEXT", "(NombreViga"})
+            if (const auto i = sql.find(columna); i != std::string::npos)
+                sql.insert(i + std::strlen(columna), " COLLATE ESPANOL");
         guion += sql + ";\n";
     }
     BaseDatos::Crear(ruta).EjecutarGuion(guion);
@@ -123,6 +125,7 @@ TEST_F(ProyectoAntiguo, SeConvierteAlAbrirloYConservaCadaViga) {
     EXPECT_FALSE(fs::exists(ruta + ".conversion"));
     BaseDatos& bd = *estado.BDProyecto;
     EXPECT_EQ(bd.AbrirRecordset("SELECT * FROM sqlite_master WHERE type='index'").RecordCount(), 9);
+    EXPECT_EQ(bd.AbrirRecordset("GeneralProyecto").RecordCount(), 1); // a table without names
     std::vector<std::string> lista;
     for (Recordset& rs = *estado.RsGeneralViga; !rs.AlFinal(); rs.MoveNext())
         lista.push_back(rs.Campo("NombreViga").Texto());

@@ -1,12 +1,6 @@
-// The database engine: name collation, conversion of files that declared it, recordset
-// movement and writes, transactions, errors.
+// The database engine: name collation, recordset movement and writes, transactions, errors.
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
-
-#include <SQLiteCpp/SQLiteCpp.h>
 
 #include "comun/Aserciones.h"
 #include "comun/Carpeta.h"
@@ -14,8 +8,6 @@
 
 namespace trevalo {
 namespace {
-
-namespace fs = std::filesystem;
 
 class MotorDatos : public ::testing::Test {
   protected:
@@ -65,39 +57,6 @@ TEST_F(MotorDatos, ElOrdenEsElDelAlfabetoEspanol) {
     Poner({"ñandú", "Oso", "nube", "Árbol", "avión", "Zeta", "NZ"});
     EXPECT_EQ(Leer("SELECT * FROM Nombres ORDER BY Nombre COLLATE ESPANOL"),
               (std::vector<std::string>{"Árbol", "avión", "nube", "NZ", "ñandú", "Oso", "Zeta"}));
-}
-
-// The first line of the integrity check of a plain SQLite connection, which knows no
-// collation of the program, or the engine's message when it cannot even read the schema.
-std::string IntegridadSinColacion(const std::string& ruta) {
-    try {
-        return SQLite::Database(ruta).execAndGet("PRAGMA integrity_check").getString();
-    } catch (const SQLite::Exception& e) {
-        return e.what();
-    }
-}
-
-TEST_F(MotorDatos, UnArchivoQueDeclarabaLaColacionSeConvierteAlAbrirlo) {
-    bd_->EjecutarGuion("CREATE TABLE Viejos (Nombre TEXT COLLATE \"ESPANOL\", N INTEGER);"
-                       "CREATE INDEX ViejosNombre ON Viejos (Nombre COLLATE ESPANOL, N);"
-                       "INSERT INTO Viejos VALUES ('b', 1), ('A', 2), ('ñ', 3);");
-    bd_.reset();
-    const std::string ruta = dir_ / "prueba.db";
-    EXPECT_EQ(IntegridadSinColacion(ruta), "no such collation sequence: ESPANOL");
-
-    BaseDatos& bd = bd_.emplace(BaseDatos::Abrir(ruta));
-    auto esquema = bd.AbrirRecordset("SELECT sql FROM sqlite_master WHERE sql LIKE '%Viejos%'");
-    EXPECT_EQ(esquema.RecordCount(), 2); // the table and its index
-    for (; !esquema.AlFinal(); esquema.MoveNext())
-        EXPECT_EQ(esquema.Campo("sql").Texto().find("ESPANOL"), std::string::npos);
-    std::vector<std::string> filas;
-    for (auto rs = bd.AbrirRecordset("SELECT * FROM Viejos ORDER BY rowid"); !rs.AlFinal();
-         rs.MoveNext())
-        filas.push_back(rs.Campo("Nombre").Texto() + rs.Campo("N").Texto());
-    EXPECT_EQ(filas, (std::vector<std::string>{"b1", "A2", "ñ3"}));
-    EXPECT_EQ(Leer("SELECT * FROM Nombres"), std::vector<std::string>{}); // untouched table kept
-    EXPECT_EQ(IntegridadSinColacion(ruta), "ok");
-    EXPECT_FALSE(fs::exists(ruta + ".conversion"));
 }
 
 TEST_F(MotorDatos, UnNombreConComillasViajaComoParametro) {
