@@ -17,7 +17,6 @@
 #include "comun/Aserciones.h"
 #include "comun/Carpeta.h"
 #include "store/BaseDatos.h"
-#include "store/CarpetasPrograma.h"
 
 namespace fs = std::filesystem;
 using namespace trevalo;
@@ -227,33 +226,6 @@ TEST(EjemploConLaHerramienta, CadaVigaVaYVuelve) {
             antes.replace(p, citado.size(), "\"Copia\"");
         EXPECT_EQ(nlohmann::json::parse(despues), nlohmann::json::parse(antes)) << nombre;
     }
-}
-
-// The first start on the real installation copies the sample and every shipped table.
-TEST(InicioInstalado, CopiaLoQueLaInstalacionTrae) {
-    CarpetaTemporal tmp;
-    fs::create_directories(tmp / "casa");
-    EntornoInicio entorno{TREVALO_RUTA_PROGRAMA, tmp / "casa", tmp / "docs", std::locale()};
-    CarpetasPrograma carpetas;
-    DatosUsuario(entorno, carpetas);
-
-    EXPECT_EQ(LeerArchivo(carpetas.RutaProyectos + "/Ejemplo Demostrativo.trv"),
-              LeerArchivo(Ejemplo));
-    EXPECT_EQ(LeerArchivo(carpetas.RutaTapices + "/TapizKorvel.jpg"),
-              LeerArchivo(Imagen + "/TapizKorvel.jpg"));
-    EXPECT_EQ(LeerArchivo(carpetas.RutaBase + "/Trabajo/Temporal.mdb"),
-              LeerArchivo(Imagen + "/Temporal.kvl"));
-    int tablas = 0;
-    for (const auto& e : fs::directory_iterator(Imagen)) {
-        if (e.path().extension() != ".pfl") continue;
-        ++tablas;
-        EXPECT_EQ(LeerArchivo(carpetas.RutaPerfiles + "/" + e.path().filename().string()),
-                  LeerArchivo(e.path().string()));
-    }
-    EXPECT_GT(tablas, 0);
-    EXPECT_EQ(
-        std::distance(fs::directory_iterator(carpetas.RutaPerfiles), fs::directory_iterator()),
-        tablas);
 }
 
 } // namespace
