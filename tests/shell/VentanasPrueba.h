@@ -141,6 +141,13 @@ inline void Pulsar(QWidget& ventana, const char* boton) {
     QTest::mouseClick(Control<QAbstractButton>(ventana, boton), Qt::LeftButton);
 }
 
+// The window of type T on screen, if any.
+template <typename T> T* VentanaAbierta() {
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* v = qobject_cast<T*>(w); v && v->isVisible()) return v;
+    return nullptr;
+}
+
 // The project window on a project of the data folder, on screen.
 inline std::unique_ptr<VigasProyecto> VentanaProyecto(ProgramaPrueba& p,
                                                       const std::string& proyecto) {
