@@ -67,7 +67,14 @@ TEST_F(MotorDatos, UnNombreConComillasViajaComoParametro) {
     EXPECT_EQ(Leer("Nombres"), std::vector<std::string>{"otra"});
 }
 
-TEST_F(MotorDatos, ElRecordsetSeMueveComoUnDynaset) {
+TEST_F(MotorDatos, ElRecordsetSeMueveComoUnDynasetYVacioNoTieneRegistroActivo) {
+    auto vacio = bd_->AbrirRecordset("Nombres");
+    EXPECT_EQ(vacio.RecordCount(), 0);
+    EXPECT_TRUE(vacio.AlFinal());
+    EXPECT_TRUE(vacio.AlPrincipio());
+    EXPECT_TREVALO_ERROR(vacio.MoveFirst(), ErrSinRegistroActual, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(vacio.Edit(), ErrSinRegistroActual, "No hay ningún registro activo.");
+
     Poner({"c", "a", "b"});
     auto rs = bd_->AbrirRecordset("SELECT * FROM Nombres ORDER BY Nombre");
     EXPECT_EQ(rs.RecordCount(), 3);
@@ -94,16 +101,7 @@ TEST_F(MotorDatos, ElRecordsetSeMueveComoUnDynaset) {
                          "Update o CancelUpdate sin AddNew o Edit.");
 }
 
-TEST_F(MotorDatos, UnRecordsetVacioNoTieneRegistroActivo) {
-    auto rs = bd_->AbrirRecordset("Nombres");
-    EXPECT_EQ(rs.RecordCount(), 0);
-    EXPECT_TRUE(rs.AlFinal());
-    EXPECT_TRUE(rs.AlPrincipio());
-    EXPECT_TREVALO_ERROR(rs.MoveFirst(), ErrSinRegistroActual, "No hay ningún registro activo.");
-    EXPECT_TREVALO_ERROR(rs.Edit(), ErrSinRegistroActual, "No hay ningún registro activo.");
-}
-
-TEST_F(MotorDatos, AddNewAnadeAlFinalYDejaLaPosicion) {
+TEST_F(MotorDatos, AddNewAnadeAlFinalDeUnaTablaYNoAUnaConsultaCompuesta) {
     Poner({"b", "d"});
     auto rs = bd_->AbrirRecordset("SELECT * FROM Nombres ORDER BY Nombre");
     rs.AddNew();
@@ -120,6 +118,13 @@ TEST_F(MotorDatos, AddNewAnadeAlFinalYDejaLaPosicion) {
               (std::vector<std::string>{"a", "b", "d"}));
     rs.Requery();
     EXPECT_EQ(rs.Campo("Nombre").Texto(), "a");
+
+    // A query of computed columns takes no new row.
+    auto compuesta = bd_->AbrirRecordset("SELECT Nombre, N * 2 AS Doble FROM Nombres ORDER BY N");
+    EXPECT_EQ(compuesta.Campo("Doble").Entero(), 2);
+    EXPECT_TREVALO_ERROR(
+        compuesta.AddNew(), ErrSoloLectura,
+        "No se puede actualizar. La base de datos o el objeto es de sólo lectura.");
 }
 
 TEST_F(MotorDatos, EditYDeleteEscribenEnElArchivo) {
@@ -171,15 +176,6 @@ TEST_F(MotorDatos, RefrescarVuelveAlArchivoSinReordenar) {
     EXPECT_EQ(rs.Campo("N").Entero(), 2);
     rs.MoveNext();
     EXPECT_EQ(rs.Campo("Nombre").Texto(), "a"); // still last: no requery happened
-}
-
-TEST_F(MotorDatos, UnaConsultaCompuestaEsDeSoloLectura) {
-    Poner({"a"});
-    auto rs = bd_->AbrirRecordset("SELECT Nombre, N * 2 AS Doble FROM Nombres");
-    EXPECT_EQ(rs.Campo("Doble").Entero(), 2);
-    EXPECT_TREVALO_ERROR(
-        rs.AddNew(), ErrSoloLectura,
-        "No se puede actualizar. La base de datos o el objeto es de sólo lectura.");
 }
 
 TEST_F(MotorDatos, UnaTransaccionSinConfirmarDejaElArchivoComoEstaba) {
