@@ -117,17 +117,8 @@ TEST_F(EscritoresTest, HeadLinesShowMaterialsWithTheMachinesSeparators) {
     EXPECT_EQ(lineas[7].Valor, "6.0");
 }
 
-TEST_F(EscritoresTest, KindOfOutputFollowsTheExtension) {
-    EXPECT_EQ(ArchivoPorExtension("a/b.PDF"), ArchivoInforme::Pdf);
-    EXPECT_EQ(ArchivoPorExtension("b.htm"), ArchivoInforme::Html);
-    EXPECT_EQ(ArchivoPorExtension("b.Html"), ArchivoInforme::Html);
-    EXPECT_EQ(ArchivoPorExtension("b.xlsx"), ArchivoInforme::Hoja);
-    EXPECT_EQ(ArchivoPorExtension("b.rtf"), ArchivoInforme::Texto);
-    EXPECT_EQ(ArchivoPorExtension("b.xls"), std::nullopt);
-    EXPECT_EQ(ArchivoPorExtension("pdf"), std::nullopt);
-}
-
-// A file chosen through a kind's Save dialog is written by that kind's writer.
+// A file chosen through a kind's Save dialog is written by that kind's writer; the extension
+// decides in any case, and only the four extensions have a writer.
 TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
     int conArchivo = 0;
     for (const auto& s : SalidasInforme) {
@@ -141,6 +132,10 @@ TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
         EXPECT_EQ(ArchivoPorExtension("informe" + patron.substr(1)), s.Archivo) << filtro;
     }
     EXPECT_EQ(conArchivo, 4);
+    EXPECT_EQ(ArchivoPorExtension("a/b.PDF"), ArchivoInforme::Pdf);
+    EXPECT_EQ(ArchivoPorExtension("b.Html"), ArchivoInforme::Html);
+    EXPECT_EQ(ArchivoPorExtension("b.xls"), std::nullopt);
+    EXPECT_EQ(ArchivoPorExtension("pdf"), std::nullopt);
     EXPECT_EQ(PreguntaAbrirArchivo("Obra.pdf"), "¿Desea Abrir el Archivo Obra.pdf?    ");
 }
 
