@@ -81,11 +81,9 @@ class UsoDeVentanas : public QObject {
         sondeo_.start(20);
     }
     QStringList abiertas;
-    bool activo = true;
 
   private:
     void Mirar() {
-        if (!activo) return;
         QWidget* w = QApplication::activeModalWidget();
         if (auto* v = qobject_cast<VigasProyecto*>(w)) {
             abiertas << QStringLiteral("VigasProyecto");
@@ -291,58 +289,30 @@ class AbrirProyectoTest : public QObject {
         QCOMPARE(p.dialogos->preguntas.size(), 1u);
     }
 
+    // A project chosen, then moved away before its window opens: the project window fails
+    // to open it and writes nothing into the sample looked at before. A file that is not a
+    // project and a template that cannot be copied clear the project in the lifecycle tests.
     void UnaAperturaFallidaNoEscribeEnElProyectoAnterior() {
         ProgramaPrueba p;
         const std::string ejemplo = Proyectos(p, Ejemplo);
         const std::string antes = LeerArchivo(ejemplo);
-        EscribirArchivo(Proyectos(p, "Notas.trv"), "no es un proyecto");
         MenuP menu(p.programa);
         menu.show();
         // The sample looked at in the project window: its database is the one held.
+        menu.AbrirArchivoProyecto(Qs(ejemplo));
+        AlAbrirse<VigasProyecto>([](VigasProyecto& v) { v.reject(); });
+        menu.Accion(QStringLiteral("ID_AnalizarVigas"))->trigger();
         UsoDeVentanas uso(p);
-        const auto mirarEjemplo = [&] {
-            uso.activo = false;
-            menu.AbrirArchivoProyecto(Qs(ejemplo));
-            AlAbrirse<VigasProyecto>([](VigasProyecto& v) { v.reject(); });
-            menu.Accion(QStringLiteral("ID_AnalizarVigas"))->trigger();
-            uso.activo = true;
-        };
-        const auto elegir = [&](const std::string& nombre) {
-            p.dialogos->archivos = {{false, Proyectos(p, nombre), nombre}};
-        };
-        mirarEjemplo();
-        const QString ninguno = QStringLiteral("Trevalo 6.0  Proyecto: [] -");
 
-        // A project chosen, then moved away before its window opens.
         std::filesystem::copy_file(ejemplo, Proyectos(p, "Movido.trv"));
-        elegir("Movido.trv");
+        p.dialogos->archivos = {{false, Proyectos(p, "Movido.trv"), "Movido.trv"}};
         menu.Despachar(QStringLiteral("ID_Proyecto_Abrir"));
         std::filesystem::remove(Proyectos(p, "Movido.trv"));
         menu.Accion(QStringLiteral("ID_AnalizarVigas"))->trigger();
         QVERIFY(p.dialogos->preguntas.back() ==
                 ErrorStore(53, "No existe el archivo: " + Proyectos(p, "Movido.trv")));
-        QCOMPARE(Estado(menu), ninguno);
-
-        // A file that is not a project.
-        mirarEjemplo();
-        elegir("Notas.trv");
-        menu.Despachar(QStringLiteral("ID_Proyecto_Abrir"));
-        QCOMPARE(Estado(menu), ninguno);
+        QCOMPARE(Estado(menu), QStringLiteral("Trevalo 6.0  Proyecto: [] -"));
         menu.Accion(QStringLiteral("ID_Proyecto_Modificar"))->trigger(); // asks: cancelled
-        menu.Accion(QStringLiteral("ID_AnalizarVigas"))->trigger();      // asks: cancelled
-
-        // A new project whose template cannot be copied.
-        mirarEjemplo();
-        const std::string programa = p.programa.Carpetas.RutaPrograma;
-        p.programa.Carpetas.RutaPrograma = p.carpeta / "sin plantilla";
-        elegir("Nuevo.trv");
-        menu.Despachar(QStringLiteral("ID_Proyecto_Nuevo"));
-        p.programa.Carpetas.RutaPrograma = programa;
-        QVERIFY(p.dialogos->preguntas.back() ==
-                ErrorStore(53, "No se encontró el archivo: " +
-                                   p.carpeta / "sin plantilla/Imagen/ImagenViga.kvl"));
-        QCOMPARE(Estado(menu), ninguno);
-        QVERIFY(!std::filesystem::exists(Proyectos(p, "Nuevo.trv")));
 
         QCOMPARE(uso.abiertas, QStringList());
         QVERIFY(LeerArchivo(ejemplo) == antes);
