@@ -173,14 +173,6 @@ TEST_F(ArchivosDeTablas, FallaEnMedioDelGuardadoDejaElArchivoComoEstaba) {
     EXPECT_EQ(leida.Filas[1].Valores, original.Filas[1].Valores);
 }
 
-TEST_F(ArchivosDeTablas, ArchivoDeOtraFamiliaFallaAlLeerElCampo) {
-    const std::string ruta = Nueva(F::TuboCuadrado, "A.pfl");
-    SalvarTablaPerfiles(ruta, F::TuboCuadrado, {"T", 1, {Fila(F::TuboCuadrado, "T", 1)}});
-    EXPECT_TREVALO_ERROR(LeerTablaPerfiles(ruta, F::TuboRectangular), ErrNoEnColeccion,
-                         "La tabla no tiene el campo \"InerciaX\": no es una tabla de "
-                         "esta familia de perfiles.");
-}
-
 TEST_F(ArchivosDeTablas, ArchivoDanadoEsErrorDelProgramaYQuedaComoEstaba) {
     // Each damage to a saved table of two rows, and the number of the error it gives (0: the
     // engine's own, whatever it is).
