@@ -130,6 +130,11 @@ TEST_F(ProyectoAntiguo, SeConvierteAlAbrirloYConservaCadaViga) {
     for (Recordset& rs = *estado.RsGeneralViga; !rs.AlFinal(); rs.MoveNext())
         lista.push_back(rs.Campo("NombreViga").Texto());
     EXPECT_EQ(lista, (std::vector<std::string>{"azotea", "Nivel 1", "VIGA 2", "Viga ñ"}));
+    std::vector<std::string> guardadas; // the rows keep the order they were written in
+    for (auto rs = bd.AbrirRecordset("SELECT NombreViga FROM GeneralViga ORDER BY rowid");
+         !rs.AlFinal(); rs.MoveNext())
+        guardadas.push_back(rs.Campo("NombreViga").Texto());
+    EXPECT_EQ(guardadas, (std::vector<std::string>{"Viga ñ", "azotea", "VIGA 2", "Nivel 1"}));
     for (const auto& [nombre, esperada] : esperadas) {
         SCOPED_TRACE(nombre);
         EXPECT_TRUE(Volcar(bd, nombre) == filas.at(nombre));
