@@ -8,8 +8,6 @@
 
 #include <QImage>
 
-#include <cstdio>
-#include <memory>
 #include <set>
 
 #include "BaseTemporal.h"
@@ -31,17 +29,6 @@ using namespace prueba;
 QImage Imagen(const GraficoInforme& g) {
     return QImage::fromData(g.Grafico.data(), static_cast<int>(g.Grafico.size()), "PNG")
         .convertToFormat(QImage::Format_RGB32);
-}
-
-// What a command prints on its standard output.
-std::string Salida(const std::string& orden) {
-    std::string r;
-    const std::unique_ptr<FILE, int (*)(FILE*)> tubo(popen(orden.c_str(), "r"), pclose);
-    if (!tubo) return r;
-    char bloque[4096];
-    for (std::size_t n; (n = std::fread(bloque, 1, sizeof bloque, tubo.get())) > 0;)
-        r.append(bloque, n);
-    return r;
 }
 
 // Share of pixels that are not white.
@@ -135,12 +122,12 @@ TEST_F(ProgramaInformeTest, PdfCarriesThePicturesAsTextAndVectors) {
     const std::string pdf = carpeta / "Informe.pdf";
     EscribirInformePdf(c, pdf);
     // Only the two heading lines of the list.
-    const std::string imagenes = Salida("pdfimages -list '" + pdf + "'");
+    const std::string imagenes = SalidaOrden("pdfimages -list '" + pdf + "'");
     EXPECT_EQ(std::count(imagenes.begin(), imagenes.end(), '\n'), 2) << imagenes;
     for (int viga = 0; viga < 2; ++viga) {
         const int pagina = 2 + 3 * viga; // the design sheet
-        const std::string texto = Salida("pdftotext -f " + std::to_string(pagina) + " -l " +
-                                         std::to_string(pagina) + " '" + pdf + "' -");
+        const std::string texto = SalidaOrden("pdftotext -f " + std::to_string(pagina) + " -l " +
+                                              std::to_string(pagina) + " '" + pdf + "' -");
         EXPECT_NE(texto.find(viga == 0 ? "V-101" : "V-102"), std::string::npos) << texto;
         int numeros = 0;
         for (const auto& op : *c.Graficos[static_cast<std::size_t>(3 * viga)].Dibujo) {

@@ -5,8 +5,6 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-#include <array>
-#include <cstdio>
 #include <cstring>
 
 #include "ProyectoPrueba.h"
@@ -57,14 +55,7 @@ std::string LeidoPorPython(const std::string& ruta, const std::string& nombre,
                            "                 (sys.argv[2],)).fetchone()[0])\n"
                            "print('|'.join(f[0] for f in bd.execute(\n"
                            "    'SELECT NombreViga FROM GeneralViga ORDER BY NombreViga')))\n");
-    std::string salida;
-    FILE* tubo =
-        popen(("python3 '" + guion + "' '" + ruta + "' '" + nombre + "' 2>&1").c_str(), "r");
-    if (!tubo) return "python3 no arrancó";
-    std::array<char, 256> trozo{};
-    while (std::fgets(trozo.data(), trozo.size(), tubo)) salida += trozo.data();
-    pclose(tubo);
-    return salida;
+    return SalidaOrden("python3 '" + guion + "' '" + ruta + "' '" + nombre + "' 2>&1");
 }
 
 TEST(ArchivosSqlite, PythonConsultaUnProyectoEscritoPorElPrograma) {
