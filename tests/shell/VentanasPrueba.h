@@ -141,6 +141,14 @@ inline void Pulsar(QWidget& ventana, const char* boton) {
     QTest::mouseClick(Control<QAbstractButton>(ventana, boton), Qt::LeftButton);
 }
 
+// Replaces the text of a dialog's name box (Text1) and presses the accept button.
+inline void Proponer(QWidget& ventana, const QString& nombre, const char* aceptar) {
+    QLineEdit* texto = Control(ventana, "Text1");
+    texto->clear();
+    Teclear(texto, nombre);
+    Pulsar(ventana, aceptar);
+}
+
 // The window of type T on screen, if any.
 template <typename T> T* VentanaAbierta() {
     for (QWidget* w : QApplication::topLevelWidgets())

@@ -3,7 +3,6 @@
 // project with no beams, and a beam whose analysis faults.
 
 #include <QAction>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QWheelEvent>
@@ -37,14 +36,9 @@ bool HayDibujo(const PantallaViga& pantalla) {
     return false;
 }
 
-// Types a name into the dialog's box and presses its accept button.
+// Names the beam in the dialog of type T once it is on screen.
 template <typename T> void Nombrar(const QString& nombre, const char* aceptar) {
-    AlAbrirse<T>([nombre, aceptar](T& d) {
-        auto* texto = Hijo<QLineEdit>(d, QStringLiteral("Text1"));
-        texto->clear();
-        Teclear(texto, nombre);
-        QTest::mouseClick(Hijo<QPushButton>(d, QString::fromLatin1(aceptar)), Qt::LeftButton);
-    });
+    AlAbrirse<T>([nombre, aceptar](T& d) { Proponer(d, nombre, aceptar); });
 }
 
 // The beams of the project file, in name order.
