@@ -161,11 +161,10 @@ TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
 }
 
 // Each picture inline as SVG, its text as text; without drawings, each PNG whole.
-TEST_F(EscritoresTest, HtmlDrawsEveryPictureAsSvgAndEscapesTexts) {
-    const auto c = Contenido(3);
+TEST_F(EscritoresTest, HtmlDrawsEveryPictureAsSvgOrEmbedsItWholeAndEscapesTexts) {
     const auto ruta = carpeta / "r.htm";
-    EscribirInformeHtml(c, ruta);
-    const std::string html = prueba::LeerArchivo(ruta);
+    EscribirInformeHtml(Contenido(3), ruta);
+    std::string html = prueba::LeerArchivo(ruta);
     EXPECT_EQ(Contar(html, "<svg "), 3u);
     EXPECT_EQ(Contar(html, "</svg>"), 3u);
     EXPECT_EQ(html.find("data:image"), std::string::npos);
@@ -178,13 +177,10 @@ TEST_F(EscritoresTest, HtmlDrawsEveryPictureAsSvgAndEscapesTexts) {
     EXPECT_NE(html.find("Edificio Ñandú {torre} \\ &lt;norte&gt; &amp; sur"), std::string::npos);
     EXPECT_NE(html.find("<h1>ANALISIS Y DISEÑO DE VIGAS CONTINUAS</h1>"), std::string::npos);
     EXPECT_NE(html.find("<meta charset=\"utf-8\">"), std::string::npos);
-}
 
-TEST_F(EscritoresTest, HtmlWithoutDrawingsEmbedsEveryPictureWhole) {
     const auto c = SinDibujos(Contenido(3));
-    const auto ruta = carpeta / "r.htm";
     EscribirInformeHtml(c, ruta);
-    const std::string html = prueba::LeerArchivo(ruta);
+    html = prueba::LeerArchivo(ruta);
     EXPECT_EQ(html.find("<svg"), std::string::npos);
     const auto uris = Trozos(html, "src=\"data:image/png;base64,", "\"");
     ASSERT_EQ(uris.size(), 3u);
