@@ -1,12 +1,15 @@
 #pragma once
 // A fresh temporary folder for one test (mkdtemp, so tests that run side by side never
-// share one), removed with everything in it at the end; and whole files written and read.
+// share one), removed with everything in it at the end; whole files written and read; what a
+// command prints.
 
+#include <stdio.h>
 #include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
@@ -42,6 +45,17 @@ inline void EscribirArchivo(const std::string& ruta, const std::string& contenid
 inline std::string LeerArchivo(const std::string& ruta) {
     std::ifstream archivo(ruta, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(archivo), std::istreambuf_iterator<char>());
+}
+
+// What a shell command prints on its standard output.
+inline std::string SalidaOrden(const std::string& orden) {
+    std::string r;
+    const std::unique_ptr<FILE, int (*)(FILE*)> tubo(::popen(orden.c_str(), "r"), ::pclose);
+    if (!tubo) return r;
+    char bloque[4096];
+    for (std::size_t n; (n = std::fread(bloque, 1, sizeof bloque, tubo.get())) > 0;)
+        r.append(bloque, n);
+    return r;
 }
 
 } // namespace trevalo::prueba

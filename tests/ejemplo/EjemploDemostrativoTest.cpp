@@ -8,16 +8,11 @@
 #include <filesystem>
 #include <map>
 #include <set>
-#include <sstream>
-
-#include <nlohmann/json.hpp>
 
 #include "analysis/AnalisisVigasP.h"
-#include "app/tools/Comandos.h"
 #include "comun/Aserciones.h"
 #include "comun/Carpeta.h"
 #include "store/BaseDatos.h"
-#include "store/CarpetasPrograma.h"
 
 namespace fs = std::filesystem;
 using namespace trevalo;
@@ -194,66 +189,6 @@ TEST_F(EjemploDemostrativo, MuestraCadaRasgoDeUnaViga) {
     EXPECT_EQ(ipe.B1(1), 53.81); // cm2
     EXPECT_EQ(ipe.T1(1), 8356);  // cm4
     EXPECT_EQ(ipe.Designacion(1), "IPE 300");
-}
-
-// The companion tool lists the sample's beams, and each exported, imported under a new
-// name and exported again by that name in other letter case is the same beam but for its
-// name, which the document gives as stored.
-TEST(EjemploConLaHerramienta, CadaVigaVaYVuelve) {
-    CarpetaTemporal tmp;
-    const std::string proyecto = tmp / "Ejemplo.trv";
-    fs::copy_file(Ejemplo, proyecto);
-    const auto calc = [](const calc::Argumentos& args, std::string& salida) {
-        std::ostringstream s, e;
-        const int codigo = calc::EjecutarCalc(args, s, e);
-        EXPECT_EQ(codigo, 0) << e.str();
-        salida = s.str();
-    };
-    std::string lista;
-    calc({"vigas", proyecto}, lista);
-    EXPECT_EQ(lista, "V-001 Fundación sobre Suelo Elástico\nV-101 Entrepiso Eje B\nV-102 Balcón en "
-                     "Volado\nV-201 Techo Galpón IPE 300\nV-301 Rampa Estacionamiento\nV-401 "
-                     "Viga de Transferencia\n");
-    std::istringstream nombres(lista);
-    for (std::string nombre; std::getline(nombres, nombre);) {
-        std::string antes, importada, despues;
-        calc({"exportar", proyecto, "--viga", nombre}, antes);
-        EscribirArchivo(tmp / "viga.json", antes);
-        calc({"importar", proyecto, tmp / "viga.json", "--nombre", "Copia"}, importada);
-        calc({"exportar", proyecto, "--viga", "COPIA"}, despues);
-        // Identical but for the name, wherever the name stands.
-        const std::string citado = "\"" + nombre + "\"";
-        for (auto p = antes.find(citado); p != std::string::npos; p = antes.find(citado))
-            antes.replace(p, citado.size(), "\"Copia\"");
-        EXPECT_EQ(nlohmann::json::parse(despues), nlohmann::json::parse(antes)) << nombre;
-    }
-}
-
-// The first start on the real installation copies the sample and every shipped table.
-TEST(InicioInstalado, CopiaLoQueLaInstalacionTrae) {
-    CarpetaTemporal tmp;
-    fs::create_directories(tmp / "casa");
-    EntornoInicio entorno{TREVALO_RUTA_PROGRAMA, tmp / "casa", tmp / "docs", std::locale()};
-    CarpetasPrograma carpetas;
-    DatosUsuario(entorno, carpetas);
-
-    EXPECT_EQ(LeerArchivo(carpetas.RutaProyectos + "/Ejemplo Demostrativo.trv"),
-              LeerArchivo(Ejemplo));
-    EXPECT_EQ(LeerArchivo(carpetas.RutaTapices + "/TapizKorvel.jpg"),
-              LeerArchivo(Imagen + "/TapizKorvel.jpg"));
-    EXPECT_EQ(LeerArchivo(carpetas.RutaBase + "/Trabajo/Temporal.mdb"),
-              LeerArchivo(Imagen + "/Temporal.kvl"));
-    int tablas = 0;
-    for (const auto& e : fs::directory_iterator(Imagen)) {
-        if (e.path().extension() != ".pfl") continue;
-        ++tablas;
-        EXPECT_EQ(LeerArchivo(carpetas.RutaPerfiles + "/" + e.path().filename().string()),
-                  LeerArchivo(e.path().string()));
-    }
-    EXPECT_GT(tablas, 0);
-    EXPECT_EQ(
-        std::distance(fs::directory_iterator(carpetas.RutaPerfiles), fs::directory_iterator()),
-        tablas);
 }
 
 } // namespace

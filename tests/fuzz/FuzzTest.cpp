@@ -56,7 +56,7 @@ struct Falla {
 // --- The steps of the program a damaged beam goes through -----------------------------------
 
 // Runs one step: the program's error is an answer, anything else a failure.
-void Paso(const char* nombre, const std::function<void()>& paso, std::string& que) {
+void Paso(std::string& que, const char* nombre, const std::function<void()>& paso) {
     try {
         paso();
     } catch (const ErrorTrevalo&) {
@@ -70,31 +70,24 @@ void Paso(const char* nombre, const std::function<void()>& paso, std::string& qu
 // Solve, station tables and the four views of the beam as loaded.
 void Recorrer(ProyectoActual& p, VigaActual& v, std::string& que) {
     ResultadosViga r;
-    Paso(
-        "resolver", [&] { AnalizarViga({}, p, v, r); }, que);
-    Paso(
-        "estaciones",
-        [&] {
-            GeometriaJuntas g;
-            GeometriaPlot(v, g);
-            ResumenAcero hoja, cad;
-            TablaDiseno(p, v, r, g.XPlot, g.YPlot, 2, hoja);
-            DisenoParaCAD(p, v, r, g.XPlot, g.YPlot, 2, cad);
-        },
-        que);
+    Paso(que, "resolver", [&] { AnalizarViga({}, p, v, r); });
+    Paso(que, "estaciones", [&] {
+        GeometriaJuntas g;
+        GeometriaPlot(v, g);
+        ResumenAcero hoja, cad;
+        TablaDiseno(p, v, r, g.XPlot, g.YPlot, 2, hoja);
+        DisenoParaCAD(p, v, r, g.XPlot, g.YPlot, 2, cad);
+    });
     for (int vista = 1; vista <= 4; ++vista)
-        Paso(
-            "vista",
-            [&] {
-                EstadoPloteos e;
-                ReiniciarVista(e);
-                ElegirPestana(e, vista);
-                // The windows show no result view of a solve that failed.
-                if (r.NJuntas == 0) e.VerDiagramas = e.VerDiseno = e.VerReacciones = false;
-                LienzoGrabador lienzo(1000, 600);
-                PlotearViga(lienzo, e, p, v, r);
-            },
-            que);
+        Paso(que, "vista", [&] {
+            EstadoPloteos e;
+            ReiniciarVista(e);
+            ElegirPestana(e, vista);
+            // The windows show no result view of a solve that failed.
+            if (r.NJuntas == 0) e.VerDiagramas = e.VerDiseno = e.VerReacciones = false;
+            LienzoGrabador lienzo(1000, 600);
+            PlotearViga(lienzo, e, p, v, r);
+        });
 }
 
 // --- Hostile values --------------------------------------------------------------------------
@@ -109,20 +102,12 @@ std::vector<Json> ValoresJson() {
 }
 
 std::vector<Valor> ValoresBase() {
-    return {Valor(-1),
-            Valor(0),
-            Valor(-0.5),
-            Valor(1e308),
-            Valor(-1e308),
-            Valor(99999999.0),
-            Valor(32768),
-            Valor(-32769),
-            Valor(std::int64_t{1} << 40),
-            Valor(kInf),
-            Valor("texto"),
-            Valor(""),
-            Valor(),
-            Valor(Valor::Binario{0, 255})};
+    const Valor::Binario bytes{0, 255};
+    return {Valor(-1),    Valor(0),       Valor(-0.5),
+            Valor(1e308), Valor(-1e308),  Valor(99999999.0),
+            Valor(32768), Valor(-32769),  Valor(std::int64_t{1} << 40),
+            Valor(kInf),  Valor("texto"), Valor(""),
+            Valor(),      Valor(bytes)};
 }
 
 // A hostile value as the failure report tells it.
@@ -216,21 +201,15 @@ void CasoDocumento(std::mt19937_64& azar, const std::vector<Json>& docs, Falla& 
             texto[pos] = static_cast<char>(Hasta(azar, 256));
             f.danos += "byte " + std::to_string(pos) + " cambiado; ";
         }
-        Paso(
-            "leer",
-            [&] {
-                calc::LeerVigaJsonTexto(texto, p, v);
-                leida = true;
-            },
-            f.que);
+        Paso(f.que, "leer", [&] {
+            calc::LeerVigaJsonTexto(texto, p, v);
+            leida = true;
+        });
     } else {
-        Paso(
-            "leer",
-            [&] {
-                calc::LeerVigaJson(doc, p, v);
-                leida = true;
-            },
-            f.que);
+        Paso(f.que, "leer", [&] {
+            calc::LeerVigaJson(doc, p, v);
+            leida = true;
+        });
     }
     if (leida) Recorrer(p, v, f.que);
 }
@@ -331,19 +310,16 @@ void DanarBytes(std::mt19937_64& azar, const std::string& ruta, std::string& dan
 // The report of the one beam, as the print window fills it.
 void Informe(EstadoProyecto& estado, ProyectoActual& p, VigaActual& v, const std::string& viga,
              const std::string& carpeta, std::string& que) {
-    Paso(
-        "informe",
-        [&] {
-            ResultadosViga r;
-            EstadoPloteos vista;
-            ModeloInforme modelo{estado, p, v, r, vista};
-            prueba::DialogosGuion dialogos;
-            const std::string ruta = carpeta + "/Informe.kvl";
-            CopiarArchivoDisco(TREVALO_RUTA_PROGRAMA "/Imagen/Temporal.kvl", ruta);
-            LlenarImpreDatos(ruta, FilaGeneralesDe(p, "fuzz", "6.0"), {viga}, {1, 1, 1},
-                             PasosPrograma(modelo, dialogos));
-        },
-        que);
+    Paso(que, "informe", [&] {
+        ResultadosViga r;
+        EstadoPloteos vista;
+        ModeloInforme modelo{estado, p, v, r, vista};
+        prueba::DialogosGuion dialogos;
+        const std::string ruta = carpeta + "/Informe.kvl";
+        CopiarArchivoDisco(TREVALO_RUTA_PROGRAMA "/Imagen/Temporal.kvl", ruta);
+        LlenarImpreDatos(ruta, FilaGeneralesDe(p, "fuzz", "6.0"), {viga}, {1, 1, 1},
+                         PasosPrograma(modelo, dialogos));
+    });
 }
 
 void CasoProyecto(std::mt19937_64& azar, const Esquema& esquema, const std::string& carpeta,
@@ -361,21 +337,15 @@ void CasoProyecto(std::mt19937_64& azar, const Esquema& esquema, const std::stri
         VigaActual v;
         v.NombreVigaActual = viga;
         bool leida = false;
-        Paso(
-            "abrir",
-            [&] {
-                AbrirProyectoArchivo(ruta, estado);
-                LeerGeneralProyecto(*estado.BDProyecto, p);
-            },
-            f.que);
+        Paso(f.que, "abrir", [&] {
+            AbrirProyectoArchivo(ruta, estado);
+            LeerGeneralProyecto(*estado.BDProyecto, p);
+        });
         if (estado.BDProyecto)
-            Paso(
-                "leer",
-                [&] {
-                    LeerViga(estado, v);
-                    leida = true;
-                },
-                f.que);
+            Paso(f.que, "leer", [&] {
+                LeerViga(estado, v);
+                leida = true;
+            });
         if (leida) Recorrer(p, v, f.que);
         if (leida && numero % kCadaInforme == 0) Informe(estado, p, v, viga, carpeta, f.que);
     }

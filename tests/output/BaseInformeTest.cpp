@@ -136,7 +136,7 @@ TEST_F(FillTest, ProgressShowsEachNameWithTheBarGrowingByItsShare) {
     EXPECT_EQ(r.panel, (std::vector<bool>{true, false}));
 }
 
-TEST_F(FillTest, OneChosenBeamGetsNumbersFromOneAndNoProgress) {
+TEST_F(FillTest, OneChosenBeamGetsNumbersFromOneAndNoProgressAndMustBeInTheList) {
     Recorrido r;
     LlenarImpreDatos(ruta, Generales(), {"A", "B", "C"}, {2, 1, 0}, r.Pasos());
     const auto c = LeerBaseInforme(ruta);
@@ -146,10 +146,7 @@ TEST_F(FillTest, OneChosenBeamGetsNumbersFromOneAndNoProgress) {
     EXPECT_EQ(Texto(c.Graficos[1].Grafico), "B/1");
     EXPECT_TRUE(r.progreso.empty());
     EXPECT_EQ(r.pasos.front(), "cargar B");
-}
-
-TEST_F(FillTest, ABeamNumberBeyondTheListIsSubscriptOutOfRange) {
-    Recorrido r;
+    // A number beyond the list is a subscript out of range.
     EXPECT_TREVALO_ERROR(LlenarImpreDatos(ruta, Generales(), {"A", "B"}, {3, 0, 0}, r.Pasos()), 9,
                          "El subíndice está fuera del intervalo");
 }

@@ -117,17 +117,8 @@ TEST_F(EscritoresTest, HeadLinesShowMaterialsWithTheMachinesSeparators) {
     EXPECT_EQ(lineas[7].Valor, "6.0");
 }
 
-TEST_F(EscritoresTest, KindOfOutputFollowsTheExtension) {
-    EXPECT_EQ(ArchivoPorExtension("a/b.PDF"), ArchivoInforme::Pdf);
-    EXPECT_EQ(ArchivoPorExtension("b.htm"), ArchivoInforme::Html);
-    EXPECT_EQ(ArchivoPorExtension("b.Html"), ArchivoInforme::Html);
-    EXPECT_EQ(ArchivoPorExtension("b.xlsx"), ArchivoInforme::Hoja);
-    EXPECT_EQ(ArchivoPorExtension("b.rtf"), ArchivoInforme::Texto);
-    EXPECT_EQ(ArchivoPorExtension("b.xls"), std::nullopt);
-    EXPECT_EQ(ArchivoPorExtension("pdf"), std::nullopt);
-}
-
-// A file chosen through a kind's Save dialog is written by that kind's writer.
+// A file chosen through a kind's Save dialog is written by that kind's writer; the extension
+// decides in any case, and only the four extensions have a writer.
 TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
     int conArchivo = 0;
     for (const auto& s : SalidasInforme) {
@@ -141,6 +132,10 @@ TEST_F(EscritoresTest, EachDialogsFilterLeadsToItsOwnWriter) {
         EXPECT_EQ(ArchivoPorExtension("informe" + patron.substr(1)), s.Archivo) << filtro;
     }
     EXPECT_EQ(conArchivo, 4);
+    EXPECT_EQ(ArchivoPorExtension("a/b.PDF"), ArchivoInforme::Pdf);
+    EXPECT_EQ(ArchivoPorExtension("b.Html"), ArchivoInforme::Html);
+    EXPECT_EQ(ArchivoPorExtension("b.xls"), std::nullopt);
+    EXPECT_EQ(ArchivoPorExtension("pdf"), std::nullopt);
     EXPECT_EQ(PreguntaAbrirArchivo("Obra.pdf"), "¿Desea Abrir el Archivo Obra.pdf?    ");
 }
 
@@ -166,11 +161,10 @@ TEST_F(EscritoresTest, PdfHasTheHeadAndOnePagePerPicture) {
 }
 
 // Each picture inline as SVG, its text as text; without drawings, each PNG whole.
-TEST_F(EscritoresTest, HtmlDrawsEveryPictureAsSvgAndEscapesTexts) {
-    const auto c = Contenido(3);
+TEST_F(EscritoresTest, HtmlDrawsEveryPictureAsSvgOrEmbedsItWholeAndEscapesTexts) {
     const auto ruta = carpeta / "r.htm";
-    EscribirInformeHtml(c, ruta);
-    const std::string html = prueba::LeerArchivo(ruta);
+    EscribirInformeHtml(Contenido(3), ruta);
+    std::string html = prueba::LeerArchivo(ruta);
     EXPECT_EQ(Contar(html, "<svg "), 3u);
     EXPECT_EQ(Contar(html, "</svg>"), 3u);
     EXPECT_EQ(html.find("data:image"), std::string::npos);
@@ -183,13 +177,10 @@ TEST_F(EscritoresTest, HtmlDrawsEveryPictureAsSvgAndEscapesTexts) {
     EXPECT_NE(html.find("Edificio Ñandú {torre} \\ &lt;norte&gt; &amp; sur"), std::string::npos);
     EXPECT_NE(html.find("<h1>ANALISIS Y DISEÑO DE VIGAS CONTINUAS</h1>"), std::string::npos);
     EXPECT_NE(html.find("<meta charset=\"utf-8\">"), std::string::npos);
-}
 
-TEST_F(EscritoresTest, HtmlWithoutDrawingsEmbedsEveryPictureWhole) {
     const auto c = SinDibujos(Contenido(3));
-    const auto ruta = carpeta / "r.htm";
     EscribirInformeHtml(c, ruta);
-    const std::string html = prueba::LeerArchivo(ruta);
+    html = prueba::LeerArchivo(ruta);
     EXPECT_EQ(html.find("<svg"), std::string::npos);
     const auto uris = Trozos(html, "src=\"data:image/png;base64,", "\"");
     ASSERT_EQ(uris.size(), 3u);

@@ -73,19 +73,6 @@ TEST_F(ListaDePerfiles, PrefijoYFactorPorFigura) {
     EXPECT_EQ(ItemLista(7).Texto, "Perfil Tubular Rectangular ");
 }
 
-TEST_F(ListaDePerfiles, CapturaDeUnaSeccionDoble) {
-    ListaPerfiles lista;
-    CargarListaPerfiles(Tabla(F::DobleTee, {{"W 300", 58.08, 8870.9}}), 2, lista);
-    VigaActual viga = VigaConTipos(3);
-    ASSERT_TRUE(CapturarPerfil(lista, 1, 2, viga));
-    EXPECT_EQ(viga.Designacion(2), "2 W 300");
-    EXPECT_DOUBLE_EQ(viga.B1(2), 116.16);
-    EXPECT_DOUBLE_EQ(viga.T1(2), 17741.8);
-    EXPECT_EQ(viga.B1(1), 0); // other types untouched
-    EXPECT_EQ(MensajeCapturaPerfil(lista, 1, 2),
-              "Designación: 2 W 300    \nCapturar este Perfil como la Viga Tipo: 2?       \n");
-}
-
 TEST_F(ListaDePerfiles, CapturaPasaPorElTextoDeDosDecimales) {
     ListaPerfiles lista;
     CargarListaPerfiles(Tabla(F::SeccionU, {{"C", 10.125, 1234.5678}}), 4, lista);
@@ -107,17 +94,6 @@ TEST_F(ListaDePerfiles, TablaVaciaSoloPita) {
     VigaActual viga = VigaConTipos(1);
     EXPECT_FALSE(CapturarPerfil(lista, 1, 1, viga));
     EXPECT_EQ(viga.Designacion(1), "");
-}
-
-TEST_F(ListaDePerfiles, ArchivoDeOtraFamiliaDejaLaListaAnterior) {
-    ListaPerfiles lista;
-    CargarListaPerfiles(Tabla(F::DobleTee, {{"I", 1, 2}}), 1, lista);
-    const std::string cuadrada = Tabla(F::TuboCuadrado, {{"T", 3, 4}});
-    EXPECT_TREVALO_ERROR(CargarListaPerfiles(cuadrada, 1, lista), ErrNoEnColeccion,
-                         "La tabla no tiene el campo \"DimensionD\": no es una tabla de "
-                         "esta familia de perfiles.");
-    EXPECT_EQ(lista.ListaFamilia, 1);
-    EXPECT_EQ(lista.ListaDesignacion(1), "1 I");
 }
 
 TEST_F(ListaDePerfiles, FilaOTipoFueraDeLaListaEsError9) {

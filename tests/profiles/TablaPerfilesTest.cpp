@@ -59,11 +59,6 @@ TEST(NombresDeTablas, PatronPideUnCaracterTrasElPrefijo) {
         EXPECT_EQ(CoincidePatron(c.familia, c.nombre), c.coincide) << c.nombre;
 }
 
-TEST(NombresDeTablas, MensajeDeTablaExistente) {
-    EXPECT_EQ(MensajeTablaExiste("U_A.pfl"),
-              "La Tabla: \"U_A.pfl\" Ya Existe en el Programa...      \nDesea Reemplazarla?      ");
-}
-
 FilaPerfil Fila(F familia, const std::string& nombre, double base) {
     FilaPerfil f{0, nombre, {}};
     for (std::size_t i = 0; i < Familia(familia).Campos.size(); ++i) f.Valores.push_back(base + i);
@@ -99,20 +94,14 @@ TEST_F(ArchivosDeTablas, CadaPlantillaNaceVaciaYGuardaSusCampos) {
     }
 }
 
-TEST_F(ArchivosDeTablas, NuevaVaSiempreALaCarpetaDeTablas) {
+// A new table goes to the tables folder under its family's name, over any table there; the
+// template must be there.
+TEST_F(ArchivosDeTablas, NuevaVaALaCarpetaDeTablasYReemplazaLaExistente) {
     const std::string ruta = Nueva(F::SeccionU, "U");
     EXPECT_EQ(ruta, carpeta / "U_U");
-    EXPECT_TRUE(std::filesystem::exists(ruta));
-}
-
-TEST_F(ArchivosDeTablas, CrearReemplazaLaTablaExistente) {
-    const std::string ruta = Nueva(F::DobleTee, "X.pfl");
-    SalvarTablaPerfiles(ruta, F::DobleTee, {"Vieja", 1, {Fila(F::DobleTee, "A", 1)}});
-    CrearTablaPerfiles(TREVALO_RUTA_PROGRAMA, F::DobleTee, ruta);
-    EXPECT_TRUE(LeerTablaPerfiles(ruta, F::DobleTee).Filas.empty());
-}
-
-TEST_F(ArchivosDeTablas, SinPlantillaEsError53) {
+    SalvarTablaPerfiles(ruta, F::SeccionU, {"Vieja", 1, {Fila(F::SeccionU, "A", 1)}});
+    CrearTablaPerfiles(TREVALO_RUTA_PROGRAMA, F::SeccionU, ruta);
+    EXPECT_TRUE(LeerTablaPerfiles(ruta, F::SeccionU).Filas.empty());
     EXPECT_TREVALO_ERROR(CrearTablaPerfiles(carpeta.Ruta(), F::DobleTee, carpeta / "A"),
                          ErrArchivoNoEncontrado, "No se encontró el archivo");
 }
@@ -154,18 +143,14 @@ TEST_F(ArchivosDeTablas, LecturaEnOrdenDeNumero) {
     EXPECT_EQ(leida.ResistenciaFY, 0); // no GeneralPerfil row yet
 }
 
-TEST_F(ArchivosDeTablas, SinDescripcionNoSeEscribeNada) {
+// Without a description nothing is written; a table without rows keeps its general row.
+TEST_F(ArchivosDeTablas, SinDescripcionNoSeEscribeNadaYSinFilasQuedaLaGeneral) {
     const std::string ruta = Nueva(F::SeccionU, "A.pfl");
     SalvarTablaPerfiles(ruta, F::SeccionU, {"Canales", 2530, {Fila(F::SeccionU, "C 1", 1)}});
     EXPECT_FALSE(SalvarTablaPerfiles(ruta, F::SeccionU, {"    ", 1, {}}));
     const TablaPerfiles leida = LeerTablaPerfiles(ruta, F::SeccionU);
     EXPECT_EQ(leida.DescripcionTabla, "Canales");
     EXPECT_EQ(leida.Filas.size(), 1u);
-}
-
-TEST_F(ArchivosDeTablas, TablaSinFilasDejaUnaFilaGeneral) {
-    const std::string ruta = Nueva(F::SeccionU, "A.pfl");
-    SalvarTablaPerfiles(ruta, F::SeccionU, {"Canales", 2530, {Fila(F::SeccionU, "C 1", 1)}});
     SalvarTablaPerfiles(ruta, F::SeccionU, {"Otra", 2400, {}});
     BaseDatos bd = BaseDatos::Abrir(ruta);
     EXPECT_EQ(bd.AbrirRecordset("GeneralPerfil").RecordCount(), 1);
@@ -186,14 +171,6 @@ TEST_F(ArchivosDeTablas, FallaEnMedioDelGuardadoDejaElArchivoComoEstaba) {
     EXPECT_EQ(leida.DescripcionTabla, "Canales");
     ASSERT_EQ(leida.Filas.size(), 2u);
     EXPECT_EQ(leida.Filas[1].Valores, original.Filas[1].Valores);
-}
-
-TEST_F(ArchivosDeTablas, ArchivoDeOtraFamiliaFallaAlLeerElCampo) {
-    const std::string ruta = Nueva(F::TuboCuadrado, "A.pfl");
-    SalvarTablaPerfiles(ruta, F::TuboCuadrado, {"T", 1, {Fila(F::TuboCuadrado, "T", 1)}});
-    EXPECT_TREVALO_ERROR(LeerTablaPerfiles(ruta, F::TuboRectangular), ErrNoEnColeccion,
-                         "La tabla no tiene el campo \"InerciaX\": no es una tabla de "
-                         "esta familia de perfiles.");
 }
 
 TEST_F(ArchivosDeTablas, ArchivoDanadoEsErrorDelProgramaYQuedaComoEstaba) {

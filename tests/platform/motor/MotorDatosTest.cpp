@@ -1,12 +1,6 @@
-// The database engine: name collation, conversion of files that declared it, recordset
-// movement and writes, transactions, errors.
+// The database engine: name collation, recordset movement and writes, transactions, errors.
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
-
-#include <SQLiteCpp/SQLiteCpp.h>
 
 #include "comun/Aserciones.h"
 #include "comun/Carpeta.h"
@@ -14,8 +8,6 @@
 
 namespace trevalo {
 namespace {
-
-namespace fs = std::filesystem;
 
 class MotorDatos : public ::testing::Test {
   protected:
@@ -67,39 +59,6 @@ TEST_F(MotorDatos, ElOrdenEsElDelAlfabetoEspanol) {
               (std::vector<std::string>{"Árbol", "avión", "nube", "NZ", "ñandú", "Oso", "Zeta"}));
 }
 
-// The first line of the integrity check of a plain SQLite connection, which knows no
-// collation of the program, or the engine's message when it cannot even read the schema.
-std::string IntegridadSinColacion(const std::string& ruta) {
-    try {
-        return SQLite::Database(ruta).execAndGet("PRAGMA integrity_check").getString();
-    } catch (const SQLite::Exception& e) {
-        return e.what();
-    }
-}
-
-TEST_F(MotorDatos, UnArchivoQueDeclarabaLaColacionSeConvierteAlAbrirlo) {
-    bd_->EjecutarGuion("CREATE TABLE Viejos (Nombre TEXT COLLATE \"ESPANOL\", N INTEGER);"
-                       "CREATE INDEX ViejosNombre ON Viejos (Nombre COLLATE ESPANOL, N);"
-                       "INSERT INTO Viejos VALUES ('b', 1), ('A', 2), ('ñ', 3);");
-    bd_.reset();
-    const std::string ruta = dir_ / "prueba.db";
-    EXPECT_EQ(IntegridadSinColacion(ruta), "no such collation sequence: ESPANOL");
-
-    BaseDatos& bd = bd_.emplace(BaseDatos::Abrir(ruta));
-    auto esquema = bd.AbrirRecordset("SELECT sql FROM sqlite_master WHERE sql LIKE '%Viejos%'");
-    EXPECT_EQ(esquema.RecordCount(), 2); // the table and its index
-    for (; !esquema.AlFinal(); esquema.MoveNext())
-        EXPECT_EQ(esquema.Campo("sql").Texto().find("ESPANOL"), std::string::npos);
-    std::vector<std::string> filas;
-    for (auto rs = bd.AbrirRecordset("SELECT * FROM Viejos ORDER BY rowid"); !rs.AlFinal();
-         rs.MoveNext())
-        filas.push_back(rs.Campo("Nombre").Texto() + rs.Campo("N").Texto());
-    EXPECT_EQ(filas, (std::vector<std::string>{"b1", "A2", "ñ3"}));
-    EXPECT_EQ(Leer("SELECT * FROM Nombres"), std::vector<std::string>{}); // untouched table kept
-    EXPECT_EQ(IntegridadSinColacion(ruta), "ok");
-    EXPECT_FALSE(fs::exists(ruta + ".conversion"));
-}
-
 TEST_F(MotorDatos, UnNombreConComillasViajaComoParametro) {
     const std::string raro = "x\"; DROP TABLE Nombres; --'";
     Poner({raro, "otra"});
@@ -108,7 +67,14 @@ TEST_F(MotorDatos, UnNombreConComillasViajaComoParametro) {
     EXPECT_EQ(Leer("Nombres"), std::vector<std::string>{"otra"});
 }
 
-TEST_F(MotorDatos, ElRecordsetSeMueveComoUnDynaset) {
+TEST_F(MotorDatos, ElRecordsetSeMueveComoUnDynasetYVacioNoTieneRegistroActivo) {
+    auto vacio = bd_->AbrirRecordset("Nombres");
+    EXPECT_EQ(vacio.RecordCount(), 0);
+    EXPECT_TRUE(vacio.AlFinal());
+    EXPECT_TRUE(vacio.AlPrincipio());
+    EXPECT_TREVALO_ERROR(vacio.MoveFirst(), ErrSinRegistroActual, "No hay ningún registro activo.");
+    EXPECT_TREVALO_ERROR(vacio.Edit(), ErrSinRegistroActual, "No hay ningún registro activo.");
+
     Poner({"c", "a", "b"});
     auto rs = bd_->AbrirRecordset("SELECT * FROM Nombres ORDER BY Nombre");
     EXPECT_EQ(rs.RecordCount(), 3);
@@ -135,16 +101,7 @@ TEST_F(MotorDatos, ElRecordsetSeMueveComoUnDynaset) {
                          "Update o CancelUpdate sin AddNew o Edit.");
 }
 
-TEST_F(MotorDatos, UnRecordsetVacioNoTieneRegistroActivo) {
-    auto rs = bd_->AbrirRecordset("Nombres");
-    EXPECT_EQ(rs.RecordCount(), 0);
-    EXPECT_TRUE(rs.AlFinal());
-    EXPECT_TRUE(rs.AlPrincipio());
-    EXPECT_TREVALO_ERROR(rs.MoveFirst(), ErrSinRegistroActual, "No hay ningún registro activo.");
-    EXPECT_TREVALO_ERROR(rs.Edit(), ErrSinRegistroActual, "No hay ningún registro activo.");
-}
-
-TEST_F(MotorDatos, AddNewAnadeAlFinalYDejaLaPosicion) {
+TEST_F(MotorDatos, AddNewAnadeAlFinalDeUnaTablaYNoAUnaConsultaCompuesta) {
     Poner({"b", "d"});
     auto rs = bd_->AbrirRecordset("SELECT * FROM Nombres ORDER BY Nombre");
     rs.AddNew();
@@ -161,6 +118,13 @@ TEST_F(MotorDatos, AddNewAnadeAlFinalYDejaLaPosicion) {
               (std::vector<std::string>{"a", "b", "d"}));
     rs.Requery();
     EXPECT_EQ(rs.Campo("Nombre").Texto(), "a");
+
+    // A query of computed columns takes no new row.
+    auto compuesta = bd_->AbrirRecordset("SELECT Nombre, N * 2 AS Doble FROM Nombres ORDER BY N");
+    EXPECT_EQ(compuesta.Campo("Doble").Entero(), 2);
+    EXPECT_TREVALO_ERROR(
+        compuesta.AddNew(), ErrSoloLectura,
+        "No se puede actualizar. La base de datos o el objeto es de sólo lectura.");
 }
 
 TEST_F(MotorDatos, EditYDeleteEscribenEnElArchivo) {
@@ -212,15 +176,6 @@ TEST_F(MotorDatos, RefrescarVuelveAlArchivoSinReordenar) {
     EXPECT_EQ(rs.Campo("N").Entero(), 2);
     rs.MoveNext();
     EXPECT_EQ(rs.Campo("Nombre").Texto(), "a"); // still last: no requery happened
-}
-
-TEST_F(MotorDatos, UnaConsultaCompuestaEsDeSoloLectura) {
-    Poner({"a"});
-    auto rs = bd_->AbrirRecordset("SELECT Nombre, N * 2 AS Doble FROM Nombres");
-    EXPECT_EQ(rs.Campo("Doble").Entero(), 2);
-    EXPECT_TREVALO_ERROR(
-        rs.AddNew(), ErrSoloLectura,
-        "No se puede actualizar. La base de datos o el objeto es de sólo lectura.");
 }
 
 TEST_F(MotorDatos, UnaTransaccionSinConfirmarDejaElArchivoComoEstaba) {
