@@ -98,17 +98,9 @@ class VigaDatos : public QDialog {
     // Count boxes.
     void TerminarLong(int n, bool retorno);
     void ValorLong(int n);
-    void ValorLong1(long valor);
-    // The count of types in box 5 or 6: at least one, spans of a type beyond it on type 1.
-    void CuentaTipos(int caja, long valor);
-    void ValorLong5(long valor);
-    void ValorLong6(long valor);
 
-    // Cells.
+    // Cells: the beam's edit, then the headers and the drawing that show it.
     Veredicto ReglaCelda(int n, const Celda& celda);
-    Veredicto Regla(int n, const Celda& celda);
-    std::optional<Pregunta> JuntaMayor(double valor, const char* titulo) const;
-    Veredicto ReglaTipo(long fila, double valor);
     // A block of cells chosen: an input box for one value, or ticks on the load page.
     void BloqueSeleccionado(int n);
     void EntradaBloque(int n, int fila1, int fila2, int columna);
@@ -144,6 +136,7 @@ class VigaDatos : public QDialog {
     void CopiarMovimientos();
 
     Programa& programa_;
+    EdicionViga edicion_;
     VigasProyecto* proyecto_;
     bool cargando_ = true;
     int pagina_ = 1;
