@@ -18,6 +18,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QToolBar>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 #include "drawing/OperacionesVista.h"
@@ -149,7 +150,8 @@ QWidget* Marco(const QString& titulo, QLayout* contenido) {
 
 VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     : QDialog(parent), programa_(programa), edicion_(programa.Viga),
-      proyecto_(qobject_cast<VigasProyecto*>(parent)), toolTip_(new ToolTipTrevalo(this)) {
+      proyecto_(qobject_cast<VigasProyecto*>(parent)), toolTip_(new ToolTipTrevalo(this)),
+      pila_(new QUndoStack(this)) {
     setObjectName(QStringLiteral("VigaDatos"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     lblNombre_ = new QLabel(this);
@@ -199,7 +201,7 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     programa_.Vista.ModoEditor = true;
     IrA(1, false);
     button1_->setEnabled(false);
-    modificada_ = false;
+    EmpezarHistoria();
     cambiando_ = 0;
     if (const QScreen* pantalla = screen()) {
         const QRect zona = pantalla->availableGeometry();
@@ -267,10 +269,7 @@ QLineEdit* VigaDatos::CrearLong(int n, const QString& titulo) {
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,5}")), campo));
     campo->setAlignment(Qt::AlignRight);
     campo->setMaximumWidth(90);
-    connect(campo, &QLineEdit::textEdited, this, [this, n] {
-        cambiando_ = 1;
-        if (n != 1) Modificar(); // a change of spans alone does not ask to save
-    });
+    connect(campo, &QLineEdit::textEdited, this, [this, n] { cambiando_ = 1; });
     connect(campo, &QLineEdit::returnPressed, this, [this, n] { TerminarLong(n, true); });
     campo->installEventFilter(this);
     long_[static_cast<std::size_t>(n)] = campo;
@@ -402,10 +401,7 @@ QWidget* VigaDatos::PaginaCargas() {
     double1_->Configurar("0.00", programa_.Carpetas.SeparadorDecimal,
                          programa_.Carpetas.SeparadorMiles);
     double1_->setMaximumWidth(120);
-    connect(double1_, &QLineEdit::textEdited, this, [this] {
-        cambiando_ = 1;
-        Modificar();
-    });
+    connect(double1_, &QLineEdit::textEdited, this, [this] { cambiando_ = 1; });
     connect(double1_, &QLineEdit::returnPressed, this, [this] { TerminarFactor(true); });
     double1_->installEventFilter(this);
 
@@ -512,9 +508,33 @@ QWidget* VigaDatos::CrearPie() {
 }
 
 QWidget* VigaDatos::CrearHerramientas() {
-    return BarraHerramientas(
+    QToolBar* barra = BarraHerramientas(
         *this, Herramientas, *pantalla_, [this](const QString& clave) { Despachar(clave); },
         {"ID_NJuntas"}, acciones_);
+    barra->addSeparator();
+    const auto historia = [&](const char* clave, const QString& titulo, QList<QKeySequence> teclas,
+                              void (QUndoStack::*paso)(), void (QUndoStack::*puede)(bool),
+                              void (QUndoStack::*texto)(const QString&)) {
+        QAction* a = barra->addAction(IconoHerramienta(QString::fromLatin1(clave)), titulo);
+        a->setObjectName(QString::fromLatin1(clave));
+        a->setShortcuts(teclas);
+        a->setEnabled(false);
+        connect(a, &QAction::triggered, this, [this, paso] {
+            TerminarEdicion(*this);
+            (pila_->*paso)();
+        });
+        connect(pila_, puede, a, &QAction::setEnabled);
+        connect(pila_, texto, a, [a, titulo](const QString& que) {
+            a->setToolTip(que.isEmpty() ? titulo : titulo + QStringLiteral(": ") + que);
+        });
+        acciones_[a->objectName()] = a;
+    };
+    historia("ID_Deshacer", QStringLiteral("Deshacer"), {QKeySequence::Undo}, &QUndoStack::undo,
+             &QUndoStack::canUndoChanged, &QUndoStack::undoTextChanged);
+    historia("ID_Rehacer", QStringLiteral("Rehacer"),
+             {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+             &QUndoStack::redo, &QUndoStack::canRedoChanged, &QUndoStack::redoTextChanged);
+    return barra;
 }
 
 void VigaDatos::ConfigurarToolTips() {
@@ -644,6 +664,10 @@ void VigaDatos::MostrarCuenta(int n) {
 
 void VigaDatos::ColoquePantalla() {
     edicion_.Preparar();
+    MostrarViga();
+}
+
+void VigaDatos::MostrarViga() {
     {
         const bool cargando = cargando_;
         cargando_ = true;
@@ -753,6 +777,7 @@ void VigaDatos::ValorLong(int n) {
         for (int g : Cajas[n].grids) LlenarSpread(g);
     // A refused count of spans redraws too; a refused count of joints does not.
     if (Cajas[n].redibujar && (veredicto.Aceptado || !veredicto.Aviso)) Redibujar();
+    Registrar(Long(n).accessibleName().remove(QLatin1Char('=')).trimmed());
 }
 
 // --- Cells ---------------------------------------------------------------------------------
@@ -766,7 +791,7 @@ Veredicto VigaDatos::ReglaCelda(int n, const Celda& celda) {
     // The dimensions at the supports are not drawn; nor is an emptied spring.
     const bool resorteVacio = n == 5 && celda.Columna >= 2 && !celda.Numero;
     if (n != 12 && !resorteVacio) Redibujar();
-    Modificar();
+    Registrar(Spread(n).accessibleName());
     return veredicto;
 }
 
@@ -810,6 +835,7 @@ void VigaDatos::EntradaBloque(int n, int fila1, int fila2, int columna) {
     agrupando_ = false;
     if (redibujoPendiente_ && n != 12) Redibujar();
     redibujoPendiente_ = false;
+    Registrar(g.accessibleName());
     g.clearSelection();
 }
 
@@ -832,13 +858,13 @@ void VigaDatos::ColocarApoyo(int tipo) {
     if (fila < g.rowCount()) g.setCurrentCell(fila, 1);
     Redibujar();
     g.setFocus();
-    Modificar();
+    Registrar(QStringLiteral("Juntas Restringidas"));
 }
 
 void VigaDatos::Material(bool concreto) {
     edicion_.Material(concreto);
     if (cargando_) return;
-    Modificar();
+    Registrar(QStringLiteral("Material de la Viga"));
     Redibujar();
 }
 
@@ -847,6 +873,7 @@ void VigaDatos::TerminarFactor(bool retorno) {
         if (const Veredicto v = edicion_.Factor(double1_->Valor()); v.Valor)
             double1_->ColocarValor(*v.Valor);
         cambiando_ = 0;
+        Registrar(QStringLiteral("Factor de Mayoración"));
     }
     if (retorno) Spread(10).setFocus();
 }
@@ -891,7 +918,7 @@ void VigaDatos::BotonCarga(int tipo) {
     }
     if (!MostrarCarga(tipo, *tramoCarga)) return;
     DesmarcarTodos();
-    Modificar();
+    Registrar(QString::fromUtf8(BotonesCarga[tipo - 1].titulo).trimmed());
 }
 
 bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga) {
@@ -933,7 +960,7 @@ void VigaDatos::EliminarCargas() {
     if (programa_.Dialogo().Mensaje(pregunta) != RespuestaSi) return;
     edicion_.EliminarCargas();
     DesmarcarTodos();
-    Modificar();
+    Registrar(QStringLiteral("Eliminar las Cargas"));
 }
 
 void VigaDatos::PerfilesMetalicos() {
@@ -945,7 +972,7 @@ void VigaDatos::PerfilesMetalicos() {
         LlenarSpread(8);
         Spread(8).setCurrentCell(static_cast<int>(ventana.TipoCapturado()) - 1, 0);
         Redibujar();
-        Modificar();
+        Registrar(QStringLiteral("Capturar Perfil Metálico"));
     }
     Spread(8).setFocus();
 }
@@ -986,8 +1013,64 @@ void VigaDatos::Redibujar() {
     pantalla_->Pintar();
 }
 
-void VigaDatos::Modificar() {
-    modificada_ = true;
+namespace {
+
+// The beam as an edit changes it: the marks of the spans are a choice, not part of the beam.
+VigaActual SinMarcas(VigaActual viga) {
+    viga.TramoMarcado = {};
+    return viga;
+}
+
+// One applied edit: the beam before and after it.
+class CambioViga : public QUndoCommand {
+  public:
+    CambioViga(std::function<void(const VigaActual&)> restaurar, const QString& texto,
+               VigaActual antes, VigaActual despues)
+        : QUndoCommand(texto), restaurar_(std::move(restaurar)), antes_(std::move(antes)),
+          despues_(std::move(despues)) {}
+
+    void undo() override { restaurar_(antes_); }
+    void redo() override {
+        if (aplicado_) return restaurar_(despues_);
+        aplicado_ = true; // pushed once applied: the first redo has nothing to do
+    }
+
+  private:
+    std::function<void(const VigaActual&)> restaurar_;
+    VigaActual antes_;
+    VigaActual despues_;
+    bool aplicado_ = false;
+};
+
+} // namespace
+
+void VigaDatos::Registrar(const QString& que) {
+    if (agrupando_ || cargando_) return;
+    VigaActual ahora = SinMarcas(programa_.Viga);
+    if (ahora == registrada_) return;
+    pila_->push(new CambioViga([this](const VigaActual& v) { Restaurar(v); }, que,
+                               std::move(registrada_), ahora));
+    registrada_ = std::move(ahora);
+}
+
+void VigaDatos::Restaurar(const VigaActual& viga) {
+    VigaActual& v = programa_.Viga;
+    Arreglo<bool> marcas = std::move(v.TramoMarcado);
+    v = viga;
+    marcas.RedimPreserve(v.NT);
+    v.TramoMarcado = std::move(marcas);
+    registrada_ = viga;
+    MostrarViga();
+    Redibujar();
+}
+
+void VigaDatos::EmpezarHistoria() {
+    registrada_ = SinMarcas(programa_.Viga);
+    pila_->clear();
+}
+
+bool VigaDatos::Modificada() const {
+    return !pila_->isClean();
 }
 
 void VigaDatos::TerminarEntradas() {
@@ -1010,13 +1093,13 @@ bool VigaDatos::Salvar() {
         programa_.Dialogo().Mensaje(MensajeError(e));
         return false;
     }
-    modificada_ = false;
+    pila_->setClean();
     return true;
 }
 
 bool VigaDatos::PreguntarSalvar(bool conCancelar) {
     TerminarEntradas();
-    if (!modificada_) return true;
+    if (!Modificada()) return true;
     const Pregunta pregunta{"Viga: " + programa_.Viga.NombreVigaActual + "        \n" +
                                 "Desea Salvar las Modificaciones en la Viga?       \n",
                             "Datos Generales de la Viga",
@@ -1056,8 +1139,8 @@ void VigaDatos::MoverViga(int indice) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
     ColoquePantalla();
+    EmpezarHistoria();
     Redibujar();
-    modificada_ = false;
 }
 
 bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
@@ -1078,6 +1161,7 @@ bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
             agrupando_ = false;
             if (redibujoPendiente_) Redibujar();
             redibujoPendiente_ = false;
+            Registrar(QStringLiteral("Pegar: ") + g->accessibleName());
             return true;
         }
         // A block chosen with the mouse or with Shift and the arrows.

@@ -149,7 +149,7 @@ class VigaDatosTest : public QObject {
         QVERIFY(!Hijo<QPushButton>(e, QStringLiteral("Button1"))->isEnabled());
 
         Contar(e, 1, QStringLiteral("5"));
-        QVERIFY(!e.Modificada()); // a change of spans alone asks nothing
+        QVERIFY(e.Modificada()); // the beam differs from the file
         Teclear(e.Spread(1), 1, 1, {"A", "B", "C", "D", "E", "F"});
         Teclear(e.Spread(2), 1, 1, {"4", "5.5", "3", "6.25", "4.5"});
         QCOMPARE(e.Spread(2).verticalHeaderItem(1)->text(), QStringLiteral("B - C"));
@@ -320,6 +320,78 @@ class VigaDatosTest : public QObject {
         QTest::keyClick(factor, Qt::Key_Return);
         QCOMPARE(viga.FMayoracion, 1.5);
         QCOMPARE(factor->text(), QStringLiteral("1.50"));
+    }
+
+    // Undo and redo through the real keys and the toolbar's tips: a count, a cell, a paste and
+    // a load each one step, the grids following; back at the beam of the file nothing is
+    // asked, and a save moves the point the question is measured from.
+    void DeshacerYRehacer() {
+        PrepararProyecto(*p, VigaDeTramos({4, 5, 6}));
+        auto editor = Abrir(*p);
+        VigaDatos& e = *editor;
+        const auto& viga = p->programa.Viga;
+        QAction* deshacer = e.Accion(QStringLiteral("ID_Deshacer"));
+        QAction* rehacer = e.Accion(QStringLiteral("ID_Rehacer"));
+        QVERIFY(!deshacer->isEnabled() && !rehacer->isEnabled());
+        const auto teclas = [&](Qt::KeyboardModifiers mod, Qt::Key tecla = Qt::Key_Z) {
+            e.Spread(2).setFocus();
+            QTest::keyClick(&e.Spread(2), tecla, mod);
+        };
+
+        Contar(e, 1, QStringLiteral("5"));
+        QCOMPARE(deshacer->toolTip(), QStringLiteral("Deshacer: Número de Tramos"));
+        Teclear(e.Spread(2), 1, 1, {"7"});
+        QCOMPARE(deshacer->toolTip(), QStringLiteral("Deshacer: Longitud de los Tramos"));
+        e.Spread(2).setCurrentCell(2, 0);
+        QGuiApplication::clipboard()->setText(QStringLiteral("1\n2\n3\n"));
+        QTest::keyClick(&e.Spread(2), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(viga.LT(4), 2.0);
+
+        teclas(Qt::ControlModifier); // the paste, both cells
+        QCOMPARE(viga.LT(3), 6.0);
+        QCOMPARE(viga.LT(4), 0.0);
+        QCOMPARE(rehacer->toolTip(), QStringLiteral("Rehacer: Pegar: Longitud de los Tramos"));
+        teclas(Qt::ControlModifier);
+        QCOMPARE(ValorCelda(e.Spread(2), 1, 1), 4.0);
+        teclas(Qt::ControlModifier);
+        QCOMPARE(viga.NT, 3);
+        QCOMPARE(e.Long(1).text(), QStringLiteral("3"));
+        QCOMPARE(e.Spread(2).rowCount(), 3);
+        QVERIFY(!e.Modificada()); // the beam of the file
+        teclas(Qt::ControlModifier, Qt::Key_Y);
+        teclas(Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(viga.NT, 5);
+        QCOMPARE(viga.LT(1), 7.0);
+        QCOMPARE(ValorCelda(e.Spread(2), 1, 1), 7.0);
+        teclas(Qt::ControlModifier, Qt::Key_Y);
+        QCOMPARE(ValorCelda(e.Spread(2), 5, 1), 3.0);
+        QVERIFY(!rehacer->isEnabled());
+
+        QTest::keyClick(&e, Qt::Key_S, Qt::ControlModifier);
+        teclas(Qt::ControlModifier);
+        QVERIFY(e.Modificada());
+        teclas(Qt::ControlModifier, Qt::Key_Y);
+        QVERIFY(!e.Modificada());
+
+        // An accepted load dialog is one step, and its undo draws the beam without it.
+        Siguiente(e, 5);
+        QCOMPARE(e.Pagina(), 7);
+        QTableWidget& marcas = e.Spread(10);
+        QTest::mouseClick(marcas.viewport(), Qt::LeftButton, {},
+                          marcas.visualItemRect(marcas.item(1, 0)).center());
+        AlAbrirse<Carga01>([](Carga01& d) {
+            Escribir(d, "Long1", QStringLiteral("750"));
+            Pulsar(d, "LSButton1");
+        });
+        Pulsar(e, "LSButton24");
+        QCOMPARE(viga.W1(2), 750);
+        QCOMPARE(deshacer->toolTip(), QStringLiteral("Deshacer: Carga Uniforme"));
+        deshacer->trigger();
+        QCOMPARE(viga.W1(2), 0);
+        QVERIFY(!e.Modificada());
+        e.close();
+        QVERIFY(!e.isVisible());
+        QVERIFY(dialogos().preguntas.empty());
     }
 
     // A block pasted from a spreadsheet: good cells taken, a bad one keeps its value, the
