@@ -492,13 +492,5 @@ TEST(EdicionViga, ListaDeCargasPorTramo) {
     EXPECT_EQ(v, antes);
 }
 
-TEST(EdicionViga, EliminarCargas) {
-    VigaActual v = TresTramos();
-    EdicionViga edicion(v);
-    edicion.AplicarCarga(Marcados({1, 1, 1}), {&VigaActual::W1, 900, {}, {}});
-    edicion.EliminarCargas();
-    EXPECT_EQ(v.W1(2), 0);
-}
-
 } // namespace
 } // namespace trevalo

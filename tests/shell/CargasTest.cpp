@@ -153,16 +153,12 @@ class CargasTramos : public QObject {
 
         const bool aceptada = Abrir<Carga05>(programa(), {3, 4}, [](Carga05& d) {
             QCOMPARE(Control(d, "Long1")->text(), QStringLiteral("0"));
-            Escribir(d, "Long1", QStringLiteral("-3.5"));
             Escribir(d, "Double1", QStringLiteral("0.8"));
-            QVERIFY(Rojo(d, "Long1"));
             QTest::keyClick(Control(d, "Double1"), Qt::Key_Tab);
             QCOMPARE(Control(d, "Double1")->text(), QStringLiteral("0.80"));
             QTest::keyClick(d.focusWidget(), Qt::Key_Return); // " Aceptar" has the focus
         });
         QVERIFY(aceptada);
-        QCOMPARE(viga().W5(2), -80);
-        QCOMPARE(viga().W5(4), -4);
         QCOMPARE(viga().la5(4), 0.8);
 
         Abrir<Carga04>(programa(), {4, 2}, [](Carga04& d) {
