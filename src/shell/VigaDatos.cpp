@@ -512,28 +512,29 @@ QWidget* VigaDatos::CrearHerramientas() {
         *this, Herramientas, *pantalla_, [this](const QString& clave) { Despachar(clave); },
         {"ID_NJuntas"}, acciones_);
     barra->addSeparator();
-    const auto historia = [&](const char* clave, const QString& titulo, QList<QKeySequence> teclas,
-                              void (QUndoStack::*paso)(), void (QUndoStack::*puede)(bool),
-                              void (QUndoStack::*texto)(const QString&)) {
-        QAction* a = barra->addAction(IconoHerramienta(QString::fromLatin1(clave)), titulo);
-        a->setObjectName(QString::fromLatin1(clave));
-        a->setShortcuts(teclas);
+    // Undo and redo: enabled while there is a step to take, their tip naming it.
+    for (const bool atras : {true, false}) {
+        const QString titulo = atras ? QStringLiteral("Deshacer") : QStringLiteral("Rehacer");
+        const QString clave = atras ? QStringLiteral("ID_Deshacer") : QStringLiteral("ID_Rehacer");
+        QAction* a = barra->addAction(IconoHerramienta(clave), titulo);
+        a->setObjectName(clave);
+        a->setShortcuts(atras
+                            ? QList<QKeySequence>{QKeySequence::Undo}
+                            : QList<QKeySequence>{QKeySequence(Qt::CTRL | Qt::Key_Y),
+                                                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
         a->setEnabled(false);
-        connect(a, &QAction::triggered, this, [this, paso] {
+        connect(a, &QAction::triggered, this, [this, atras] {
             TerminarEdicion(*this);
-            (pila_->*paso)();
+            atras ? pila_->undo() : pila_->redo();
         });
-        connect(pila_, puede, a, &QAction::setEnabled);
-        connect(pila_, texto, a, [a, titulo](const QString& que) {
-            a->setToolTip(que.isEmpty() ? titulo : titulo + QStringLiteral(": ") + que);
-        });
-        acciones_[a->objectName()] = a;
-    };
-    historia("ID_Deshacer", QStringLiteral("Deshacer"), {QKeySequence::Undo}, &QUndoStack::undo,
-             &QUndoStack::canUndoChanged, &QUndoStack::undoTextChanged);
-    historia("ID_Rehacer", QStringLiteral("Rehacer"),
-             {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
-             &QUndoStack::redo, &QUndoStack::canRedoChanged, &QUndoStack::redoTextChanged);
+        connect(pila_, atras ? &QUndoStack::canUndoChanged : &QUndoStack::canRedoChanged, a,
+                &QAction::setEnabled);
+        connect(pila_, atras ? &QUndoStack::undoTextChanged : &QUndoStack::redoTextChanged, a,
+                [a, titulo](const QString& que) {
+                    a->setToolTip(que.isEmpty() ? titulo : titulo + QStringLiteral(": ") + que);
+                });
+        acciones_[clave] = a;
+    }
     return barra;
 }
 
