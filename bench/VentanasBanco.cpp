@@ -1,14 +1,17 @@
 // The windows as a person feels them: the project window's opening on the sample project, a
 // click on a tab (solve and paint) on a beam of 20 spans with every load kind, and one step of
 // a pan with the mouse on a canvas of 1600 x 900; the beam editor's opening on that beam and
-// one cell typed in it (the cell's rule and the redraw on a canvas of 1600 x 900).
+// one cell typed in it (the cell's rule and the redraw on a canvas of 1600 x 900), and the
+// undo of a change of its span count.
 
 #include <benchmark/benchmark.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <QUndoStack>
 
 #include "VigaBanco.h"
 #include "analysis/AnalisisVigasP.h"
@@ -142,6 +145,29 @@ void EdicionCelda(benchmark::State& estado) {
     estado.counters["ancho"] = editor.Lienzo().width();
 }
 BENCHMARK(EdicionCelda)->Unit(benchmark::kMillisecond);
+
+// The undo of a change of the span count from 20 to 21, and its redo, in turn: the beam
+// restored, every grid filled again and the redraw.
+void DeshacerCuentaTramos(benchmark::State& estado) {
+    EditorBanco b;
+    VigaDatos editor(b.p.programa);
+    editor.Lienzo().setFixedSize(1600, 900);
+    editor.show();
+    QApplication::processEvents();
+    QLineEdit& tramos = editor.Long(1);
+    tramos.setText(QStringLiteral("21"));
+    emit tramos.textEdited(tramos.text());
+    emit tramos.returnPressed();
+    QUndoStack& historia = editor.Historia();
+    for (auto _ : estado) {
+        if (historia.canUndo())
+            historia.undo();
+        else
+            historia.redo();
+    }
+    if (historia.count() != 1) estado.SkipWithError("the count was not one step");
+}
+BENCHMARK(DeshacerCuentaTramos)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace trevalo

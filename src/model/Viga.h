@@ -127,6 +127,8 @@ struct VigaActual {
     Arreglo<double> QC1;
     Arreglo<double> QC2;
     Arreglo<double> QC3;
+
+    bool operator==(const VigaActual&) const = default;
 };
 
 // Results of the last solve, service values. Resized and zeroed at every solve.

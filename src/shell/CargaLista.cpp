@@ -9,7 +9,6 @@
 #include <QTableWidget>
 #include <algorithm>
 
-#include "model/Redondeo.h"
 #include "shell/DelegadosCelda.h"
 #include "shell/EsquinaNo.h"
 #include "shell/TextoQt.h"
@@ -17,10 +16,6 @@
 namespace trevalo {
 
 namespace {
-
-bool EsCarga(const ColumnaCarga& c) {
-    return std::holds_alternative<Arreglo2<std::int32_t> VigaActual::*>(c.valores);
-}
 
 double Leer(const VigaActual& viga, const ColumnaCarga& c, long t, long k) {
     return std::visit([&](auto valores) { return static_cast<double>((viga.*valores)(t, k)); },
@@ -64,9 +59,8 @@ void CargaLista::ConfigurarSpread() {
     // A load is a 32-bit integer (the cell has already rounded it, ties to even): one the
     // model cannot hold raises error 6, and the cell keeps its old value.
     Delegado(*spread1_).ColocarRegla([this](const Celda& celda) {
-        if (celda.Numero && EsCarga(forma_.columnas[static_cast<std::size_t>(celda.Columna - 1)]))
-            CI(*celda.Numero);
-        return trevalo::Aceptar();
+        return EdicionViga(programa_.Viga)
+            .ValorCarga(forma_.columnas[static_cast<std::size_t>(celda.Columna - 1)], celda.Numero);
     });
     // A block pasted beyond the last row adds rows up to the limit of the kind.
     Delegado(*spread1_).ColocarCrecimiento([this](int filas) {
@@ -143,31 +137,17 @@ std::vector<std::vector<double>> CargaLista::Tomadas() const {
     return filas;
 }
 
-void CargaLista::Aplicar() {
+Veredicto CargaLista::Aplicar() {
     Cantidad(false); // a count typed and not yet applied
     if (forma_.limiteAlAceptar && n_ > forma_.limite) {
         AvisoLimite();
         textoAplicado_ = long1_->text();
         n_ = static_cast<int>(forma_.limite);
     }
-    // The lists of a span hold `limite` slots: a count beyond them, which only the limit's
-    // check on Return stops, is the subscript error before anything is written.
-    if (n_ > forma_.limite) throw ErrorTrevalo::SubindiceFueraDeIntervalo();
-    const std::vector<std::vector<double>> filas = Tomadas();
-    VigaActual& viga = programa_.Viga;
-    for (long t = 1; t <= Tramos(); ++t) {
-        if (!Marcado(t)) continue;
-        (viga.*forma_.cantidad)(t) = static_cast<std::int16_t>(n_);
-        for (int r = 1; r <= n_; ++r)
-            for (std::size_t c = 0; c < forma_.columnas.size(); ++c)
-                std::visit(
-                    [&](auto valores) {
-                        auto& celda = (viga.*valores)(t, r);
-                        celda = static_cast<std::remove_reference_t<decltype(celda)>>(
-                            filas[static_cast<std::size_t>(r - 1)][c]);
-                    },
-                    forma_.columnas[c].valores);
-    }
+    // A count beyond the slots of a span, which only the limit's check on Return stops, is
+    // refused by the edit before anything is written.
+    return EdicionViga(programa_.Viga)
+        .AplicarCargas(TramoCarga(), {forma_.cantidad, forma_.columnas, forma_.limite}, Tomadas());
 }
 
 } // namespace trevalo

@@ -12,20 +12,14 @@
 
 #include <QString>
 #include <cstdint>
-#include <variant>
 #include <vector>
 
+#include "editing/EdicionViga.h"
 #include "shell/DialogoCarga.h"
 
 class QTableWidget;
 
 namespace trevalo {
-
-// A column of the grid: loads (whole kgf, with sign) or positions (m, 2 decimals, no sign).
-struct ColumnaCarga {
-    const char* titulo;
-    std::variant<Arreglo2<std::int32_t> VigaActual::*, Arreglo2<double> VigaActual::*> valores;
-};
 
 struct FormaCargaLista {
     const char* titulo;
@@ -52,7 +46,7 @@ class CargaLista : public DialogoCarga {
     void AvisoLimite();
     // The first n_ rows as they are written: loads rounded to integers, ties to even.
     std::vector<std::vector<double>> Tomadas() const;
-    void Aplicar() override;
+    Veredicto Aplicar() override;
 
     FormaCargaLista forma_;
     QLineEdit* long1_;

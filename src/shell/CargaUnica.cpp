@@ -4,7 +4,6 @@
 #include <QGroupBox>
 #include <QRadioButton>
 
-#include "model/Redondeo.h"
 #include "shell/CampoNumero.h"
 
 namespace trevalo {
@@ -68,15 +67,11 @@ void CargaUnica::Colorear() {
     long1_->setPalette(colores);
 }
 
-void CargaUnica::Aplicar() {
-    const auto valor = static_cast<std::int32_t>(CI(long1_->Valor()));
-    VigaActual& viga = programa_.Viga;
-    for (long t = 1; t <= Tramos(); ++t) {
-        if (!Marcado(t)) continue;
-        (viga.*forma_.valor)(t) = valor;
-        if (double1_) viga.la5(t) = double1_->Valor();
-        if (option1_) viga.Gravedad(t) = option1_->isChecked() ? 0 : 1;
-    }
+Veredicto CargaUnica::Aplicar() {
+    CargaPorTramo carga{forma_.valor, long1_->Valor(), std::nullopt, std::nullopt};
+    if (double1_) carga.la = double1_->Valor();
+    if (option1_) carga.gravedad = option1_->isChecked() ? 0 : 1;
+    return EdicionViga(programa_.Viga).AplicarCarga(TramoCarga(), carga);
 }
 
 } // namespace trevalo

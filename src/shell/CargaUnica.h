@@ -33,7 +33,7 @@ class CargaUnica : public DialogoCarga {
   private:
     void Mostrar(long tramo);
     void Colorear();
-    void Aplicar() override;
+    Veredicto Aplicar() override;
 
     FormaCargaUnica forma_;
     CampoNumero* long1_;

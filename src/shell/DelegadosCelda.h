@@ -38,6 +38,7 @@
 #include <utility>
 #include <vector>
 
+#include "editing/EdicionViga.h"
 #include "shell/Programa.h"
 
 namespace trevalo {
@@ -49,23 +50,6 @@ struct Celda {
     QString Texto;                // trimmed
     std::optional<double> Numero; // nothing for an empty text or a text column
 };
-
-// The rule's answer.
-struct Veredicto {
-    bool Aceptado = true;
-    std::optional<double> Valor;   // the value the cell keeps when it differs from the entry
-    std::optional<Pregunta> Aviso; // a message box to show
-    bool Pitido = false;           // a beep
-};
-
-inline Veredicto Aceptar(std::optional<double> valor = std::nullopt) {
-    return {true, valor, std::nullopt, false};
-}
-// A refusal with a message, or with a beep when there is none.
-inline Veredicto Rechazar(std::optional<Pregunta> aviso = std::nullopt) {
-    const bool pitido = !aviso;
-    return {false, std::nullopt, std::move(aviso), pitido};
-}
 
 class DelegadoNumero : public QStyledItemDelegate {
     Q_OBJECT

@@ -89,13 +89,9 @@ void DialogoCarga::keyPressEvent(QKeyEvent* evento) {
 
 void DialogoCarga::Aceptar() {
     TerminarEdicion(*this); // a cell being typed is part of the load
-    try {
-        Aplicar();
-    } catch (const ErrorTrevalo& e) {
-        programa_.Dialogo().Mensaje(MensajeFalla(e));
-        return;
-    }
-    accept();
+    const Veredicto veredicto = Aplicar();
+    if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
+    if (veredicto.Aceptado) accept();
 }
 
 } // namespace trevalo

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "editing/EdicionViga.h"
 #include "shell/Programa.h"
 
 class QFormLayout;
@@ -47,9 +48,10 @@ class DialogoCarga : public QDialog {
     void FinCarga(QWidget* ultimoCampo);
     bool Activo() const { return activo_; }
 
-    // Writes the dialog's values to the marked spans. An ErrorTrevalo leaves the model as it
-    // was and the dialog open.
-    virtual void Aplicar() = 0;
+    // Writes the dialog's values to the marked spans through the beam's edits; a refusal
+    // leaves the model as it was and the dialog open, with the refusal's message.
+    virtual Veredicto Aplicar() = 0;
+    const Arreglo<std::int16_t>& TramoCarga() const { return tramoCarga_; }
 
     void keyPressEvent(QKeyEvent* evento) override;
 

@@ -127,6 +127,23 @@ QIcon Flecha(double grados) {
     });
 }
 
+// A hooked arrow turning back (undo) or forward (redo).
+QIcon Vuelta(bool atras) {
+    return Dibujado([atras](QPainter& p) {
+        if (!atras) {
+            p.translate(Lado, 0);
+            p.scale(-1, 1);
+        }
+        QPainterPath gancho(QPointF(8, 12));
+        gancho.lineTo(19, 12);
+        gancho.cubicTo(QPointF(30, 12), QPointF(30, 27), QPointF(19, 27));
+        gancho.lineTo(12, 27);
+        p.drawPath(gancho);
+        p.setPen(QPen(Acento, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.drawPolyline(QPolygonF({QPointF(13, 6), QPointF(7, 12), QPointF(13, 18)}));
+    });
+}
+
 // Joint numbers: two circled digits on a beam line.
 QIcon NumerosJuntas() {
     return Dibujado([](QPainter& p) {
@@ -167,6 +184,8 @@ QIcon IconoHerramienta(const QString& clave) {
         {QStringLiteral("ID_PanRealtime"), [] { return Mano(); }},
         {QStringLiteral("ID_Cuadricula"), [] { return Cuadricula(); }},
         {QStringLiteral("ID_NJuntas"), [] { return NumerosJuntas(); }},
+        {QStringLiteral("ID_Deshacer"), [] { return Vuelta(true); }},
+        {QStringLiteral("ID_Rehacer"), [] { return Vuelta(false); }},
         {QStringLiteral("ID_DIzquierda"), [] { return Flecha(180); }},
         {QStringLiteral("ID_DDerecha"), [] { return Flecha(0); }},
         {QStringLiteral("ID_DArriba"), [] { return Flecha(90); }},

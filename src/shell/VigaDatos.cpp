@@ -18,11 +18,10 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QToolBar>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 #include "drawing/OperacionesVista.h"
-#include "model/Conversiones.h"
-#include "model/Redondeo.h"
 #include "shell/CampoNumero.h"
 #include "shell/Carga01.h"
 #include "shell/Carga02.h"
@@ -57,14 +56,22 @@ template <typename T> T En(const Arreglo<T>& a, long i) {
     return i >= 1 && i <= a.Ubound() ? a(i) : T{};
 }
 
-template <typename... A> void Preservar(long n, A&... a) {
-    (a.RedimPreserve(n), ...);
-}
+// What a count box shows of its change: the grid its Return leads to, the grids written again
+// and whether the drawing follows.
+struct CajaCuenta {
+    int destino;
+    std::vector<int> grids;
+    bool redibujar;
+};
 
-// The grid that a count box sizes, and the grid its Return leads to.
-constexpr int GridDeLong[8] = {0, 2, 3, 4, 5, 6, 8, 11};
-
-constexpr long MaximoTramos = 1000; // Long1 takes 1 to 1000 spans
+const CajaCuenta Cajas[8] = {{},
+                             {2, {1, 2, 7, 10}, true},
+                             {3, {3}, true},
+                             {4, {4}, true},
+                             {5, {5}, true},
+                             {6, {6, 7}, true},
+                             {8, {8, 9}, false},
+                             {11, {11}, false}};
 
 // The caption over the row headers of the grids that have one.
 const std::pair<int, const char*> Esquinas[] = {{1, "No"},     {2, "Tramo"}, {6, "Tipo"},
@@ -142,8 +149,9 @@ QWidget* Marco(const QString& titulo, QLayout* contenido) {
 // --- The window ----------------------------------------------------------------------------
 
 VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
-    : QDialog(parent), programa_(programa), proyecto_(qobject_cast<VigasProyecto*>(parent)),
-      toolTip_(new ToolTipTrevalo(this)) {
+    : QDialog(parent), programa_(programa), edicion_(programa.Viga),
+      proyecto_(qobject_cast<VigasProyecto*>(parent)), toolTip_(new ToolTipTrevalo(this)),
+      pila_(new QUndoStack(this)) {
     setObjectName(QStringLiteral("VigaDatos"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     lblNombre_ = new QLabel(this);
@@ -193,7 +201,7 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     programa_.Vista.ModoEditor = true;
     IrA(1, false);
     button1_->setEnabled(false);
-    modificada_ = false;
+    EmpezarHistoria();
     cambiando_ = 0;
     if (const QScreen* pantalla = screen()) {
         const QRect zona = pantalla->availableGeometry();
@@ -261,10 +269,7 @@ QLineEdit* VigaDatos::CrearLong(int n, const QString& titulo) {
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,5}")), campo));
     campo->setAlignment(Qt::AlignRight);
     campo->setMaximumWidth(90);
-    connect(campo, &QLineEdit::textEdited, this, [this, n] {
-        cambiando_ = 1;
-        if (n != 1) Modificar(); // a change of spans alone does not ask to save
-    });
+    connect(campo, &QLineEdit::textEdited, this, [this, n] { cambiando_ = 1; });
     connect(campo, &QLineEdit::returnPressed, this, [this, n] { TerminarLong(n, true); });
     campo->installEventFilter(this);
     long_[static_cast<std::size_t>(n)] = campo;
@@ -396,10 +401,7 @@ QWidget* VigaDatos::PaginaCargas() {
     double1_->Configurar("0.00", programa_.Carpetas.SeparadorDecimal,
                          programa_.Carpetas.SeparadorMiles);
     double1_->setMaximumWidth(120);
-    connect(double1_, &QLineEdit::textEdited, this, [this] {
-        cambiando_ = 1;
-        Modificar();
-    });
+    connect(double1_, &QLineEdit::textEdited, this, [this] { cambiando_ = 1; });
     connect(double1_, &QLineEdit::returnPressed, this, [this] { TerminarFactor(true); });
     double1_->installEventFilter(this);
 
@@ -506,9 +508,34 @@ QWidget* VigaDatos::CrearPie() {
 }
 
 QWidget* VigaDatos::CrearHerramientas() {
-    return BarraHerramientas(
+    QToolBar* barra = BarraHerramientas(
         *this, Herramientas, *pantalla_, [this](const QString& clave) { Despachar(clave); },
         {"ID_NJuntas"}, acciones_);
+    barra->addSeparator();
+    // Undo and redo: enabled while there is a step to take, their tip naming it.
+    for (const bool atras : {true, false}) {
+        const QString titulo = atras ? QStringLiteral("Deshacer") : QStringLiteral("Rehacer");
+        const QString clave = atras ? QStringLiteral("ID_Deshacer") : QStringLiteral("ID_Rehacer");
+        QAction* a = barra->addAction(IconoHerramienta(clave), titulo);
+        a->setObjectName(clave);
+        a->setShortcuts(atras
+                            ? QList<QKeySequence>{QKeySequence::Undo}
+                            : QList<QKeySequence>{QKeySequence(Qt::CTRL | Qt::Key_Y),
+                                                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+        a->setEnabled(false);
+        connect(a, &QAction::triggered, this, [this, atras] {
+            TerminarEdicion(*this);
+            atras ? pila_->undo() : pila_->redo();
+        });
+        connect(pila_, atras ? &QUndoStack::canUndoChanged : &QUndoStack::canRedoChanged, a,
+                &QAction::setEnabled);
+        connect(pila_, atras ? &QUndoStack::undoTextChanged : &QUndoStack::redoTextChanged, a,
+                [a, titulo](const QString& que) {
+                    a->setToolTip(que.isEmpty() ? titulo : titulo + QStringLiteral(": ") + que);
+                });
+        acciones_[clave] = a;
+    }
+    return barra;
 }
 
 void VigaDatos::ConfigurarToolTips() {
@@ -555,7 +582,7 @@ void VigaDatos::ConfigurarSpread() {
     Spread(10).setEditTriggers(QAbstractItemView::NoEditTriggers);
     // A paste grows the lists that have a count box, within its limits.
     for (int caja = 2; caja <= 7; ++caja)
-        Delegado(Spread(GridDeLong[caja])).ColocarCrecimiento([this, caja](int filas) {
+        Delegado(Spread(Cajas[caja].destino)).ColocarCrecimiento([this, caja](int filas) {
             Long(caja).setText(QString::number(filas));
             ValorLong(caja);
             return true;
@@ -633,50 +660,22 @@ void VigaDatos::LlenarMarcas() {
 }
 
 void VigaDatos::MostrarCuenta(int n) {
-    const VigaActual& v = programa_.Viga;
-    const long cuentas[8] = {0, v.NT, v.NJDesp, v.NJRest, v.NJRes, v.NTipos, v.NTipos, v.NAcc};
-    Long(n).setText(QString::number(cuentas[n]));
+    Long(n).setText(QString::number(edicion_.Valor(static_cast<Cuenta>(n))));
 }
 
 void VigaDatos::ColoquePantalla() {
-    VigaActual& v = programa_.Viga;
-    if (v.VigaNueva && v.NT <= 0) {
-        v.NT = 1;
-        ReiniciarArreglosViga(v);
-    }
-    v.TramoMarcado.Redim(v.NT);
+    edicion_.Preparar();
+    MostrarViga();
+}
+
+void VigaDatos::MostrarViga() {
     {
         const bool cargando = cargando_;
         cargando_ = true;
-        (v.OpcionConcreto == 0 ? option1_ : option2_)->setChecked(true);
+        (programa_.Viga.OpcionConcreto == 0 ? option1_ : option2_)->setChecked(true);
         cargando_ = cargando;
     }
-    if (v.NTipos == 0) {
-        v.NTipos = 1;
-        Preservar(std::max<long>(v.NT, 1), v.B1, v.T1);
-        Preservar(std::max<long>(v.Designacion.Ubound(), 1), v.Designacion);
-        for (long i = 1; i <= v.NT; ++i) {
-            v.B1(i) = 0.3;
-            v.T1(i) = 0.5;
-        }
-    }
-    if (v.OpcionConcreto == 0)
-        for (long i = 1; i <= std::min<long>(v.NTipos, v.B1.Ubound()); ++i) {
-            if (v.B1(i) == 0) v.B1(i) = 0.3;
-            if (v.T1(i) == 0) v.T1(i) = 0.5;
-        }
-    for (long i = 1; i <= std::min<long>(v.NT, v.VT.Ubound()); ++i)
-        if (v.VT(i) == 0) v.VT(i) = 1.0;
-    double1_->ColocarValor(v.FMayoracion);
-    Preservar(v.NT, v.FMayorTramo);
-    for (long i = 1; i <= v.NT; ++i) v.FMayorTramo(i) = v.FMayoracion;
-    // Joints without a vertical support keep no dimensions at the supports.
-    for (long j = 1; j <= std::min<long>(v.NT + 1, v.HC.Ubound()); ++j) {
-        bool apoyada = false;
-        for (long k = 1; k <= v.NJRest; ++k) apoyada |= En(v.R1, k) == j && En(v.Apoyo, k) != 3;
-        for (long k = 1; k <= v.NJRes; ++k) apoyada |= En(v.R10, k) == j && En(v.SV10, k) != 0;
-        if (!apoyada) v.LIzq(j) = v.LDer(j) = v.HC(j) = 0.0;
-    }
+    double1_->ColocarValor(programa_.Viga.FMayoracion);
     for (int n = 1; n <= 12; ++n) LlenarSpread(n);
     EncabezadosTramos(Spread(2));
     for (int n = 1; n <= 7; ++n) MostrarCuenta(n);
@@ -766,225 +765,35 @@ void VigaDatos::Anterior() {
 
 void VigaDatos::TerminarLong(int n, bool retorno) {
     if (cambiando_ == 1) ValorLong(n);
-    if (retorno) Spread(GridDeLong[n]).setFocus();
+    if (retorno) Spread(Cajas[n].destino).setFocus();
 }
 
 void VigaDatos::ValorLong(int n) {
     cambiando_ = 0;
-    VigaActual& v = programa_.Viga;
-    const long valor = Long(n).text().toLong();
-    if (n == 1) return ValorLong1(valor);
-    const std::string tope = std::to_string(v.NT + 1) + "    ";
-    const std::map<int, Pregunta> avisos = {
-        {2, Aviso("El Número de Juntas Desplazadas no puede ser mayor que " + tope,
-                  "Juntas Desplazadas")},
-        {3, Aviso("El Número de Juntas ser mayor que " + tope, "Juntas Totalmente restringidas")},
-        {4, Aviso("El Número de Juntas ser mayor que " + tope, "Juntas con Resortes")},
-        {7,
-         Aviso("El Número de la Junta no puede ser mayor que " + tope + "\n", "Acciones Nodales")}};
-    if (avisos.count(n) && valor > v.NT + 1) {
-        programa_.Dialogo().Mensaje(avisos.at(n));
-        return MostrarCuenta(n);
-    }
-    std::int16_t cuenta = 0;
-    try {
-        cuenta = Entero<std::int16_t>(valor);
-    } catch (const ErrorTrevalo& e) { // a count the model cannot hold: error 6, never a wrap
-        programa_.Dialogo().Mensaje(MensajeFalla(e));
-        return MostrarCuenta(n);
-    }
-    if (n == 5) return ValorLong5(cuenta);
-    if (n == 6) return ValorLong6(cuenta);
-    switch (n) {
-    case 2:
-        v.NJDesp = cuenta;
-        Preservar(valor, v.R3, v.XX, v.YY);
-        break;
-    case 3:
-        v.NJRest = cuenta;
-        Preservar(valor, v.R1, v.Apoyo);
-        for (long i = 1; i <= valor; ++i)
-            if (v.Apoyo(i) == 0) v.Apoyo(i) = ApoyoFijo;
-        break;
-    case 4:
-        v.NJRes = cuenta;
-        Preservar(valor, v.R10, v.SH10, v.SV10, v.SM10);
-        break;
-    case 7:
-        v.NAcc = cuenta;
-        Preservar(valor, v.R2, v.QC1, v.QC2, v.QC3);
-        break;
-    }
-    LlenarSpread(GridDeLong[n]);
-    if (n != 7) Redibujar();
-}
-
-void VigaDatos::ValorLong1(long valor) {
-    VigaActual& v = programa_.Viga;
-    if (valor > 0 && valor <= MaximoTramos) {
-        v.NT = static_cast<std::int16_t>(valor);
-        RedimensionarViga(v);
-        for (long i = 1; i <= v.NT; ++i)
-            if (v.VT(i) == 0) v.VT(i) = 1.0;
-        LlenarSpread(1);
-        LlenarSpread(2); // its row headers stay until the window is filled again
-        LlenarSpread(7);
-        LlenarSpread(10);
-    } else {
-        MostrarCuenta(1);
-    }
-    Redibujar();
-}
-
-void VigaDatos::CuentaTipos(int caja, long valor) {
-    VigaActual& v = programa_.Viga;
-    v.NTipos = static_cast<std::int16_t>(valor);
-    if (valor == 0) {
-        v.NTipos = 1;
-        MostrarCuenta(caja);
-        v.VT.Redim(v.NT);
-        for (long i = 1; i <= v.NT; ++i) v.VT(i) = 1.0;
-    }
-    for (long i = 1; i <= v.NT; ++i)
-        if (v.VT(i) > v.NTipos) v.VT(i) = 1.0;
-    Preservar(v.NTipos, v.B1, v.T1);
-}
-
-void VigaDatos::ValorLong5(long valor) {
-    VigaActual& v = programa_.Viga;
-    CuentaTipos(5, valor);
-    // Designations follow the joints on this page, not the types (types beyond have none,
-    // while the list still covers every type so that the beam can be saved).
-    v.Designacion.RedimPreserve(std::max<long>(v.NT + 1, v.NTipos));
-    for (long i = 1; i <= v.NTipos; ++i) {
-        if (v.B1(i) == 0) v.B1(i) = 0.3;
-        if (v.T1(i) == 0) v.T1(i) = 0.5;
-    }
-    LlenarSpread(6);
-    LlenarSpread(7);
-    Redibujar();
-}
-
-void VigaDatos::ValorLong6(long valor) {
-    CuentaTipos(6, valor);
-    programa_.Viga.Designacion.RedimPreserve(programa_.Viga.NTipos);
-    LlenarSpread(8);
-    LlenarSpread(9);
+    const Veredicto veredicto =
+        edicion_.CambiarCuenta(static_cast<Cuenta>(n), Long(n).text().toLong());
+    if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
+    if (!veredicto.Aceptado || veredicto.Valor) MostrarCuenta(n);
+    if (veredicto.Aceptado)
+        for (int g : Cajas[n].grids) LlenarSpread(g);
+    // A refused count of spans redraws too; a refused count of joints does not.
+    if (Cajas[n].redibujar && (veredicto.Aceptado || !veredicto.Aviso)) Redibujar();
+    Registrar(Long(n).accessibleName().remove(QLatin1Char('=')).trimmed());
 }
 
 // --- Cells ---------------------------------------------------------------------------------
 
 Veredicto VigaDatos::ReglaCelda(int n, const Celda& celda) {
-    try {
-        return Regla(n, celda);
-    } catch (const ErrorTrevalo& e) {
-        return Rechazar(MensajeError(e));
-    }
-}
-
-std::optional<Pregunta> VigaDatos::JuntaMayor(double valor, const char* titulo) const {
-    const long tope = programa_.Viga.NT + 1;
-    if (valor <= tope) return std::nullopt;
-    return Aviso("El Número de la Junta no puede ser mayor que " + std::to_string(tope) + "    ",
-                 titulo);
-}
-
-Veredicto VigaDatos::ReglaTipo(long fila, double valor) {
-    VigaActual& v = programa_.Viga;
-    if (valor > v.NTipos) {
-        v.VT(fila) = v.NTipos;
-        Redibujar();
-        Modificar();
-        return Aceptar(static_cast<double>(v.NTipos));
-    }
-    if (valor == 0) return Rechazar();
-    v.VT(fila) = valor;
-    Redibujar();
-    Modificar();
-    return Aceptar();
-}
-
-Veredicto VigaDatos::Regla(int n, const Celda& celda) {
-    VigaActual& v = programa_.Viga;
-    const long r = celda.Fila;
-    const int c = celda.Columna;
-    const bool texto = n == 1 || (n == 8 && c == 1);
-    const bool resorte = n == 5 && c >= 2;
-    if (!texto && !celda.Numero && !resorte) return Rechazar();
-    const double x = celda.Numero.value_or(0.0);
-    const auto junta = [&](Arreglo<std::int16_t>& lista,
-                           const char* titulo) -> std::optional<Veredicto> {
-        if (auto aviso = JuntaMayor(x, titulo)) return Rechazar(std::move(aviso));
-        lista(r) = static_cast<std::int16_t>(CI(x));
-        return std::nullopt;
-    };
-    std::optional<Veredicto> rechazo;
-    switch (n) {
-    case 1:
-        v.NombreEje(r) = Std(celda.Texto);
+    const Veredicto veredicto = edicion_.CambiarCelda(
+        static_cast<Rejilla>(n), celda.Fila, celda.Columna, Std(celda.Texto), celda.Numero);
+    if (!veredicto.Aceptado) return veredicto;
+    if (n == 1)
         for (int g : {2, 7, 10}) EncabezadosTramos(Spread(g));
-        break;
-    case 2:
-        v.LT(r) = x;
-        break;
-    case 3:
-        if (c == 1)
-            rechazo = junta(v.R3, "Juntas Desplazadas");
-        else
-            (c == 2 ? v.XX : v.YY)(r) = x;
-        break;
-    case 4:
-        if (c == 1) {
-            rechazo = junta(v.R1, "Juntas Desplazadas");
-            break;
-        }
-        if (x < 1 || x > 4) {
-            v.Apoyo(r) = ApoyoFijo;
-            Redibujar();
-            Modificar();
-            return {true, 1.0, std::nullopt, true};
-        }
-        v.Apoyo(r) = static_cast<std::int16_t>(x);
-        break;
-    case 5:
-        if (c == 1) {
-            rechazo = junta(v.R10, "Juntas Desplazadas");
-            break;
-        }
-        // An emptied spring cell is a spring of zero, without a redraw.
-        (c == 2 ? v.SH10 : c == 3 ? v.SV10 : v.SM10)(r) = x;
-        if (!celda.Numero) {
-            Modificar();
-            return Aceptar(0.0);
-        }
-        break;
-    case 6:
-        (c == 1 ? v.B1 : v.T1)(r) = x;
-        break;
-    case 7:
-    case 9:
-        return ReglaTipo(r, x);
-    case 8:
-        if (c == 1)
-            v.Designacion(r) = Std(celda.Texto);
-        else
-            (c == 2 ? v.B1 : v.T1)(r) = x;
-        break;
-    case 11:
-        if (c == 1)
-            rechazo = junta(v.R2, "Acciones Nodales");
-        else
-            (c == 2 ? v.QC1 : c == 3 ? v.QC2 : v.QC3)(r) = x;
-        break;
-    case 12:
-        (c == 1 ? v.LIzq : c == 2 ? v.LDer : v.HC)(r) = x;
-        Modificar();
-        return Aceptar();
-    }
-    if (rechazo) return *rechazo;
-    Redibujar();
-    Modificar();
-    return Aceptar();
+    // The dimensions at the supports are not drawn; nor is an emptied spring.
+    const bool resorteVacio = n == 5 && celda.Columna >= 2 && !celda.Numero;
+    if (n != 12 && !resorteVacio) Redibujar();
+    Registrar(Spread(n).accessibleName());
+    return veredicto;
 }
 
 void VigaDatos::BloqueSeleccionado(int n) {
@@ -1015,34 +824,27 @@ void VigaDatos::EntradaBloque(int n, int fila1, int fila2, int columna) {
         dialogo.Mensaje(Aviso("Debe Introducir un Número...    ", bloque->tituloError));
         return;
     }
-    if (n == 7 || n == 9) {
-        valor = static_cast<double>(CI(*valor));
-        if (*valor == 0) return;
-        if (*valor > programa_.Viga.NTipos) {
-            dialogo.Mensaje(Aviso("El Tipo de Viga no puede ser mayor que " +
-                                      std::to_string(programa_.Viga.NTipos) + "      ",
-                                  "Tipos de Viga"));
-            return g.clearSelection();
-        }
+    const Veredicto tomado = edicion_.ValorBloque(static_cast<Rejilla>(n), *valor);
+    if (tomado.Aviso) {
+        dialogo.Mensaje(*tomado.Aviso);
+        return g.clearSelection();
     }
+    if (!tomado.Aceptado) return;
+    valor = tomado.Valor.value_or(*valor);
     agrupando_ = true;
     Delegado(g).Llenar(fila1, fila2, columna, Delegado(g).Texto(fila1, columna, *valor));
     agrupando_ = false;
     if (redibujoPendiente_ && n != 12) Redibujar();
     redibujoPendiente_ = false;
+    Registrar(g.accessibleName());
     g.clearSelection();
 }
 
 void VigaDatos::MarcarBloque(int fila1, int fila2) {
-    VigaActual& v = programa_.Viga;
-    QTableWidget& g = Spread(10);
-    for (int f = fila1; f <= fila2 && f <= v.NT; ++f) {
-        v.TramoMarcado(f) = true;
-        MarcarCelda(g, f, 1, true);
-        ColorFila(g, f, ColorMarcado);
-    }
+    edicion_.MarcarTramos(fila1, fila2);
+    LlenarMarcas();
     Redibujar();
-    g.clearSelection();
+    Spread(10).clearSelection();
 }
 
 // --- Supports, material, factor, loads -----------------------------------------------------
@@ -1052,37 +854,33 @@ void VigaDatos::ColocarApoyo(int tipo) {
     // With no current cell yet (the page just reached), the first row is the active one.
     const int fila = std::max(g.currentRow(), 0) + 1;
     if (fila > g.rowCount()) return g.setFocus();
-    programa_.Viga.Apoyo(fila) = static_cast<std::int16_t>(tipo);
+    edicion_.ColocarApoyo(fila, static_cast<std::int16_t>(tipo));
     Delegado(g).ColocarValor(fila, 2, tipo);
     if (fila < g.rowCount()) g.setCurrentCell(fila, 1);
     Redibujar();
     g.setFocus();
-    Modificar();
+    Registrar(QStringLiteral("Juntas Restringidas"));
 }
 
 void VigaDatos::Material(bool concreto) {
-    programa_.Viga.OpcionConcreto = concreto ? 0 : 1;
+    edicion_.Material(concreto);
     if (cargando_) return;
-    Modificar();
+    Registrar(QStringLiteral("Material de la Viga"));
     Redibujar();
 }
 
 void VigaDatos::TerminarFactor(bool retorno) {
     if (cambiando_) {
-        VigaActual& v = programa_.Viga;
-        double factor = double1_->Valor();
-        if (factor <= 0 || factor > 5) factor = 1.5;
-        double1_->ColocarValor(factor);
-        v.FMayoracion = factor;
-        Preservar(v.NT, v.FMayorTramo);
-        for (long i = 1; i <= v.NT; ++i) v.FMayorTramo(i) = factor;
+        if (const Veredicto v = edicion_.Factor(double1_->Valor()); v.Valor)
+            double1_->ColocarValor(*v.Valor);
         cambiando_ = 0;
+        Registrar(QStringLiteral("Factor de Mayoración"));
     }
     if (retorno) Spread(10).setFocus();
 }
 
 void VigaDatos::Marcar(int fila, bool marcada) {
-    programa_.Viga.TramoMarcado(fila) = marcada;
+    edicion_.Marcar(fila, marcada);
     ColorFila(Spread(10), fila, marcada ? ColorMarcado : ColorBlanco);
     Redibujar();
 }
@@ -1092,8 +890,7 @@ void VigaDatos::SeleccionarTodos() {
 }
 
 void VigaDatos::DesmarcarTodos() {
-    VigaActual& v = programa_.Viga;
-    v.TramoMarcado.Redim(v.NT);
+    edicion_.DesmarcarTodos();
     LlenarMarcas();
     pantalla_->Limpiar();
     Redibujar();
@@ -1114,21 +911,15 @@ void VigaDatos::BandaSoltada(const BandaSeleccion& banda) {
 }
 
 void VigaDatos::BotonCarga(int tipo) {
-    const VigaActual& v = programa_.Viga;
-    Arreglo<std::int16_t> tramoCarga(v.NT);
-    bool alguno = false;
-    for (int i = 1; i <= v.NT; ++i) {
-        tramoCarga(i) = CeldaMarcada(Spread(10), i, 1) ? 1 : 0;
-        alguno |= tramoCarga(i) == 1;
-    }
-    if (!alguno) {
+    const auto tramoCarga = edicion_.TramosCarga();
+    if (!tramoCarga) {
         const BotonCargaDef& b = BotonesCarga[tipo - 1];
         programa_.Dialogo().Mensaje(Aviso(b.textoAviso, b.tituloAviso));
         return Spread(10).setFocus();
     }
-    if (!MostrarCarga(tipo, tramoCarga)) return;
+    if (!MostrarCarga(tipo, *tramoCarga)) return;
     DesmarcarTodos();
-    Modificar();
+    Registrar(QString::fromUtf8(BotonesCarga[tipo - 1].titulo).trimmed());
 }
 
 bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga) {
@@ -1168,9 +959,9 @@ void VigaDatos::EliminarCargas() {
         "Eliminar todas las Cargas en la Viga!        \nEsta Usted Seguro?        ",
         "Cargas en los Tramos", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 2};
     if (programa_.Dialogo().Mensaje(pregunta) != RespuestaSi) return;
-    trevalo::EliminarCargas(programa_.Viga);
+    edicion_.EliminarCargas();
     DesmarcarTodos();
-    Modificar();
+    Registrar(QStringLiteral("Eliminar las Cargas"));
 }
 
 void VigaDatos::PerfilesMetalicos() {
@@ -1182,7 +973,7 @@ void VigaDatos::PerfilesMetalicos() {
         LlenarSpread(8);
         Spread(8).setCurrentCell(static_cast<int>(ventana.TipoCapturado()) - 1, 0);
         Redibujar();
-        Modificar();
+        Registrar(QStringLiteral("Capturar Perfil Metálico"));
     }
     Spread(8).setFocus();
 }
@@ -1223,8 +1014,64 @@ void VigaDatos::Redibujar() {
     pantalla_->Pintar();
 }
 
-void VigaDatos::Modificar() {
-    modificada_ = true;
+namespace {
+
+// The beam as an edit changes it: the marks of the spans are a choice, not part of the beam.
+VigaActual SinMarcas(VigaActual viga) {
+    viga.TramoMarcado = {};
+    return viga;
+}
+
+// One applied edit: the beam before and after it.
+class CambioViga : public QUndoCommand {
+  public:
+    CambioViga(std::function<void(const VigaActual&)> restaurar, const QString& texto,
+               VigaActual antes, VigaActual despues)
+        : QUndoCommand(texto), restaurar_(std::move(restaurar)), antes_(std::move(antes)),
+          despues_(std::move(despues)) {}
+
+    void undo() override { restaurar_(antes_); }
+    void redo() override {
+        if (aplicado_) return restaurar_(despues_);
+        aplicado_ = true; // pushed once applied: the first redo has nothing to do
+    }
+
+  private:
+    std::function<void(const VigaActual&)> restaurar_;
+    VigaActual antes_;
+    VigaActual despues_;
+    bool aplicado_ = false;
+};
+
+} // namespace
+
+void VigaDatos::Registrar(const QString& que) {
+    if (agrupando_ || cargando_) return;
+    VigaActual ahora = SinMarcas(programa_.Viga);
+    if (ahora == registrada_) return;
+    pila_->push(new CambioViga([this](const VigaActual& v) { Restaurar(v); }, que,
+                               std::move(registrada_), ahora));
+    registrada_ = std::move(ahora);
+}
+
+void VigaDatos::Restaurar(const VigaActual& viga) {
+    VigaActual& v = programa_.Viga;
+    Arreglo<bool> marcas = std::move(v.TramoMarcado);
+    v = viga;
+    marcas.RedimPreserve(v.NT);
+    v.TramoMarcado = std::move(marcas);
+    registrada_ = viga;
+    MostrarViga();
+    Redibujar();
+}
+
+void VigaDatos::EmpezarHistoria() {
+    registrada_ = SinMarcas(programa_.Viga);
+    pila_->clear();
+}
+
+bool VigaDatos::Modificada() const {
+    return !pila_->isClean();
 }
 
 void VigaDatos::TerminarEntradas() {
@@ -1247,13 +1094,13 @@ bool VigaDatos::Salvar() {
         programa_.Dialogo().Mensaje(MensajeError(e));
         return false;
     }
-    modificada_ = false;
+    pila_->setClean();
     return true;
 }
 
 bool VigaDatos::PreguntarSalvar(bool conCancelar) {
     TerminarEntradas();
-    if (!modificada_) return true;
+    if (!Modificada()) return true;
     const Pregunta pregunta{"Viga: " + programa_.Viga.NombreVigaActual + "        \n" +
                                 "Desea Salvar las Modificaciones en la Viga?       \n",
                             "Datos Generales de la Viga",
@@ -1293,8 +1140,8 @@ void VigaDatos::MoverViga(int indice) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
     ColoquePantalla();
+    EmpezarHistoria();
     Redibujar();
-    modificada_ = false;
 }
 
 bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
@@ -1315,6 +1162,7 @@ bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
             agrupando_ = false;
             if (redibujoPendiente_) Redibujar();
             redibujoPendiente_ = false;
+            Registrar(QStringLiteral("Pegar: ") + g->accessibleName());
             return true;
         }
         // A block chosen with the mouse or with Shift and the arrows.

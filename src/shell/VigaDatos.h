@@ -25,6 +25,7 @@ class QPushButton;
 class QRadioButton;
 class QTabWidget;
 class QTableWidget;
+class QUndoStack;
 
 namespace trevalo {
 
@@ -46,7 +47,10 @@ class VigaDatos : public QDialog {
     PantallaViga& Lienzo() { return *pantalla_; }
     // Page in front, 1 to 9.
     int Pagina() const;
-    bool Modificada() const { return modificada_; }
+    // The beam differs from the one saved or read: the history is not at its clean step.
+    bool Modificada() const;
+    // Every applied edit, one step each (a count, a cell, a block, a paste, a load, a capture).
+    QUndoStack& Historia() { return *pila_; }
     // The grid SpreadN and the count box LongN, as the pages number them.
     QTableWidget& Spread(int n) { return *spread_.at(static_cast<std::size_t>(n)); }
     QLineEdit& Long(int n) { return *long_.at(static_cast<std::size_t>(n)); }
@@ -98,17 +102,9 @@ class VigaDatos : public QDialog {
     // Count boxes.
     void TerminarLong(int n, bool retorno);
     void ValorLong(int n);
-    void ValorLong1(long valor);
-    // The count of types in box 5 or 6: at least one, spans of a type beyond it on type 1.
-    void CuentaTipos(int caja, long valor);
-    void ValorLong5(long valor);
-    void ValorLong6(long valor);
 
-    // Cells.
+    // Cells: the beam's edit, then the headers and the drawing that show it.
     Veredicto ReglaCelda(int n, const Celda& celda);
-    Veredicto Regla(int n, const Celda& celda);
-    std::optional<Pregunta> JuntaMayor(double valor, const char* titulo) const;
-    Veredicto ReglaTipo(long fila, double valor);
     // A block of cells chosen: an input box for one value, or ticks on the load page.
     void BloqueSeleccionado(int n);
     void EntradaBloque(int n, int fila1, int fila2, int columna);
@@ -132,7 +128,14 @@ class VigaDatos : public QDialog {
     // Tools, drawing, leaving.
     void Despachar(const QString& clave);
     void Redibujar();
-    void Modificar();
+    // An edit applied: one step of the history named `que`, when the beam changed.
+    void Registrar(const QString& que);
+    // A step undone or redone: the beam as it was then, shown and drawn.
+    void Restaurar(const VigaActual& viga);
+    // A beam read: a history of its own, clean.
+    void EmpezarHistoria();
+    // The grids, counts and options from the model.
+    void MostrarViga();
     // The cell, count or factor being typed, entered as leaving it would: before every save
     // and every question about leaving the beam.
     void TerminarEntradas();
@@ -144,11 +147,11 @@ class VigaDatos : public QDialog {
     void CopiarMovimientos();
 
     Programa& programa_;
+    EdicionViga edicion_;
     VigasProyecto* proyecto_;
     bool cargando_ = true;
     int pagina_ = 1;
     int cambiando_ = 0;
-    bool modificada_ = false;
     bool agrupando_ = false; // a block or a paste: one redraw at its end
     bool redibujoPendiente_ = false;
 
@@ -156,6 +159,8 @@ class VigaDatos : public QDialog {
     QTabWidget* tab1_ = nullptr;
     PantallaViga* pantalla_ = nullptr;
     ToolTipTrevalo* toolTip_ = nullptr;
+    QUndoStack* pila_ = nullptr;
+    VigaActual registrada_; // the beam at the history's current step, without marks
     QPushButton* button1_ = nullptr;
     QPushButton* button2_ = nullptr;
     std::array<QPushButton*, 2> btoMove_{};

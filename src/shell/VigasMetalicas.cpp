@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "editing/EdicionViga.h"
 #include "platform/lienzos/LienzosArchivo.h"
 #include "profiles/DibujosSeccion.h"
 #include "shell/DelegadosCelda.h"
@@ -168,12 +169,9 @@ void VigasMetalicas::Capturar() {
         spread1_->setFocus();
         return;
     }
-    try {
-        CapturarPerfil(lista, fila, tipo_, programa_.Viga);
-    } catch (const ErrorTrevalo& e) {
-        programa_.Dialogo().Mensaje(MensajeError(e));
-        return;
-    }
+    const Veredicto captura = EdicionViga(programa_.Viga).CapturarPerfil(lista, fila, tipo_);
+    if (captura.Aviso) programa_.Dialogo().Mensaje(*captura.Aviso);
+    if (!captura.Aceptado) return;
     programa_.Perfiles.CambioCaptura = true;
     tipoCapturado_ = tipo_;
     emit PerfilCapturado(tipo_);

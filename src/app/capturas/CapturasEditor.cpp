@@ -1,6 +1,8 @@
 #include "app/capturas/Capturas.h"
 
+#include <QLineEdit>
 #include <QPushButton>
+#include <QUndoStack>
 
 #include "shell/VigaDatos.h"
 #include "shell/VigasProyecto.h"
@@ -30,6 +32,18 @@ void CapturasEditor(Programa& programa, VigasProyecto& ventana) {
     {
         VigaDatos editor(programa, &ventana);
         Paginas(editor, QStringLiteral("06_editor_concreto"));
+    }
+    {
+        // One span more: the undo button of the toolbar turns on; then undone.
+        VigaDatos editor(programa, &ventana);
+        editor.show();
+        QLineEdit& tramos = editor.Long(1);
+        tramos.setText(QString::number(programa.Viga.NT + 1));
+        emit tramos.textEdited(tramos.text());
+        emit tramos.returnPressed();
+        Guardar(editor, QStringLiteral("06_editor_deshacer"));
+        editor.Historia().undo();
+        editor.hide();
     }
     VigaActual& viga = programa.Viga;
     viga.OpcionConcreto = 1;

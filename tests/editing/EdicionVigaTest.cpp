@@ -1,0 +1,496 @@
+#include "editing/EdicionViga.h"
+
+#include <gtest/gtest.h>
+
+namespace trevalo {
+namespace {
+
+// A three-span concrete beam: lengths 4, 5, 6; two types; supports at joints 1 and 4.
+VigaActual TresTramos() {
+    VigaActual v;
+    NuevaVigaDefecto(v);
+    v.NT = 3;
+    RedimensionarViga(v);
+    v.LT(1) = 4;
+    v.LT(2) = 5;
+    v.LT(3) = 6;
+    v.NTipos = 2;
+    v.B1.Redim(2);
+    v.T1.Redim(2);
+    v.B1(1) = 0.25;
+    v.T1(1) = 0.6;
+    v.B1(2) = 0.3;
+    v.T1(2) = 0.7;
+    v.Designacion.Redim(4);
+    v.VT.Redim(3);
+    v.VT(1) = 1;
+    v.VT(2) = 2;
+    v.VT(3) = 2;
+    v.R1(2) = 4;
+    v.Apoyo(2) = RodilloEnX;
+    v.FMayoracion = 1.4;
+    return v;
+}
+
+struct CasoCuenta {
+    Cuenta cuenta;
+    long valor;
+    bool aceptado;
+    long queda;         // the count the box shows afterwards
+    const char* texto;  // the message, or nullptr
+    const char* titulo; // its title
+};
+
+class Cuentas : public testing::TestWithParam<CasoCuenta> {};
+
+TEST_P(Cuentas, LimitesYMensajes) {
+    const CasoCuenta& caso = GetParam();
+    VigaActual v = TresTramos();
+    const VigaActual antes = v;
+    EdicionViga edicion(v);
+    const Veredicto r = edicion.CambiarCuenta(caso.cuenta, caso.valor);
+    EXPECT_EQ(r.Aceptado, caso.aceptado);
+    EXPECT_EQ(edicion.Valor(caso.cuenta), caso.queda);
+    EXPECT_FALSE(r.Pitido);
+    if (caso.texto) {
+        ASSERT_TRUE(r.Aviso);
+        EXPECT_EQ(r.Aviso->Texto, caso.texto);
+        EXPECT_EQ(r.Aviso->Titulo, caso.titulo);
+        EXPECT_EQ(r.Aviso->Icono, IconoMensaje::Advertencia);
+    } else {
+        EXPECT_FALSE(r.Aviso);
+    }
+    if (!caso.aceptado) {
+        EXPECT_EQ(v, antes); // a refusal changes nothing
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EdicionViga, Cuentas,
+    testing::Values(
+        CasoCuenta{Cuenta::Tramos, 5, true, 5, nullptr, nullptr},
+        CasoCuenta{Cuenta::Tramos, 1000, true, 1000, nullptr, nullptr},
+        CasoCuenta{Cuenta::Tramos, 0, false, 3, nullptr, nullptr},
+        CasoCuenta{Cuenta::Tramos, 1001, false, 3, nullptr, nullptr},
+        CasoCuenta{Cuenta::Desplazadas, 4, true, 4, nullptr, nullptr},
+        CasoCuenta{Cuenta::Desplazadas, 5, false, 0,
+                   "El Número de Juntas Desplazadas no puede ser mayor que 4    ",
+                   "Juntas Desplazadas"},
+        CasoCuenta{Cuenta::Restringidas, 5, false, 2, "El Número de Juntas ser mayor que 4    ",
+                   "Juntas Totalmente restringidas"},
+        CasoCuenta{Cuenta::Resortes, 5, false, 0, "El Número de Juntas ser mayor que 4    ",
+                   "Juntas con Resortes"},
+        CasoCuenta{Cuenta::Acciones, 5, false, 0,
+                   "El Número de la Junta no puede ser mayor que 4    \n", "Acciones Nodales"},
+        CasoCuenta{Cuenta::Acciones, 4, true, 4, nullptr, nullptr},
+        CasoCuenta{Cuenta::TiposConcreto, 0, true, 1, nullptr, nullptr},
+        CasoCuenta{Cuenta::TiposMetalicos, 7, true, 7, nullptr, nullptr},
+        // Types have no joint limit; beyond a 16-bit count the model overflows (error 6).
+        CasoCuenta{Cuenta::TiposConcreto, 40000, false, 2, "Desbordamiento    ",
+                   "Error Número: 6"}));
+
+TEST(EdicionViga, LasCuentasRedimensionanYLlenanLosDefectos) {
+    VigaActual v = TresTramos();
+    EdicionViga edicion(v);
+
+    edicion.CambiarCuenta(Cuenta::Tramos, 5);
+    EXPECT_EQ(v.LT.Ubound(), 5);
+    EXPECT_EQ(v.NombreEje.Ubound(), 6);
+    EXPECT_EQ(v.LT(3), 6.0); // the spans that stay keep their lengths
+    EXPECT_EQ(v.VT(4), 1.0); // a new span is of type 1
+    EXPECT_EQ(v.VT(2), 2.0);
+    edicion.CambiarCuenta(Cuenta::Restringidas, 4);
+    EXPECT_EQ(v.Apoyo(2), RodilloEnX);
+    EXPECT_EQ(v.Apoyo(3), ApoyoFijo); // a new restraint is a fixed support
+    EXPECT_EQ(v.Apoyo(4), ApoyoFijo);
+
+    edicion.CambiarCuenta(Cuenta::Resortes, 2);
+    EXPECT_EQ(v.SM10.Ubound(), 2);
+
+    edicion.CambiarCuenta(Cuenta::Tramos, 2); // reducing prunes no restraint
+    EXPECT_EQ(v.R1(2), 4);
+    EXPECT_EQ(v.NJRest, 4);
+}
+
+TEST(EdicionViga, CuentaDeTipos) {
+    VigaActual v = TresTramos();
+    EdicionViga edicion(v);
+    // Concrete: new types 0.3 x 0.5, designations over the joints rather than the types.
+    EXPECT_FALSE(edicion.CambiarCuenta(Cuenta::TiposConcreto, 3).Valor);
+    EXPECT_EQ(v.B1(3), 0.3);
+    EXPECT_EQ(v.T1(3), 0.5);
+    EXPECT_EQ(v.B1(1), 0.25);
+    EXPECT_EQ(v.Designacion.Ubound(), 4);
+    // Fewer types: the spans of a type beyond them go to type 1.
+    edicion.CambiarCuenta(Cuenta::TiposConcreto, 1);
+    EXPECT_EQ(v.VT(2), 1.0);
+    EXPECT_EQ(v.VT(3), 1.0);
+    // None: one, shown as such, every span of type 1.
+    v.VT(1) = 0;
+    EXPECT_EQ(edicion.CambiarCuenta(Cuenta::TiposConcreto, 0).Valor, 1.0);
+    EXPECT_EQ(v.VT(1), 1.0);
+    // Steel: designations follow the types, no default section.
+    edicion.CambiarCuenta(Cuenta::TiposMetalicos, 2);
+    EXPECT_EQ(v.Designacion.Ubound(), 2);
+    EXPECT_EQ(v.B1(2), 0.0);
+}
+
+struct CasoCelda {
+    Rejilla rejilla;
+    int columna;
+    const char* texto;
+    std::optional<double> numero;
+    bool aceptado;
+    std::optional<double> valor; // the value the cell keeps when not the one entered
+    bool pitido;
+    const char* aviso;                  // the message, or nullptr
+    const char* titulo;                 // its title
+    double (*leido)(const VigaActual&); // the model's value of row 2 afterwards
+};
+
+class Celdas : public testing::TestWithParam<CasoCelda> {};
+
+TEST_P(Celdas, ReglasDeCadaRejilla) {
+    const CasoCelda& caso = GetParam();
+    VigaActual v = TresTramos();
+    EdicionViga edicion(v);
+    for (Cuenta c : {Cuenta::Desplazadas, Cuenta::Resortes, Cuenta::Acciones})
+        edicion.CambiarCuenta(c, 3);
+    edicion.CambiarCuenta(Cuenta::Restringidas, 3);
+    const VigaActual antes = v;
+    const Veredicto r =
+        edicion.CambiarCelda(caso.rejilla, 2, caso.columna, caso.texto, caso.numero);
+    EXPECT_EQ(r.Aceptado, caso.aceptado);
+    EXPECT_EQ(r.Valor, caso.valor);
+    EXPECT_EQ(r.Pitido, caso.pitido);
+    if (caso.aviso) {
+        ASSERT_TRUE(r.Aviso);
+        EXPECT_EQ(r.Aviso->Texto, caso.aviso);
+        EXPECT_EQ(r.Aviso->Titulo, caso.titulo);
+    } else {
+        EXPECT_FALSE(r.Aviso);
+    }
+    if (!caso.aceptado) {
+        EXPECT_EQ(v, antes);
+    }
+    if (caso.leido) {
+        EXPECT_EQ(caso.leido(v), caso.valor.value_or(caso.numero.value_or(0)));
+    }
+}
+
+constexpr const char* JuntaMayor = "El Número de la Junta no puede ser mayor que 4    ";
+
+INSTANTIATE_TEST_SUITE_P(
+    EdicionViga, Celdas,
+    testing::Values(
+        CasoCelda{Rejilla::Longitudes,
+                  1,
+                  "0",
+                  0.0,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.LT(2); }}, // zero is the page's test
+        CasoCelda{Rejilla::Longitudes, 1, "", {}, false, {}, true, nullptr, nullptr, nullptr},
+        CasoCelda{Rejilla::Desplazadas,
+                  1,
+                  "4",
+                  4.0,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return double(v.R3(2)); }},
+        CasoCelda{Rejilla::Desplazadas,
+                  1,
+                  "5",
+                  5.0,
+                  false,
+                  {},
+                  false,
+                  JuntaMayor,
+                  "Juntas Desplazadas",
+                  nullptr},
+        CasoCelda{Rejilla::Desplazadas,
+                  3,
+                  "-0.02",
+                  -0.02,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.YY(2); }},
+        // The restraints and springs keep the displaced joints' title, on purpose.
+        CasoCelda{Rejilla::Restringidas,
+                  1,
+                  "5",
+                  5.0,
+                  false,
+                  {},
+                  false,
+                  JuntaMayor,
+                  "Juntas Desplazadas",
+                  nullptr},
+        CasoCelda{Rejilla::Restringidas,
+                  2,
+                  "4",
+                  4.0,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return double(v.Apoyo(2)); }},
+        CasoCelda{Rejilla::Restringidas, 2, "5", 5.0, true, 1.0, true, nullptr, nullptr,
+                  [](const VigaActual& v) { return double(v.Apoyo(2)); }},
+        CasoCelda{Rejilla::Restringidas, 2, "0", 0.0, true, 1.0, true, nullptr, nullptr,
+                  [](const VigaActual& v) { return double(v.Apoyo(2)); }},
+        CasoCelda{Rejilla::Resortes,
+                  1,
+                  "9",
+                  9.0,
+                  false,
+                  {},
+                  false,
+                  JuntaMayor,
+                  "Juntas Desplazadas",
+                  nullptr},
+        CasoCelda{Rejilla::Resortes,
+                  3,
+                  "",
+                  {},
+                  true,
+                  0.0,
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.SV10(2); }},
+        CasoCelda{Rejilla::Resortes,
+                  4,
+                  "-800",
+                  -800.0,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.SM10(2); }},
+        CasoCelda{Rejilla::TiposConcreto,
+                  2,
+                  "0.45",
+                  0.45,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.T1(2); }},
+        // A span type beyond the types silently becomes the last; 0 beeps.
+        CasoCelda{Rejilla::TipoTramoConcreto, 1, "7", 7.0, true, 2.0, false, nullptr, nullptr,
+                  [](const VigaActual& v) { return v.VT(2); }},
+        CasoCelda{
+            Rejilla::TipoTramoMetalico, 1, "0", 0.0, false, {}, true, nullptr, nullptr, nullptr},
+        CasoCelda{Rejilla::TiposMetalicos,
+                  3,
+                  "8356",
+                  8356.0,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.T1(2); }},
+        CasoCelda{Rejilla::Acciones,
+                  1,
+                  "5",
+                  5.0,
+                  false,
+                  {},
+                  false,
+                  JuntaMayor,
+                  "Acciones Nodales",
+                  nullptr},
+        CasoCelda{Rejilla::Acciones,
+                  3,
+                  "-1200",
+                  -1200.0,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.QC2(2); }},
+        CasoCelda{Rejilla::Acotamientos,
+                  3,
+                  "0.6",
+                  0.6,
+                  true,
+                  {},
+                  false,
+                  nullptr,
+                  nullptr,
+                  [](const VigaActual& v) { return v.HC(2); }},
+        // A joint number the model cannot hold is the overflow error.
+        CasoCelda{Rejilla::Desplazadas,
+                  1,
+                  "-1e12",
+                  -1e12,
+                  false,
+                  {},
+                  false,
+                  "Desbordamiento",
+                  "Error: 6",
+                  nullptr}));
+
+TEST(EdicionViga, CeldasDeTexto) {
+    VigaActual v = TresTramos();
+    EdicionViga edicion(v);
+    EXPECT_TRUE(edicion.CambiarCelda(Rejilla::NombresEje, 4, 1, "D", {}).Aceptado);
+    EXPECT_EQ(v.NombreEje(4), "D");
+    EXPECT_TRUE(edicion.CambiarCelda(Rejilla::TiposMetalicos, 1, 1, "1 W8X31", {}).Aceptado);
+    EXPECT_EQ(v.Designacion(1), "1 W8X31");
+}
+
+TEST(EdicionViga, ValorDeUnBloque) {
+    VigaActual v = TresTramos();
+    const EdicionViga edicion(v);
+    EXPECT_EQ(edicion.ValorBloque(Rejilla::TipoTramoConcreto, 1.5).Valor, 2.0); // ties to even
+    EXPECT_EQ(edicion.ValorBloque(Rejilla::TipoTramoMetalico, 2.5).Valor, 2.0);
+    const Veredicto cero = edicion.ValorBloque(Rejilla::TipoTramoConcreto, 0.4);
+    EXPECT_FALSE(cero.Aceptado);
+    EXPECT_FALSE(cero.Aviso);
+    EXPECT_FALSE(cero.Pitido);
+    const Veredicto mayor = edicion.ValorBloque(Rejilla::TipoTramoConcreto, 7);
+    ASSERT_TRUE(mayor.Aviso);
+    EXPECT_EQ(mayor.Aviso->Texto, "El Tipo de Viga no puede ser mayor que 2      ");
+    EXPECT_EQ(mayor.Aviso->Titulo, "Tipos de Viga");
+    EXPECT_TRUE(edicion.ValorBloque(Rejilla::Longitudes, 7).Aceptado);
+}
+
+TEST(EdicionViga, FactorDeMayoracion) {
+    for (const auto& [entrado, queda] : {std::pair{2.0, 2.0}, {5.0, 5.0}, {6.0, 1.5}, {0.0, 1.5}}) {
+        VigaActual v = TresTramos();
+        const Veredicto r = EdicionViga(v).Factor(entrado);
+        EXPECT_EQ(r.Valor.has_value(), entrado != queda) << entrado;
+        EXPECT_EQ(v.FMayoracion, queda);
+        EXPECT_EQ(v.FMayorTramo.Ubound(), 3);
+        EXPECT_EQ(v.FMayorTramo(3), queda);
+    }
+}
+
+TEST(EdicionViga, PrepararLlenaLosDefectosDelEditor) {
+    VigaActual v = TresTramos();
+    v.NTipos = 0;
+    v.VT(3) = 0;
+    v.NJRes = 1;
+    v.R10.Redim(1);
+    v.SV10.Redim(1);
+    v.R10(1) = 2;
+    v.SV10(1) = 1000; // joint 2 stands on a vertical spring
+    v.NJRest = 3;
+    v.R1.RedimPreserve(3);
+    v.Apoyo.RedimPreserve(3);
+    v.R1(3) = 3;
+    v.Apoyo(3) = RodilloEnY; // joint 3 is held only across
+    for (long j = 1; j <= 4; ++j) v.HC(j) = 0.5;
+    v.TramoMarcado(2) = true;
+    EdicionViga(v).Preparar();
+    EXPECT_EQ(v.NTipos, 1);
+    EXPECT_EQ(v.B1(1), 0.3);
+    EXPECT_EQ(v.T1(1), 0.5);
+    EXPECT_EQ(v.VT(3), 1.0);
+    EXPECT_EQ(v.FMayorTramo(2), 1.4);
+    EXPECT_FALSE(v.TramoMarcado(2));
+    EXPECT_EQ(v.HC(1), 0.5);
+    EXPECT_EQ(v.HC(2), 0.5);
+    EXPECT_EQ(v.HC(3), 0.0);
+    EXPECT_EQ(v.HC(4), 0.5);
+
+    VigaActual nueva;
+    nueva.VigaNueva = true;
+    EdicionViga(nueva).Preparar();
+    EXPECT_EQ(nueva.NT, 1);
+    EXPECT_EQ(nueva.LT.Ubound(), 1);
+}
+
+TEST(EdicionViga, MarcasDeLosTramos) {
+    VigaActual v = TresTramos();
+    EdicionViga edicion(v);
+    EXPECT_FALSE(edicion.TramosCarga());
+    edicion.MarcarTramos(2, 9); // beyond the spans is ignored
+    edicion.Marcar(3, false);
+    const auto tramos = edicion.TramosCarga();
+    ASSERT_TRUE(tramos);
+    EXPECT_EQ(tramos->Ubound(), 3);
+    EXPECT_EQ((*tramos)(1), 0);
+    EXPECT_EQ((*tramos)(2), 1);
+    EXPECT_EQ((*tramos)(3), 0);
+    edicion.DesmarcarTodos();
+    EXPECT_FALSE(edicion.TramosCarga());
+}
+
+Arreglo<std::int16_t> Marcados(std::initializer_list<std::int16_t> marcas) {
+    Arreglo<std::int16_t> a(static_cast<long>(marcas.size()));
+    long i = 0;
+    for (std::int16_t m : marcas) a(++i) = m;
+    return a;
+}
+
+TEST(EdicionViga, CargaDeUnValorPorTramo) {
+    VigaActual v = TresTramos();
+    EdicionViga edicion(v);
+    ASSERT_TRUE(
+        edicion.AplicarCarga(Marcados({1, 0, 1}), {&VigaActual::W5, -2.5, 1.2, {}}).Aceptado);
+    EXPECT_EQ(v.W5(1), -2); // ties to even
+    EXPECT_EQ(v.W5(2), 0);
+    EXPECT_EQ(v.la5(3), 1.2);
+    edicion.AplicarCarga(Marcados({0, 1, 0}), {&VigaActual::W1, 1500.5, {}, 1});
+    EXPECT_EQ(v.W1(2), 1500);
+    EXPECT_EQ(v.Gravedad(2), 1);
+    EXPECT_EQ(v.la5(2), 0.0);
+    const Veredicto grande =
+        edicion.AplicarCarga(Marcados({1, 1, 1}), {&VigaActual::W4, 3e9, {}, {}});
+    EXPECT_FALSE(grande.Aceptado);
+    EXPECT_EQ(grande.Aviso->Titulo, "Error Número: 6");
+    EXPECT_EQ(v.W4(1), 0);
+}
+
+TEST(EdicionViga, ListaDeCargasPorTramo) {
+    VigaActual v = TresTramos();
+    EdicionViga edicion(v);
+    const ListaCargas parciales{
+        &VigaActual::CantW3,
+        {{"(Kgf)", &VigaActual::W3_}, {"La (m)", &VigaActual::La3_}, {"Lb (m)", &VigaActual::Lb3_}},
+        MaxCargas10};
+    EXPECT_TRUE(EsCarga(parciales.columnas[0]));
+    EXPECT_FALSE(EsCarga(parciales.columnas[1]));
+    EXPECT_EQ(edicion.ValorCarga(parciales.columnas[0], 2147483648.0).Aviso->Titulo,
+              "Error Número: 6");
+    EXPECT_TRUE(edicion.ValorCarga(parciales.columnas[1], 2147483648.0).Aceptado);
+
+    ASSERT_TRUE(
+        edicion.AplicarCargas(Marcados({1, 1, 0}), parciales, {{-300, 0.5, 1.5}, {200, 2, 4}})
+            .Aceptado);
+    EXPECT_EQ(v.CantW3(1), 2);
+    EXPECT_EQ(v.CantW3(2), 2);
+    EXPECT_EQ(v.CantW3(3), 0);
+    EXPECT_EQ(v.W3_(2, 1), -300);
+    EXPECT_EQ(v.Lb3_(2, 2), 4.0);
+    // A count of 0 empties the list.
+    edicion.AplicarCargas(Marcados({1, 0, 0}), parciales, {});
+    EXPECT_EQ(v.CantW3(1), 0);
+    // Beyond the slots of a span: the subscript error, nothing written.
+    const VigaActual antes = v;
+    const Veredicto fuera = edicion.AplicarCargas(Marcados({0, 0, 1}), parciales,
+                                                  std::vector<std::vector<double>>(11, {1, 1, 1}));
+    EXPECT_FALSE(fuera.Aceptado);
+    EXPECT_EQ(fuera.Aviso->Titulo, "Error Número: 9");
+    EXPECT_EQ(v, antes);
+}
+
+} // namespace
+} // namespace trevalo
