@@ -112,6 +112,14 @@ struct EditorBanco {
         p.programa.Viga = VigaTodasLasCargas(20);
         p.programa.Viga.VigaNueva = false;
     }
+    // The editor open and painted, as a person sees it.
+    std::unique_ptr<VigaDatos> Abierto() {
+        auto editor = std::make_unique<VigaDatos>(p.programa);
+        editor->Lienzo().setFixedSize(1600, 900);
+        editor->show();
+        QApplication::processEvents();
+        return editor;
+    }
     ProgramaBanco p;
 };
 
@@ -130,10 +138,8 @@ BENCHMARK(AbrirEditor)->Unit(benchmark::kMillisecond);
 // A length typed into the first span: the cell's rule, the model and the redraw.
 void EdicionCelda(benchmark::State& estado) {
     EditorBanco b;
-    VigaDatos editor(b.p.programa);
-    editor.Lienzo().setFixedSize(1600, 900);
-    editor.show();
-    QApplication::processEvents();
+    const auto abierto = b.Abierto();
+    VigaDatos& editor = *abierto;
     DelegadoNumero& luces = Delegado(editor.Spread(2));
     bool corta = false;
     for (auto _ : estado) {
@@ -150,10 +156,8 @@ BENCHMARK(EdicionCelda)->Unit(benchmark::kMillisecond);
 // restored, every grid filled again and the redraw.
 void DeshacerCuentaTramos(benchmark::State& estado) {
     EditorBanco b;
-    VigaDatos editor(b.p.programa);
-    editor.Lienzo().setFixedSize(1600, 900);
-    editor.show();
-    QApplication::processEvents();
+    const auto abierto = b.Abierto();
+    VigaDatos& editor = *abierto;
     QLineEdit& tramos = editor.Long(1);
     tramos.setText(QStringLiteral("21"));
     emit tramos.textEdited(tramos.text());

@@ -152,6 +152,8 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     : QDialog(parent), programa_(programa), edicion_(programa.Viga),
       proyecto_(qobject_cast<VigasProyecto*>(parent)), toolTip_(new ToolTipTrevalo(this)),
       pila_(new QUndoStack(this)) {
+    // Each step holds the beam twice: a long history of a long beam is bounded.
+    pila_->setUndoLimit(100);
     setObjectName(QStringLiteral("VigaDatos"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     lblNombre_ = new QLabel(this);
