@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -162,19 +163,21 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     pantalla_->setObjectName(QStringLiteral("Picture1"));
     pantalla_->PermitirBanda([this] { return Pagina() == 7; });
 
-    auto* izquierda = new QVBoxLayout;
-    izquierda->addWidget(CrearPaginas(), 1);
-    izquierda->addWidget(CrearPie());
-    auto* derecha = new QVBoxLayout;
+    // The tool bar runs along the top of the window, so that every tool, undo and redo
+    // included, shows at the editor's first size instead of behind the bar's overflow.
     auto* arriba = new QHBoxLayout;
     arriba->addWidget(CrearHerramientas());
     arriba->addStretch();
     arriba->addWidget(lblNombre_);
-    derecha->addLayout(arriba);
-    derecha->addWidget(pantalla_, 1);
-    auto* todo = new QHBoxLayout(this);
-    todo->addLayout(izquierda);
-    todo->addLayout(derecha, 1);
+    auto* izquierda = new QVBoxLayout;
+    izquierda->addWidget(CrearPaginas(), 1);
+    izquierda->addWidget(CrearPie());
+    auto* abajo = new QHBoxLayout;
+    abajo->addLayout(izquierda);
+    abajo->addWidget(pantalla_, 1);
+    auto* todo = new QVBoxLayout(this);
+    todo->addLayout(arriba);
+    todo->addLayout(abajo, 1);
 
     connect(pantalla_, &PantallaViga::Redimensionado, this, &VigaDatos::Redibujar);
     connect(pantalla_, &PantallaViga::BandaSoltada, this, &VigaDatos::BandaSoltada);
@@ -424,15 +427,17 @@ QWidget* VigaDatos::PaginaCargas() {
     cargas->addStretch();
     fila->addLayout(cargas);
     capas->addLayout(fila, 1);
-    auto* todos = new QHBoxLayout;
+    // Two rows, so that the three captions show whole at the editor's first width.
+    auto* todos = new QGridLayout;
     connect(CrearBoton("SSCommand1", " Seleccionar todos los Tramos "), &QPushButton::clicked, this,
             &VigaDatos::SeleccionarTodos);
     connect(CrearBoton("SSCommand2", " Desmarcar todos los Tramos "), &QPushButton::clicked, this,
             &VigaDatos::DesmarcarTodos);
     connect(CrearBoton("ButtonE", " Eliminar las cargas de la viga. "), &QPushButton::clicked, this,
             &VigaDatos::EliminarCargas);
-    for (const char* b : {"SSCommand1", "SSCommand2", "ButtonE"})
-        todos->addWidget(botones_[QString::fromUtf8(b)]);
+    todos->addWidget(botones_[QStringLiteral("SSCommand1")], 0, 0);
+    todos->addWidget(botones_[QStringLiteral("SSCommand2")], 0, 1);
+    todos->addWidget(botones_[QStringLiteral("ButtonE")], 1, 0, 1, 2);
     capas->addLayout(todos);
     return Marco(QStringLiteral("Cargas de Servicio en los Tramos"), capas);
 }
