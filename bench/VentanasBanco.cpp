@@ -140,11 +140,12 @@ void EdicionCelda(benchmark::State& estado) {
     EditorBanco b;
     const auto abierto = b.Abierto();
     VigaDatos& editor = *abierto;
-    DelegadoNumero& luces = Delegado(editor.Spread(2));
+    ModeloCeldas& luces = editor.Modelo(Rejilla::Longitudes);
     bool corta = false;
     for (auto _ : estado) {
         corta = !corta;
-        luces.Aplicar(1, 1, corta ? QStringLiteral("4.5") : QStringLiteral("5.5"));
+        luces.setData(luces.index(0, 0), corta ? QStringLiteral("4.5") : QStringLiteral("5.5"),
+                      Qt::EditRole);
     }
     if (b.p.programa.Viga.LT(1) != (corta ? 4.5 : 5.5))
         estado.SkipWithError("the cell was refused");

@@ -106,6 +106,70 @@ long EdicionViga::Valor(Cuenta cuenta) const {
     }
 }
 
+long EdicionViga::Filas(Rejilla rejilla) const {
+    const VigaActual& v = viga_;
+    switch (rejilla) {
+    case Rejilla::NombresEje:
+    case Rejilla::Acotamientos:
+        return std::max<long>(v.NT + 1, 0);
+    case Rejilla::Desplazadas:
+        return v.NJDesp;
+    case Rejilla::Restringidas:
+        return v.NJRest;
+    case Rejilla::Resortes:
+        return v.NJRes;
+    case Rejilla::TiposConcreto:
+    case Rejilla::TiposMetalicos:
+        return v.NTipos;
+    case Rejilla::Acciones:
+        return v.NAcc;
+    default:
+        return std::max<long>(v.NT, 0);
+    }
+}
+
+std::variant<double, std::string> EdicionViga::Leer(Rejilla rejilla, long r, int c) const {
+    const VigaActual& v = viga_;
+    // Column c of the lists given, in their order.
+    const auto de = [r, c](const auto&... listas) {
+        double valor = 0;
+        int i = 0;
+        ((valor = ++i == c ? static_cast<double>(En(listas, r)) : valor), ...);
+        return valor;
+    };
+    switch (rejilla) {
+    case Rejilla::NombresEje:
+        return En(v.NombreEje, r);
+    case Rejilla::Longitudes:
+        return de(v.LT);
+    case Rejilla::Desplazadas:
+        return de(v.R3, v.XX, v.YY);
+    case Rejilla::Restringidas:
+        return de(v.R1, v.Apoyo);
+    case Rejilla::Resortes:
+        return de(v.R10, v.SH10, v.SV10, v.SM10);
+    case Rejilla::TiposConcreto:
+        return de(v.B1, v.T1);
+    case Rejilla::TipoTramoConcreto:
+    case Rejilla::TipoTramoMetalico:
+        return de(v.VT);
+    case Rejilla::TiposMetalicos:
+        if (c == 1) return En(v.Designacion, r);
+        return En(c == 2 ? v.B1 : v.T1, r);
+    case Rejilla::TramosCargados:
+        return En(v.TramoMarcado, r) ? 1.0 : 0.0;
+    case Rejilla::Acciones:
+        return de(v.R2, v.QC1, v.QC2, v.QC3);
+    case Rejilla::Acotamientos:
+        return de(v.LIzq, v.LDer, v.HC);
+    }
+    return 0.0;
+}
+
+std::string EdicionViga::RotuloTramo(long tramo) const {
+    return En(viga_.NombreEje, tramo) + " - " + En(viga_.NombreEje, tramo + 1);
+}
+
 Veredicto EdicionViga::CambiarCuenta(Cuenta cuenta, long valor) {
     VigaActual& v = viga_;
     if (cuenta == Cuenta::Tramos) {
@@ -265,7 +329,8 @@ Veredicto EdicionViga::Celda(Rejilla rejilla, long r, int c, const std::string& 
         (c == 1 ? v.LIzq : c == 2 ? v.LDer : v.HC)(r) = x;
         break;
     case Rejilla::TramosCargados:
-        return Rechazar();
+        Marcar(r, x != 0);
+        break;
     }
     return rechazo ? *rechazo : Aceptar();
 }

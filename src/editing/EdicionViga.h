@@ -104,12 +104,20 @@ class EdicionViga {
     void Preparar();
 
     long Valor(Cuenta cuenta) const;
+
+    // What a list shows: its rows, the value of a cell (a number, or the text of a name
+    // column) and the caption of a span row ("A - B"). Slots beyond a list shorter than its
+    // count read as zero.
+    long Filas(Rejilla rejilla) const;
+    std::variant<double, std::string> Leer(Rejilla rejilla, long fila, int columna) const;
+    std::string RotuloTramo(long tramo) const;
     // A count typed in its box. Refused (the box shows the old count): spans outside 1..1000,
     // joints beyond NT + 1 with the box's message, a count the model cannot hold (error 6).
     // Applied with Valor when the box shows another number (no types becomes one).
     Veredicto CambiarCuenta(Cuenta cuenta, long valor);
 
-    // A cell entered: `texto` trimmed, `numero` nothing for an empty or text cell.
+    // A cell entered: `texto` trimmed, `numero` nothing for an empty or text cell. A span mark
+    // is a cell of its own: 1 marks the span, 0 clears it.
     Veredicto CambiarCelda(Rejilla rejilla, long fila, int columna, const std::string& texto,
                            std::optional<double> numero);
     // The value asked for a block of cells, before it goes to each cell: a span type is

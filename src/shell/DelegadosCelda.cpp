@@ -43,10 +43,10 @@ bool EsRetorno(const QEvent* evento) {
     return tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
 }
 
-void BajarUnaFila(QTableWidget& grid) {
-    const int fila = grid.currentRow();
-    if (fila >= 0 && fila + 1 < grid.rowCount())
-        grid.setCurrentCell(fila + 1, grid.currentColumn());
+void BajarUnaFila(QTableView& grid) {
+    const QModelIndex actual = grid.currentIndex();
+    const QModelIndex abajo = actual.sibling(actual.row() + 1, actual.column());
+    if (actual.isValid() && abajo.isValid()) grid.setCurrentIndex(abajo);
 }
 
 QTableWidgetItem& ItemDe(QTableWidget& grid, int fila, int columna) {
@@ -278,9 +278,89 @@ bool DelegadoNumero::eventFilter(QObject* objeto, QEvent* evento) {
     return false;
 }
 
-DelegadoMarca::DelegadoMarca(QTableWidget& grid, int columna, AlMarcar alMarcar)
-    : QStyledItemDelegate(&grid), grid_(grid), alMarcar_(std::move(alMarcar)) {
-    grid_.setItemDelegateForColumn(columna - 1, this);
+DelegadoCelda::DelegadoCelda(QTableView& vista, ModeloCeldas& modelo)
+    : QStyledItemDelegate(&vista), vista_(vista), modelo_(modelo) {
+    vista_.setItemDelegate(this);
+    vista_.installEventFilter(this);
+}
+
+QWidget* DelegadoCelda::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                     const QModelIndex& index) const {
+    // A line of text for every cell: the value is typed as the cell shows it.
+    auto* linea = new QLineEdit(parent);
+    linea->setFrame(false);
+    const ColumnaCelda& columna = modelo_.Columna(index.column() + 1);
+    if (const auto& formato = columna.Formato) {
+        linea->setValidator(new QRegularExpressionValidator(
+            PatronNumero(formato->ConSigno, modelo_.Decimal(), modelo_.Miles()), linea));
+        linea->setAlignment(columna.Centrada ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
+    }
+    return linea;
+}
+
+void DelegadoCelda::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    auto* linea = qobject_cast<QLineEdit*>(editor);
+    if (!linea) return QStyledItemDelegate::setEditorData(editor, index);
+    linea->setText(index.data(Qt::DisplayRole).toString());
+}
+
+void DelegadoCelda::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                 const QModelIndex& index) const {
+    auto* linea = qobject_cast<QLineEdit*>(editor);
+    if (!linea) return QStyledItemDelegate::setModelData(editor, model, index);
+    model->setData(index, linea->text(), Qt::EditRole);
+}
+
+bool DelegadoCelda::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto != &vista_) {
+        auto* editor = qobject_cast<QWidget*>(objeto);
+        if (editor && EsRetorno(evento)) {
+            emit commitData(editor);
+            emit closeEditor(editor, QAbstractItemDelegate::NoHint);
+            BajarUnaFila(vista_);
+            return true;
+        }
+        return QStyledItemDelegate::eventFilter(objeto, evento);
+    }
+    if (evento->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(evento)->matches(QKeySequence::Paste)) {
+        const QModelIndex actual = vista_.currentIndex();
+        modelo_.Pegar(std::max(actual.row(), 0) + 1, std::max(actual.column(), 0) + 1,
+                      QGuiApplication::clipboard()->text());
+        return true;
+    }
+    if (EsRetorno(evento)) { // the grid has the focus: no cell is being edited
+        BajarUnaFila(vista_);
+        return true;
+    }
+    return false;
+}
+
+void MostrarModelo(Programa& programa, QTableView& vista, ModeloCeldas& modelo) {
+    vista.setModel(&modelo);
+    new DelegadoCelda(vista, modelo);
+    for (int c = 1; c <= modelo.columnCount(); ++c)
+        if (modelo.Columna(c).Marca) new DelegadoMarca(vista, c);
+    vista.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                          QAbstractItemView::AnyKeyPressed);
+    QObject::connect(&modelo, &ModeloCeldas::Respuesta, &vista,
+                     [&programa](const Veredicto& v) { MostrarVeredicto(programa, v); });
+}
+
+void MostrarVeredicto(Programa& programa, const Veredicto& veredicto) {
+    if (veredicto.Aviso) programa.Dialogo().Mensaje(*veredicto.Aviso);
+    if (veredicto.Pitido) QApplication::beep();
+}
+
+ModeloCeldas& Modelo(const QTableView& vista) {
+    auto* modelo = qobject_cast<ModeloCeldas*>(vista.model());
+    assert(modelo && "the grid shows a ModeloCeldas");
+    return *modelo;
+}
+
+DelegadoMarca::DelegadoMarca(QAbstractItemView& grid, int columna, AlMarcar alMarcar)
+    : QStyledItemDelegate(&grid), alMarcar_(std::move(alMarcar)) {
+    grid.setItemDelegateForColumn(columna - 1, this);
 }
 
 void DelegadoMarca::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -355,18 +435,17 @@ void FormatoCeldas(QTableWidget& grid, int col1, int row1, int col2, int row2, i
     Delegado(grid).Formato(col1, row1, col2, row2, decimales, conSigno);
 }
 
-double ValorCelda(const QTableWidget& grid, int fila, int columna) {
-    const QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
-    return item ? item->data(Qt::EditRole).toDouble() : 0.0;
+double ValorCelda(const QAbstractItemView& grid, int fila, int columna) {
+    return grid.model()->index(fila - 1, columna - 1).data(Qt::EditRole).toDouble();
 }
 
 void ColocarTextoCelda(QTableWidget& grid, int fila, int columna, const QString& texto) {
     ItemDe(grid, fila, columna).setText(texto);
 }
 
-bool CeldaMarcada(const QTableWidget& grid, int fila, int columna) {
-    const QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
-    return item && item->checkState() == Qt::Checked;
+bool CeldaMarcada(const QAbstractItemView& grid, int fila, int columna) {
+    return grid.model()->index(fila - 1, columna - 1).data(Qt::CheckStateRole).toInt() ==
+           Qt::Checked;
 }
 
 void MarcarCelda(QTableWidget& grid, int fila, int columna, bool marcada) {

@@ -39,17 +39,10 @@
 #include <vector>
 
 #include "editing/EdicionViga.h"
+#include "shell/ModeloCeldas.h"
 #include "shell/Programa.h"
 
 namespace trevalo {
-
-// A value entered in a cell, as the form's rule sees it.
-struct Celda {
-    int Fila = 0;
-    int Columna = 0;
-    QString Texto;                // trimmed
-    std::optional<double> Numero; // nothing for an empty text or a text column
-};
 
 class DelegadoNumero : public QStyledItemDelegate {
     Q_OBJECT
@@ -126,6 +119,41 @@ class DelegadoNumero : public QStyledItemDelegate {
     bool ocupado_ = false; // an entry is being applied
 };
 
+// The cells of a grid over a ModeloCeldas: a line of text in which a value is typed as the
+// cell shows it, held to the column's pattern of a number; the model takes it. Enter in the
+// editor commits and moves to the next row, as it does with no editor open; F2 edits; Ctrl+V
+// pastes from the current cell.
+class DelegadoCelda : public QStyledItemDelegate {
+    Q_OBJECT
+
+  public:
+    DelegadoCelda(QTableView& vista, ModeloCeldas& modelo);
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override;
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+  private:
+    QTableView& vista_;
+    ModeloCeldas& modelo_;
+};
+
+// Makes `vista` show `modelo` as the program's grids do: DelegadoCelda on the cells and
+// DelegadoMarca on the check columns, editing on any key, and what the model has to say shown
+// through the program's dialogs.
+void MostrarModelo(Programa& programa, QTableView& vista, ModeloCeldas& modelo);
+
+// Shows what an entry has to say: its message, then its beep.
+void MostrarVeredicto(Programa& programa, const Veredicto& veredicto);
+
+// The model of a grid made by MostrarModelo.
+ModeloCeldas& Modelo(const QTableView& vista);
+
 // A column of check cells: a centred box, ticked by a click or the space bar; the form hears
 // each tick through the hook. The mark lives in the item's check state.
 class DelegadoMarca : public QStyledItemDelegate {
@@ -134,7 +162,7 @@ class DelegadoMarca : public QStyledItemDelegate {
   public:
     using AlMarcar = std::function<void(int fila, bool marcada)>;
 
-    DelegadoMarca(QTableWidget& grid, int columna, AlMarcar alMarcar);
+    DelegadoMarca(QAbstractItemView& grid, int columna, AlMarcar alMarcar = {});
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -142,7 +170,6 @@ class DelegadoMarca : public QStyledItemDelegate {
                      const QModelIndex& index) override;
 
   private:
-    QTableWidget& grid_;
     AlMarcar alMarcar_;
 };
 
@@ -162,9 +189,9 @@ void FormatoCeldas(QTableWidget& grid, int col1, int row1, int col2, int row2, i
                    bool conSigno);
 
 // Cells by the forms' numbering; an empty cell reads 0.
-double ValorCelda(const QTableWidget& grid, int fila, int columna);
+double ValorCelda(const QAbstractItemView& grid, int fila, int columna);
 void ColocarTextoCelda(QTableWidget& grid, int fila, int columna, const QString& texto);
-bool CeldaMarcada(const QTableWidget& grid, int fila, int columna);
+bool CeldaMarcada(const QAbstractItemView& grid, int fila, int columna);
 void MarcarCelda(QTableWidget& grid, int fila, int columna, bool marcada);
 // The background of a row, colour 0xBBGGRR.
 void ColorFila(QTableWidget& grid, int fila, std::int32_t color);

@@ -17,12 +17,13 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTableWidget>
+#include <QTableView>
 #include <QToolBar>
 #include <QUndoStack>
 #include <QVBoxLayout>
 
 #include "drawing/OperacionesVista.h"
+#include "platform/lienzos/LienzoQt.h"
 #include "shell/CampoNumero.h"
 #include "shell/Carga01.h"
 #include "shell/Carga02.h"
@@ -45,8 +46,7 @@ namespace trevalo {
 
 namespace {
 
-constexpr std::int32_t ColorMarcado = 0xB9ECFF;
-constexpr std::int32_t ColorBlanco = 0xFFFFFF;
+constexpr std::int32_t ColorMarcado = 0xB9ECFF; // a marked span's row
 
 Pregunta Aviso(const std::string& texto, const std::string& titulo) {
     return {texto, titulo, BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1};
@@ -60,24 +60,100 @@ template <typename T> T En(const Arreglo<T>& a, long i) {
 // What a count box shows of its change: the grid its Return leads to, the grids written again
 // and whether the drawing follows.
 struct CajaCuenta {
-    int destino;
-    std::vector<int> grids;
+    Rejilla destino;
     bool redibujar;
 };
 
 const CajaCuenta Cajas[8] = {{},
-                             {2, {1, 2, 7, 10}, true},
-                             {3, {3}, true},
-                             {4, {4}, true},
-                             {5, {5}, true},
-                             {6, {6, 7}, true},
-                             {8, {8, 9}, false},
-                             {11, {11}, false}};
+                             {Rejilla::Longitudes, true},
+                             {Rejilla::Desplazadas, true},
+                             {Rejilla::Restringidas, true},
+                             {Rejilla::Resortes, true},
+                             {Rejilla::TiposConcreto, true},
+                             {Rejilla::TiposMetalicos, false},
+                             {Rejilla::Acciones, false}};
 
-// The caption over the row headers of the grids that have one.
-const std::pair<int, const char*> Esquinas[] = {{1, "No"},     {2, "Tramo"}, {6, "Tipo"},
-                                                {7, "Tramo"},  {8, "Tipo"},  {9, "Tramo"},
-                                                {10, "Tramo"}, {12, "Junta"}};
+// The columns of the editor's grids.
+ColumnaCelda ColumnaTexto(const char* titulo) {
+    return {QString::fromUtf8(titulo), std::nullopt, false, false};
+}
+ColumnaCelda ColumnaNumero(const char* titulo, int decimales, bool conSigno = false,
+                           bool centrada = false) {
+    return {QString::fromUtf8(titulo), FormatoCelda{decimales, conSigno}, centrada, false};
+}
+// A joint's or a type's number.
+ColumnaCelda ColumnaEntero(const char* titulo) {
+    return ColumnaNumero(titulo, 0, false, true);
+}
+
+// A grid of the editor: its list, accessible name, columns and the caption over its row
+// headers (none: the row's number, without caption).
+struct DefinicionRejilla {
+    Rejilla lista;
+    const char* nombre;
+    std::vector<ColumnaCelda> columnas;
+    const char* esquina;
+};
+
+const DefinicionRejilla Rejillas[] = {
+    {Rejilla::NombresEje, "Nombres de los Ejes", {ColumnaTexto("Nombre Eje")}, "No"},
+    {Rejilla::Longitudes, "Longitud de los Tramos", {ColumnaNumero("Longitud", 2)}, "Tramo"},
+    {Rejilla::Desplazadas,
+     "Juntas Desplazadas",
+     {ColumnaEntero("Junta"), ColumnaNumero("Delta X", 2, true), ColumnaNumero("Delta Y", 2, true)},
+     nullptr},
+    {Rejilla::Restringidas,
+     "Juntas Restringidas",
+     {ColumnaEntero("Junta"), ColumnaEntero("Apoyo\nTipo")},
+     nullptr},
+    {Rejilla::Resortes,
+     "Juntas con Resortes",
+     {ColumnaEntero("Junta"), ColumnaNumero("Rdx\n(kgf/m)", 0, true),
+      ColumnaNumero("Rdy\n(kgf/m)", 0, true), ColumnaNumero("Rdz\n(kgf-m/rad)", 0, true)},
+     nullptr},
+    {Rejilla::TiposConcreto,
+     "Tipos de Vigas de Concreto",
+     {ColumnaNumero("B (m)", 2), ColumnaNumero("H (m)", 2)},
+     "Tipo"},
+    {Rejilla::TipoTramoConcreto,
+     "Tipos de Viga por Tramo (Concreto)",
+     {ColumnaEntero("Viga Tipo")},
+     "Tramo"},
+    {Rejilla::TiposMetalicos,
+     "Tipos de Vigas Metálicas",
+     {ColumnaTexto("Designación"), ColumnaNumero("Area\n(cm²)", 2),
+      ColumnaNumero("Inercia\n(cm⁴)", 2)},
+     "Tipo"},
+    {Rejilla::TipoTramoMetalico,
+     "Tipos de Viga por Tramo (Metálica)",
+     {ColumnaEntero("Viga Tipo")},
+     "Tramo"},
+    {Rejilla::TramosCargados,
+     "Tramos con Cargas",
+     {{QStringLiteral("Cargas"), std::nullopt, true, true}},
+     "Tramo"},
+    {Rejilla::Acciones,
+     "Acciones Nodales",
+     {ColumnaEntero("Junta"), ColumnaNumero("Momento\n(kgf-m)", 0, true),
+      ColumnaNumero("Vertical\n(kgf)", 0, true), ColumnaNumero("Horizontal\n(kgf)", 0, true)},
+     nullptr},
+    {Rejilla::Acotamientos,
+     "Acotamiento en los Apoyos",
+     {ColumnaNumero("L(Izq)", 2), ColumnaNumero("L(Der)", 2), ColumnaNumero("H", 2)},
+     "Junta"},
+};
+
+QVariant ComoVariante(double v) {
+    return v;
+}
+QVariant ComoVariante(const std::string& texto) {
+    return Qs(texto);
+}
+
+bool FilasDeTramos(Rejilla r) {
+    return r == Rejilla::Longitudes || r == Rejilla::TipoTramoConcreto ||
+           r == Rejilla::TipoTramoMetalico || r == Rejilla::TramosCargados;
+}
 
 const Herramienta Herramientas[] = {
     {"ID_ZoomIN", "Acercar", false},
@@ -91,9 +167,9 @@ const Herramienta Herramientas[] = {
     {"ID_DAbajo", "Mover Abajo", false},
 };
 
-// The input box of a block: grid, column, prompt, title, and the title of its error box.
+// The input box of a block: list, column, prompt, title, and the title of its error box.
 struct Bloque {
-    int spread;
+    Rejilla lista;
     int columna;
     const char* texto;
     const char* titulo;
@@ -101,20 +177,26 @@ struct Bloque {
 };
 
 const Bloque Bloques[] = {
-    {2, 1, "Entre la Longitud de los Tramos (m):", "Longitud de los Tramos",
+    {Rejilla::Longitudes, 1, "Entre la Longitud de los Tramos (m):", "Longitud de los Tramos",
      "Longitud de los Tramos"},
-    {3, 2, "Entre el Desplazamiento (m) Y:", "Desplazamiento de las Juntas",
+    {Rejilla::Desplazadas, 2, "Entre el Desplazamiento (m) Y:", "Desplazamiento de las Juntas",
      "Longitud de los Tramos"},
-    {3, 3, "Entre el Desplazamiento (m) Y:", "Desplazamiento de las Juntas",
+    {Rejilla::Desplazadas, 3, "Entre el Desplazamiento (m) Y:", "Desplazamiento de las Juntas",
      "Longitud de los Tramos"},
-    {5, 2, "Rigidez Horizontal del Resorte RdX:", "Entre el Valor", "Apoyos con Resortes"},
-    {5, 3, "Rigidez Vertical del Resorte RdY:", "Entre el Valor", "Apoyos con Resortes"},
-    {5, 4, "Rigidez Rotacional del Resorte RdZ:", "Entre el Valor", "Apoyos con Resortes"},
-    {7, 1, "Tipos de Vigas:", "Tipos de Viga", "Tipos de Vigas"},
-    {9, 1, "Tipos de Vigas:", "Tipos de Viga", "Tipos de Vigas"},
-    {12, 1, "Acotamiento a la Izquierda LIqz:", "Entre el Valor", "Acotamientos para Korvel-CAD"},
-    {12, 2, "Acotamiento a la Derecha LDer:", "Entre el Valor", "Acotamientos para Korvel-CAD"},
-    {12, 3, "Altura de la Viga H:", "Entre el Valor", "Acotamientos para Korvel-CAD"},
+    {Rejilla::Resortes, 2, "Rigidez Horizontal del Resorte RdX:", "Entre el Valor",
+     "Apoyos con Resortes"},
+    {Rejilla::Resortes, 3, "Rigidez Vertical del Resorte RdY:", "Entre el Valor",
+     "Apoyos con Resortes"},
+    {Rejilla::Resortes, 4, "Rigidez Rotacional del Resorte RdZ:", "Entre el Valor",
+     "Apoyos con Resortes"},
+    {Rejilla::TipoTramoConcreto, 1, "Tipos de Vigas:", "Tipos de Viga", "Tipos de Vigas"},
+    {Rejilla::TipoTramoMetalico, 1, "Tipos de Vigas:", "Tipos de Viga", "Tipos de Vigas"},
+    {Rejilla::Acotamientos, 1, "Acotamiento a la Izquierda LIqz:", "Entre el Valor",
+     "Acotamientos para Korvel-CAD"},
+    {Rejilla::Acotamientos, 2, "Acotamiento a la Derecha LDer:", "Entre el Valor",
+     "Acotamientos para Korvel-CAD"},
+    {Rejilla::Acotamientos, 3, "Altura de la Viga H:", "Entre el Valor",
+     "Acotamientos para Korvel-CAD"},
 };
 
 // The load buttons: name, caption, and the title and text of the warning with no span marked.
@@ -201,7 +283,6 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
         CopiarMovimientos();
     }
     viga.VigaNueva = false;
-    ConfigurarSpread();
     ColoquePantalla();
     programa_.Vista.ModoEditor = true;
     IrA(1, false);
@@ -243,24 +324,53 @@ QPushButton* VigaDatos::CrearBoton(const char* nombre, const char* titulo) {
     return b;
 }
 
-QTableWidget* VigaDatos::CrearSpread(int n, const QString& nombre, const QStringList& columnas) {
-    auto* grid = new QTableWidget(0, static_cast<int>(columnas.size()), this);
+QTableView* VigaDatos::CrearRejilla(Rejilla lista) {
+    const DefinicionRejilla& d = Rejillas[static_cast<int>(lista) - 1];
+    const int n = static_cast<int>(lista);
+    auto* grid = new QTableView(this);
     grid->setObjectName(QStringLiteral("Spread%1").arg(n));
-    grid->setAccessibleName(nombre);
-    grid->setHorizontalHeaderLabels(columnas);
+    grid->setAccessibleName(QString::fromUtf8(d.nombre));
+    AccesoCeldas acceso;
+    acceso.Filas = [this, lista] { return static_cast<int>(edicion_.Filas(lista)); };
+    acceso.Leer = [this, lista](int fila, int columna) {
+        return std::visit([](const auto& v) { return ComoVariante(v); },
+                          edicion_.Leer(lista, fila, columna));
+    };
+    acceso.Escribir = [this, lista](const Celda& c) { return ReglaCelda(lista, c); };
+    if (FilasDeTramos(lista))
+        acceso.RotuloFila = [this](int tramo) { return Qs(edicion_.RotuloTramo(tramo)); };
+    if (lista == Rejilla::TramosCargados)
+        acceso.Fondo = [this](int tramo) -> std::optional<QColor> {
+            if (std::get<double>(edicion_.Leer(Rejilla::TramosCargados, tramo, 1)) == 0)
+                return std::nullopt;
+            return ColorQt(static_cast<Color>(ColorMarcado));
+        };
+    // A paste grows the lists that have a count box, within its limits.
+    for (int caja = 2; caja <= 7; ++caja)
+        if (Cajas[caja].destino == lista)
+            acceso.Crecer = [this, caja](int filas) {
+                Long(caja).setText(QString::number(filas));
+                ValorLong(caja);
+                return true;
+            };
+    const auto& carpetas = programa_.Carpetas;
+    modelos_[static_cast<std::size_t>(n)] = new ModeloCeldas(
+        d.columnas, std::move(acceso), carpetas.SeparadorDecimal, carpetas.SeparadorMiles, grid);
+    MostrarModelo(programa_, *grid, Modelo(lista));
     grid->verticalHeader()->setDefaultSectionSize(20);
     grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     grid->setSelectionMode(QAbstractItemView::ContiguousSelection);
     grid->setTabKeyNavigation(false);
-    auto* delegado = new DelegadoNumero(programa_, *grid);
-    delegado->ColocarRegla([this, n](const Celda& c) { return ReglaCelda(n, c); });
+    if (d.esquina) EsquinaNo(*grid, QString::fromUtf8(d.esquina));
     // Installed after the delegate's, so that this window sees a paste first.
     grid->installEventFilter(this);
     grid->viewport()->installEventFilter(this);
-    connect(grid->horizontalHeader(), &QHeaderView::sectionClicked, this, [this, n](int columna) {
-        if (Spread(n).rowCount() > 0) EntradaBloque(n, 1, Spread(n).rowCount(), columna + 1);
-    });
-    spread_[static_cast<std::size_t>(n)] = grid;
+    connect(grid->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this, lista](int columna) {
+                if (const int filas = Modelo(lista).Filas(); filas > 0)
+                    EntradaBloque(lista, 1, filas, columna + 1);
+            });
+    rejillas_[static_cast<std::size_t>(n)] = grid;
     return grid;
 }
 
@@ -313,10 +423,8 @@ QWidget* VigaDatos::PaginaTramos() {
     capas->addLayout(Rotulado(QStringLiteral("Número de Tramos = "),
                               CrearLong(1, QStringLiteral("Número de Tramos = "))));
     auto* grids = new QHBoxLayout;
-    grids->addWidget(
-        CrearSpread(1, QStringLiteral("Nombres de los Ejes"), {QStringLiteral("Nombre Eje")}));
-    grids->addWidget(
-        CrearSpread(2, QStringLiteral("Longitud de los Tramos"), {QStringLiteral("Longitud")}));
+    grids->addWidget(CrearRejilla(Rejilla::NombresEje));
+    grids->addWidget(CrearRejilla(Rejilla::Longitudes));
     capas->addLayout(grids, 1);
     return Marco(QStringLiteral("Datos Generales de los Tramos"), capas);
 }
@@ -325,10 +433,7 @@ QWidget* VigaDatos::PaginaDesplazadas() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas Desplazadas = "),
                               CrearLong(2, QStringLiteral("Juntas Desplazadas = "))));
-    capas->addWidget(CrearSpread(3, QStringLiteral("Juntas Desplazadas"),
-                                 {QStringLiteral("Junta"), QStringLiteral("Delta X"),
-                                  QStringLiteral("Delta Y")}),
-                     1);
+    capas->addWidget(CrearRejilla(Rejilla::Desplazadas), 1);
     return Marco(QStringLiteral("Juntas Desplazadas en la Viga"), capas);
 }
 
@@ -337,9 +442,7 @@ QWidget* VigaDatos::PaginaRestringidas() {
     capas->addLayout(Rotulado(QStringLiteral("Juntas Restringidas = "),
                               CrearLong(3, QStringLiteral("Juntas Restringidas = "))));
     auto* fila = new QHBoxLayout;
-    fila->addWidget(CrearSpread(4, QStringLiteral("Juntas Restringidas"),
-                                {QStringLiteral("Junta"), QStringLiteral("Apoyo\nTipo")}),
-                    1);
+    fila->addWidget(CrearRejilla(Rejilla::Restringidas), 1);
     auto* apoyos = new QVBoxLayout;
     const char* const nombres[] = {"ButtonP1", "ButtonP2", "ButtonP3", "ButtonP4"};
     const char* const titulos[] = {" Apoyo Fijo ", " Rodillo en X ", " Rodillo en Y ",
@@ -359,11 +462,7 @@ QWidget* VigaDatos::PaginaResortes() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas con Resortes = "),
                               CrearLong(4, QStringLiteral("Juntas con Resortes = "))));
-    capas->addWidget(
-        CrearSpread(5, QStringLiteral("Juntas con Resortes"),
-                    {QStringLiteral("Junta"), QStringLiteral("Rdx\n(kgf/m)"),
-                     QStringLiteral("Rdy\n(kgf/m)"), QStringLiteral("Rdz\n(kgf-m/rad)")}),
-        1);
+    capas->addWidget(CrearRejilla(Rejilla::Resortes), 1);
     return Marco(QStringLiteral("Juntas Restringidas con Resortes"), capas);
 }
 
@@ -371,13 +470,9 @@ QWidget* VigaDatos::PaginaTiposConcreto() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Tipos de Vigas = "),
                               CrearLong(5, QStringLiteral("Tipos de Vigas = "))));
-    capas->addWidget(CrearSpread(6, QStringLiteral("Tipos de Vigas de Concreto"),
-                                 {QStringLiteral("B (m)"), QStringLiteral("H (m)")}),
-                     1);
+    capas->addWidget(CrearRejilla(Rejilla::TiposConcreto), 1);
     capas->addWidget(new QLabel(QStringLiteral("Entre los Tipos de Vigas por Tramo")));
-    capas->addWidget(CrearSpread(7, QStringLiteral("Tipos de Viga por Tramo (Concreto)"),
-                                 {QStringLiteral("Viga Tipo")}),
-                     1);
+    capas->addWidget(CrearRejilla(Rejilla::TipoTramoConcreto), 1);
     return Marco(QStringLiteral("Tipos de Viga por Tramo (Concreto Armado)"), capas);
 }
 
@@ -389,13 +484,8 @@ QWidget* VigaDatos::PaginaTiposMetalicos() {
     connect(perfiles, &QPushButton::clicked, this, &VigaDatos::PerfilesMetalicos);
     cuenta->addWidget(perfiles);
     capas->addLayout(cuenta);
-    capas->addWidget(CrearSpread(8, QStringLiteral("Tipos de Vigas Metálicas"),
-                                 {QStringLiteral("Designación"), QStringLiteral("Area\n(cm²)"),
-                                  QStringLiteral("Inercia\n(cm⁴)")}),
-                     1);
-    capas->addWidget(CrearSpread(9, QStringLiteral("Tipos de Viga por Tramo (Metálica)"),
-                                 {QStringLiteral("Viga Tipo")}),
-                     1);
+    capas->addWidget(CrearRejilla(Rejilla::TiposMetalicos), 1);
+    capas->addWidget(CrearRejilla(Rejilla::TipoTramoMetalico), 1);
     return Marco(QStringLiteral("Tipos de Viga por Tramo (Perfiles Metálicos)"), capas);
 }
 
@@ -414,10 +504,7 @@ QWidget* VigaDatos::PaginaCargas() {
     capas->addLayout(Rotulado(QStringLiteral("Factor de Mayoración ="), double1_));
     capas->addWidget(new QLabel(QStringLiteral("Seleccione los Tramos para entrar las Cargas")));
     auto* fila = new QHBoxLayout;
-    QTableWidget* marcas =
-        CrearSpread(10, QStringLiteral("Tramos con Cargas"), {QStringLiteral("Cargas")});
-    new DelegadoMarca(*marcas, 1, [this](int f, bool m) { Marcar(f, m); });
-    fila->addWidget(marcas, 1);
+    fila->addWidget(CrearRejilla(Rejilla::TramosCargados), 1);
     auto* cargas = new QVBoxLayout;
     for (int i = 0; i < 8; ++i) {
         QPushButton* b = CrearBoton(BotonesCarga[i].nombre, BotonesCarga[i].titulo);
@@ -446,20 +533,13 @@ QWidget* VigaDatos::PaginaAcciones() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas con Acciones Nodales = "),
                               CrearLong(7, QStringLiteral("Juntas con Acciones Nodales = "))));
-    capas->addWidget(
-        CrearSpread(11, QStringLiteral("Acciones Nodales"),
-                    {QStringLiteral("Junta"), QStringLiteral("Momento\n(kgf-m)"),
-                     QStringLiteral("Vertical\n(kgf)"), QStringLiteral("Horizontal\n(kgf)")}),
-        1);
+    capas->addWidget(CrearRejilla(Rejilla::Acciones), 1);
     return Marco(QStringLiteral("Acciones Nodales en las Juntas"), capas);
 }
 
 QWidget* VigaDatos::PaginaAcotamiento() {
     auto* capas = new QVBoxLayout;
-    capas->addWidget(
-        CrearSpread(12, QStringLiteral("Acotamiento en los Apoyos"),
-                    {QStringLiteral("L(Izq)"), QStringLiteral("L(Der)"), QStringLiteral("H")}),
-        1);
+    capas->addWidget(CrearRejilla(Rejilla::Acotamientos), 1);
     return Marco(QStringLiteral("Acotamiento de la Viga en los Apoyos (Korvel-CAD 8.0)"), capas);
 }
 
@@ -566,106 +646,6 @@ int VigaDatos::Pagina() const {
 
 // --- Grids ---------------------------------------------------------------------------------
 
-void VigaDatos::ConfigurarSpread() {
-    const auto formato = [this](int n, int c1, int c2, int decimales, bool signo) {
-        FormatoCeldas(Spread(n), c1, -1, c2, -1, decimales, signo);
-    };
-    formato(2, 1, 1, 2, false);
-    formato(3, 1, 1, 0, false);
-    formato(3, 2, 3, 2, true);
-    formato(4, 1, 2, 0, false);
-    formato(5, 1, 1, 0, false);
-    formato(5, 2, 4, 0, true);
-    formato(6, 1, 2, 2, false);
-    formato(7, 1, 1, 0, false);
-    formato(8, 2, 3, 2, false);
-    formato(9, 1, 1, 0, false);
-    formato(11, 1, 1, 0, false);
-    formato(11, 2, 4, 0, true);
-    formato(12, 1, 3, 2, false);
-    for (int n : {3, 4, 5, 11}) Delegado(Spread(n)).Centrar(1);
-    for (int n : {4, 7, 9}) Delegado(Spread(n)).Centrar(n == 4 ? 2 : 1);
-    for (const auto& [n, rotulo] : Esquinas) EsquinaNo(Spread(n), QString::fromUtf8(rotulo));
-    Spread(10).setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // A paste grows the lists that have a count box, within its limits.
-    for (int caja = 2; caja <= 7; ++caja)
-        Delegado(Spread(Cajas[caja].destino)).ColocarCrecimiento([this, caja](int filas) {
-            Long(caja).setText(QString::number(filas));
-            ValorLong(caja);
-            return true;
-        });
-}
-
-void VigaDatos::EncabezadosTramos(QTableWidget& grid) {
-    const VigaActual& v = programa_.Viga;
-    QStringList rotulos;
-    for (long i = 1; i <= v.NT; ++i)
-        rotulos << Qs(En(v.NombreEje, i) + " - " + En(v.NombreEje, i + 1));
-    grid.setVerticalHeaderLabels(rotulos);
-}
-
-void VigaDatos::LlenarSpread(int n) {
-    const VigaActual& v = programa_.Viga;
-    QTableWidget& g = Spread(n);
-    const QSignalBlocker bloqueo(&g);
-    DelegadoNumero& d = Delegado(g);
-    const auto filas = [&g](long k) { g.setRowCount(static_cast<int>(std::max(k, 0L))); };
-    const auto columnas = [&](long k, auto&... listas) {
-        filas(k);
-        for (int i = 1; i <= k; ++i) {
-            int c = 0;
-            (d.ColocarValor(i, ++c, static_cast<double>(En(listas, i))), ...);
-        }
-    };
-    switch (n) {
-    case 1:
-        filas(v.NT + 1);
-        for (int i = 1; i <= v.NT + 1; ++i) ColocarTextoCelda(g, i, 1, Qs(En(v.NombreEje, i)));
-        return;
-    case 2:
-        return columnas(v.NT, v.LT);
-    case 3:
-        return columnas(v.NJDesp, v.R3, v.XX, v.YY);
-    case 4:
-        return columnas(v.NJRest, v.R1, v.Apoyo);
-    case 5:
-        return columnas(v.NJRes, v.R10, v.SH10, v.SV10, v.SM10);
-    case 6:
-        return columnas(v.NTipos, v.B1, v.T1);
-    case 7:
-    case 9:
-        columnas(v.NT, v.VT);
-        return EncabezadosTramos(g);
-    case 8:
-        filas(v.NTipos);
-        for (int i = 1; i <= v.NTipos; ++i) {
-            ColocarTextoCelda(g, i, 1, Qs(En(v.Designacion, i)));
-            d.ColocarValor(i, 2, En(v.B1, i));
-            d.ColocarValor(i, 3, En(v.T1, i));
-        }
-        return;
-    case 10:
-        return LlenarMarcas();
-    case 11:
-        return columnas(v.NAcc, v.R2, v.QC1, v.QC2, v.QC3);
-    case 12:
-        return columnas(v.NT + 1, v.LIzq, v.LDer, v.HC);
-    }
-}
-
-void VigaDatos::LlenarMarcas() {
-    const VigaActual& v = programa_.Viga;
-    QTableWidget& g = Spread(10);
-    const QSignalBlocker bloqueo(&g);
-    g.setRowCount(std::max<int>(v.NT, 0));
-    for (int i = 1; i <= v.NT; ++i) {
-        const bool marcado = En(v.TramoMarcado, i);
-        MarcarCelda(g, i, 1, marcado);
-        ColorFila(g, i, marcado ? ColorMarcado : ColorBlanco);
-    }
-    EncabezadosTramos(g);
-}
-
 void VigaDatos::MostrarCuenta(int n) {
     Long(n).setText(QString::number(edicion_.Valor(static_cast<Cuenta>(n))));
 }
@@ -683,8 +663,7 @@ void VigaDatos::MostrarViga() {
         cargando_ = cargando;
     }
     double1_->ColocarValor(programa_.Viga.FMayoracion);
-    for (int n = 1; n <= 12; ++n) LlenarSpread(n);
-    EncabezadosTramos(Spread(2));
+    Recargar();
     for (int n = 1; n <= 7; ++n) MostrarCuenta(n);
 }
 
@@ -703,11 +682,12 @@ void VigaDatos::IrA(int pagina, bool juntas) {
 }
 
 bool VigaDatos::LongitudesValidas() {
-    QTableWidget& g = Spread(2);
-    for (int i = 1; i <= g.rowCount(); ++i) {
-        if (ValorCelda(g, i, 1) != 0) continue;
+    const ModeloCeldas& longitudes = Modelo(Rejilla::Longitudes);
+    for (int i = 1; i <= longitudes.Filas(); ++i) {
+        if (longitudes.Valor(i, 1) != 0) continue;
+        QTableView& g = Vista(Rejilla::Longitudes);
         g.setFocus();
-        g.setCurrentCell(i - 1, 0);
+        g.setCurrentIndex(longitudes.index(i - 1, 0));
         programa_.Dialogo().Mensaje(Aviso(
             "¡No pueden existir Tramos con Longitud igual a Cero (0)!", "Longitud de los Tramos"));
         return false;
@@ -772,7 +752,7 @@ void VigaDatos::Anterior() {
 
 void VigaDatos::TerminarLong(int n, bool retorno) {
     if (cambiando_ == 1) ValorLong(n);
-    if (retorno) Spread(Cajas[n].destino).setFocus();
+    if (retorno) Vista(Cajas[n].destino).setFocus();
 }
 
 void VigaDatos::ValorLong(int n) {
@@ -781,8 +761,7 @@ void VigaDatos::ValorLong(int n) {
         edicion_.CambiarCuenta(static_cast<Cuenta>(n), Long(n).text().toLong());
     if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
     if (!veredicto.Aceptado || veredicto.Valor) MostrarCuenta(n);
-    if (veredicto.Aceptado)
-        for (int g : Cajas[n].grids) LlenarSpread(g);
+    if (veredicto.Aceptado) Recargar();
     // A refused count of spans redraws too; a refused count of joints does not.
     if (Cajas[n].redibujar && (veredicto.Aceptado || !veredicto.Aviso)) Redibujar();
     Registrar(Long(n).accessibleName().remove(QLatin1Char('=')).trimmed());
@@ -790,36 +769,36 @@ void VigaDatos::ValorLong(int n) {
 
 // --- Cells ---------------------------------------------------------------------------------
 
-Veredicto VigaDatos::ReglaCelda(int n, const Celda& celda) {
-    const Veredicto veredicto = edicion_.CambiarCelda(
-        static_cast<Rejilla>(n), celda.Fila, celda.Columna, Std(celda.Texto), celda.Numero);
+Veredicto VigaDatos::ReglaCelda(Rejilla lista, const Celda& celda) {
+    const Veredicto veredicto =
+        edicion_.CambiarCelda(lista, celda.Fila, celda.Columna, Std(celda.Texto), celda.Numero);
     if (!veredicto.Aceptado) return veredicto;
-    if (n == 1)
-        for (int g : {2, 7, 10}) EncabezadosTramos(Spread(g));
+    // A joint's name is in the captions of the span rows.
+    if (lista == Rejilla::NombresEje) Recargar();
     // The dimensions at the supports are not drawn; nor is an emptied spring.
-    const bool resorteVacio = n == 5 && celda.Columna >= 2 && !celda.Numero;
-    if (n != 12 && !resorteVacio) Redibujar();
-    Registrar(Spread(n).accessibleName());
+    const bool resorteVacio = lista == Rejilla::Resortes && celda.Columna >= 2 && !celda.Numero;
+    if (lista != Rejilla::Acotamientos && !resorteVacio) Redibujar();
+    Registrar(Vista(lista).accessibleName());
     return veredicto;
 }
 
-void VigaDatos::BloqueSeleccionado(int n) {
-    const auto rangos = Spread(n).selectedRanges();
-    if (rangos.size() != 1) return;
-    const QTableWidgetSelectionRange& b = rangos.front();
-    if (b.rowCount() * b.columnCount() < 2) return;
-    if (n == 10) return MarcarBloque(b.topRow() + 1, b.bottomRow() + 1);
-    if (b.columnCount() != 1) return; // one value goes down one column
-    EntradaBloque(n, b.topRow() + 1, b.bottomRow() + 1, b.leftColumn() + 1);
+void VigaDatos::BloqueSeleccionado(Rejilla lista) {
+    const QItemSelection seleccion = Vista(lista).selectionModel()->selection();
+    if (seleccion.size() != 1) return;
+    const QItemSelectionRange& b = seleccion.front();
+    if (b.height() * b.width() < 2) return;
+    if (lista == Rejilla::TramosCargados) return MarcarBloque(b.top() + 1, b.bottom() + 1);
+    if (b.width() != 1) return; // one value goes down one column
+    EntradaBloque(lista, b.top() + 1, b.bottom() + 1, b.left() + 1);
 }
 
-void VigaDatos::EntradaBloque(int n, int fila1, int fila2, int columna) {
-    if (n == 10) return MarcarBloque(fila1, fila2);
+void VigaDatos::EntradaBloque(Rejilla lista, int fila1, int fila2, int columna) {
+    if (lista == Rejilla::TramosCargados) return MarcarBloque(fila1, fila2);
     const Bloque* bloque = nullptr;
     for (const Bloque& b : Bloques)
-        if (b.spread == n && b.columna == columna) bloque = &b;
+        if (b.lista == lista && b.columna == columna) bloque = &b;
     if (!bloque) return;
-    QTableWidget& g = Spread(n);
+    QTableView& g = Vista(lista);
     Dialogos& dialogo = programa_.Dialogo();
     const auto respuesta =
         dialogo.Entrada({std::string("\n\n\n\n\n") + bloque->texto, bloque->titulo, "0"});
@@ -831,39 +810,38 @@ void VigaDatos::EntradaBloque(int n, int fila1, int fila2, int columna) {
         dialogo.Mensaje(Aviso("Debe Introducir un Número...    ", bloque->tituloError));
         return;
     }
-    const Veredicto tomado = edicion_.ValorBloque(static_cast<Rejilla>(n), *valor);
+    const Veredicto tomado = edicion_.ValorBloque(lista, *valor);
     if (tomado.Aviso) {
         dialogo.Mensaje(*tomado.Aviso);
         return g.clearSelection();
     }
     if (!tomado.Aceptado) return;
     valor = tomado.Valor.value_or(*valor);
-    agrupando_ = true;
-    Delegado(g).Llenar(fila1, fila2, columna, Delegado(g).Texto(fila1, columna, *valor));
-    agrupando_ = false;
-    if (redibujoPendiente_ && n != 12) Redibujar();
-    redibujoPendiente_ = false;
+    ModeloCeldas& modelo = Modelo(lista);
+    EnGrupo([&] { modelo.Llenar(fila1, fila2, columna, modelo.Texto(columna, *valor)); },
+            lista != Rejilla::Acotamientos);
     Registrar(g.accessibleName());
     g.clearSelection();
 }
 
 void VigaDatos::MarcarBloque(int fila1, int fila2) {
     edicion_.MarcarTramos(fila1, fila2);
-    LlenarMarcas();
+    Modelo(Rejilla::TramosCargados).Recargar();
     Redibujar();
-    Spread(10).clearSelection();
+    Vista(Rejilla::TramosCargados).clearSelection();
 }
 
 // --- Supports, material, factor, loads -----------------------------------------------------
 
 void VigaDatos::ColocarApoyo(int tipo) {
-    QTableWidget& g = Spread(4);
+    QTableView& g = Vista(Rejilla::Restringidas);
+    ModeloCeldas& apoyos = Modelo(Rejilla::Restringidas);
     // With no current cell yet (the page just reached), the first row is the active one.
-    const int fila = std::max(g.currentRow(), 0) + 1;
-    if (fila > g.rowCount()) return g.setFocus();
+    const int fila = std::max(g.currentIndex().row(), 0) + 1;
+    if (fila > apoyos.Filas()) return g.setFocus();
     edicion_.ColocarApoyo(fila, static_cast<std::int16_t>(tipo));
-    Delegado(g).ColocarValor(fila, 2, tipo);
-    if (fila < g.rowCount()) g.setCurrentCell(fila, 1);
+    apoyos.Recargar();
+    if (fila < apoyos.Filas()) g.setCurrentIndex(apoyos.index(fila, 1));
     Redibujar();
     g.setFocus();
     Registrar(QStringLiteral("Juntas Restringidas"));
@@ -883,13 +861,7 @@ void VigaDatos::TerminarFactor(bool retorno) {
         cambiando_ = 0;
         Registrar(QStringLiteral("Factor de Mayoración"));
     }
-    if (retorno) Spread(10).setFocus();
-}
-
-void VigaDatos::Marcar(int fila, bool marcada) {
-    edicion_.Marcar(fila, marcada);
-    ColorFila(Spread(10), fila, marcada ? ColorMarcado : ColorBlanco);
-    Redibujar();
+    if (retorno) Vista(Rejilla::TramosCargados).setFocus();
 }
 
 void VigaDatos::SeleccionarTodos() {
@@ -898,7 +870,7 @@ void VigaDatos::SeleccionarTodos() {
 
 void VigaDatos::DesmarcarTodos() {
     edicion_.DesmarcarTodos();
-    LlenarMarcas();
+    Modelo(Rejilla::TramosCargados).Recargar();
     pantalla_->Limpiar();
     Redibujar();
 }
@@ -906,10 +878,7 @@ void VigaDatos::DesmarcarTodos() {
 void VigaDatos::BandaSoltada(const BandaSeleccion& banda) {
     setUpdatesEnabled(false);
     const std::vector<long> tomados = SeleccioneZoom(programa_.Vista, programa_.Viga, banda);
-    for (long t : tomados) {
-        MarcarCelda(Spread(10), static_cast<int>(t), 1, true);
-        ColorFila(Spread(10), static_cast<int>(t), ColorMarcado);
-    }
+    Modelo(Rejilla::TramosCargados).Recargar();
     if (tomados.empty())
         DesmarcarTodos();
     else
@@ -922,7 +891,7 @@ void VigaDatos::BotonCarga(int tipo) {
     if (!tramoCarga) {
         const BotonCargaDef& b = BotonesCarga[tipo - 1];
         programa_.Dialogo().Mensaje(Aviso(b.textoAviso, b.tituloAviso));
-        return Spread(10).setFocus();
+        return Vista(Rejilla::TramosCargados).setFocus();
     }
     if (!MostrarCarga(tipo, *tramoCarga)) return;
     DesmarcarTodos();
@@ -977,12 +946,14 @@ void VigaDatos::PerfilesMetalicos() {
     QApplication::restoreOverrideCursor();
     // A captured section shows in its type's row, and the beam is changed: leaving asks.
     if (ventana.exec() == QDialog::Accepted && ventana.TipoCapturado() > 0) {
-        LlenarSpread(8);
-        Spread(8).setCurrentCell(static_cast<int>(ventana.TipoCapturado()) - 1, 0);
+        ModeloCeldas& tipos = Modelo(Rejilla::TiposMetalicos);
+        tipos.Recargar();
+        Vista(Rejilla::TiposMetalicos)
+            .setCurrentIndex(tipos.index(static_cast<int>(ventana.TipoCapturado()) - 1, 0));
         Redibujar();
         Registrar(QStringLiteral("Capturar Perfil Metálico"));
     }
-    Spread(8).setFocus();
+    Vista(Rejilla::TiposMetalicos).setFocus();
 }
 
 // --- Tools, drawing, saving, leaving -------------------------------------------------------
@@ -1011,6 +982,19 @@ void VigaDatos::Despachar(const QString& clave) {
     }
     setUpdatesEnabled(true);
     if (!cargando_) pantalla_->setFocus();
+}
+
+void VigaDatos::EnGrupo(const std::function<void()>& entradas, bool redibujar) {
+    agrupando_ = true;
+    entradas();
+    agrupando_ = false;
+    if (redibujoPendiente_ && redibujar) Redibujar();
+    redibujoPendiente_ = false;
+}
+
+void VigaDatos::Recargar() {
+    for (ModeloCeldas* m : modelos_)
+        if (m) m->Recargar();
 }
 
 void VigaDatos::Redibujar() {
@@ -1159,16 +1143,20 @@ bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
         if (objeto == double1_) TerminarFactor(false);
         return false;
     }
-    for (int n = 1; n <= 12; ++n) {
-        QTableWidget* g = spread_[static_cast<std::size_t>(n)];
-        if (!g) continue;
+    for (std::size_t n = 1; n < rejillas_.size(); ++n) {
+        QTableView* g = rejillas_[n];
+        if (!g) continue; // the window is being built
+        const auto lista = static_cast<Rejilla>(n);
         if (objeto == g && evento->type() == QEvent::KeyPress &&
             static_cast<QKeyEvent*>(evento)->matches(QKeySequence::Paste)) {
-            agrupando_ = true;
-            Delegado(*g).Pegar(QGuiApplication::clipboard()->text());
-            agrupando_ = false;
-            if (redibujoPendiente_) Redibujar();
-            redibujoPendiente_ = false;
+            const QModelIndex actual = g->currentIndex();
+            EnGrupo(
+                [&] {
+                    Modelo(lista).Pegar(std::max(actual.row(), 0) + 1,
+                                        std::max(actual.column(), 0) + 1,
+                                        QGuiApplication::clipboard()->text());
+                },
+                true);
             Registrar(QStringLiteral("Pegar: ") + g->accessibleName());
             return true;
         }
@@ -1177,7 +1165,7 @@ bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
             (objeto == g->viewport() && evento->type() == QEvent::MouseButtonRelease) ||
             (objeto == g && evento->type() == QEvent::KeyRelease &&
              static_cast<QKeyEvent*>(evento)->key() == Qt::Key_Shift);
-        if (suelta) BloqueSeleccionado(n);
+        if (suelta) BloqueSeleccionado(lista);
     }
     return QDialog::eventFilter(objeto, evento);
 }

@@ -13,6 +13,7 @@
 #include <QDialog>
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <map>
 
 #include "shell/DelegadosCelda.h"
@@ -24,7 +25,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QTabWidget;
-class QTableWidget;
+class QTableView;
 class QUndoStack;
 
 namespace trevalo {
@@ -51,8 +52,11 @@ class VigaDatos : public QDialog {
     bool Modificada() const;
     // Every applied edit, one step each (a count, a cell, a block, a paste, a load, a capture).
     QUndoStack& Historia() { return *pila_; }
+    // The grid of a list, and its model.
+    QTableView& Vista(Rejilla lista) { return *rejillas_.at(static_cast<std::size_t>(lista)); }
+    ModeloCeldas& Modelo(Rejilla lista) { return *modelos_.at(static_cast<std::size_t>(lista)); }
     // The grid SpreadN and the count box LongN, as the pages number them.
-    QTableWidget& Spread(int n) { return *spread_.at(static_cast<std::size_t>(n)); }
+    QTableView& Spread(int n) { return Vista(static_cast<Rejilla>(n)); }
     QLineEdit& Long(int n) { return *long_.at(static_cast<std::size_t>(n)); }
     QAction* Accion(const QString& clave) const;
 
@@ -81,16 +85,13 @@ class VigaDatos : public QDialog {
     QWidget* PaginaAcotamiento();
     QWidget* CrearHerramientas();
     QWidget* CrearPie();
-    QTableWidget* CrearSpread(int n, const QString& nombre, const QStringList& columnas);
+    QTableView* CrearRejilla(Rejilla lista);
     QLineEdit* CrearLong(int n, const QString& titulo);
     QPushButton* CrearBoton(const char* nombre, const char* titulo);
-    void ConfigurarSpread();
     void ConfigurarToolTips();
 
-    // Filling the grids from the model.
-    void LlenarSpread(int n);
-    void EncabezadosTramos(QTableWidget& grid);
-    void LlenarMarcas();
+    // Every grid read again from the beam.
+    void Recargar();
     void MostrarCuenta(int n);
 
     // Moves between pages.
@@ -104,17 +105,18 @@ class VigaDatos : public QDialog {
     void ValorLong(int n);
 
     // Cells: the beam's edit, then the headers and the drawing that show it.
-    Veredicto ReglaCelda(int n, const Celda& celda);
+    Veredicto ReglaCelda(Rejilla lista, const Celda& celda);
     // A block of cells chosen: an input box for one value, or ticks on the load page.
-    void BloqueSeleccionado(int n);
-    void EntradaBloque(int n, int fila1, int fila2, int columna);
+    void BloqueSeleccionado(Rejilla lista);
+    void EntradaBloque(Rejilla lista, int fila1, int fila2, int columna);
+    // The cells of a paste or a block entered as one: one redraw at their end, if `redibujar`.
+    void EnGrupo(const std::function<void()>& entradas, bool redibujar);
     void MarcarBloque(int fila1, int fila2);
 
     // Page 3, 7 and the material.
     void ColocarApoyo(int tipo);
     void Material(bool concreto);
     void TerminarFactor(bool retorno);
-    void Marcar(int fila, bool marcada);
     void SeleccionarTodos();
     void DesmarcarTodos();
     void BandaSoltada(const BandaSeleccion& banda);
@@ -167,7 +169,8 @@ class VigaDatos : public QDialog {
     QRadioButton* option1_ = nullptr;
     QRadioButton* option2_ = nullptr;
     CampoNumero* double1_ = nullptr;
-    std::array<QTableWidget*, 13> spread_{};
+    std::array<QTableView*, 13> rejillas_{}; // by Rejilla, 1 to 12
+    std::array<ModeloCeldas*, 13> modelos_{};
     std::array<QLineEdit*, 8> long_{};
     std::map<QString, QAction*> acciones_;
     std::map<QString, QPushButton*> botones_;

@@ -90,13 +90,13 @@ void Contar(VigaDatos& e, int n, const QString& cuenta) {
 
 // Rows typed into a grid from its cell (fila, columna) on: each value keyed into the cell and
 // entered with Return (which moves down) or Tab-free moves to the next column of the row.
-void Teclear(QTableWidget& g, int fila, int columna, const std::vector<const char*>& filas) {
+void Teclear(QTableView& g, int fila, int columna, const std::vector<const char*>& filas) {
     g.setFocus();
     for (int i = 0; i < static_cast<int>(filas.size()); ++i) {
         const QStringList celdas =
             QString::fromUtf8(filas[static_cast<std::size_t>(i)]).split(QLatin1Char('|'));
         for (int j = 0; j < celdas.size(); ++j) {
-            g.setCurrentCell(fila - 1 + i, columna - 1 + j);
+            g.setCurrentIndex(g.model()->index(fila - 1 + i, columna - 1 + j));
             QTest::keyClick(&g, Qt::Key_F2);
             auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
             if (!editor) return QTest::qFail("sin editor de celda", __FILE__, __LINE__);
@@ -152,7 +152,8 @@ class VigaDatosTest : public QObject {
         QVERIFY(e.Modificada()); // the beam differs from the file
         Teclear(e.Spread(1), 1, 1, {"A", "B", "C", "D", "E", "F"});
         Teclear(e.Spread(2), 1, 1, {"4", "5.5", "3", "6.25", "4.5"});
-        QCOMPARE(e.Spread(2).verticalHeaderItem(1)->text(), QStringLiteral("B - C"));
+        QCOMPARE(e.Spread(2).model()->headerData(1, Qt::Vertical).toString(),
+                 QStringLiteral("B - C"));
         Siguiente(e);
         QCOMPARE(e.Pagina(), 2);
         QVERIFY(e.Accion(QStringLiteral("ID_NJuntas"))->isChecked());
@@ -163,7 +164,7 @@ class VigaDatosTest : public QObject {
         Siguiente(e);
         Contar(e, 3, QStringLiteral("4"));
         Teclear(e.Spread(4), 1, 1, {"1", "2", "4", "6"});
-        e.Spread(4).setCurrentCell(0, 1);
+        e.Spread(4).setCurrentIndex(e.Spread(4).model()->index(0, 1));
         for (const char* apoyo : {"ButtonP4", "ButtonP3", "ButtonP3", "ButtonP1"}) Pulsar(e, apoyo);
         Siguiente(e);
         Contar(e, 4, QStringLiteral("1"));
@@ -174,9 +175,11 @@ class VigaDatosTest : public QObject {
         QCOMPARE(ValorCelda(e.Spread(6), 2, 1), 0.3); // a new type starts at 0.30 x 0.50
         Teclear(e.Spread(6), 2, 1, {"0.25|0.45"});
         dialogos().entradas.push_back("2");
-        e.Spread(7).setRangeSelected(QTableWidgetSelectionRange(1, 0, 2, 0), true);
+        e.Spread(7).selectionModel()->select(
+            QItemSelection(e.Spread(7).model()->index(1, 0), e.Spread(7).model()->index(2, 0)),
+            QItemSelectionModel::Select);
         QTest::mouseRelease(e.Spread(7).viewport(), Qt::LeftButton, {},
-                            e.Spread(7).visualItemRect(e.Spread(7).item(2, 0)).center());
+                            e.Spread(7).visualRect(e.Spread(7).model()->index(2, 0)).center());
         QCOMPARE(dialogos().pedidos.back(),
                  (PedidoTexto{"\n\n\n\n\nTipos de Vigas:", "Tipos de Viga", "0"}));
         Siguiente(e);
@@ -242,7 +245,7 @@ class VigaDatosTest : public QObject {
         // Nothing pruned: the drawing then faults on joint 6, as the analysis would.
         Contar(e, 1, QStringLiteral("3"));
         QCOMPARE(p->programa.Viga.NT, 3);
-        QCOMPARE(e.Spread(2).rowCount(), 3);
+        QCOMPARE(e.Spread(2).model()->rowCount(), 3);
         QCOMPARE(p->programa.Viga.R1(2), 6);
         QCOMPARE(dialogos().preguntas.back().Titulo, std::string("Error Número: 9"));
         dialogos().preguntas.clear();
@@ -270,7 +273,7 @@ class VigaDatosTest : public QObject {
         QCOMPARE(dialogos().preguntas.back(),
                  Aviso("¡No pueden existir Tramos con Longitud igual a Cero (0)!",
                        "Longitud de los Tramos"));
-        QCOMPARE(e.Spread(2).currentRow(), 1);
+        QCOMPARE(e.Spread(2).currentIndex().row(), 1);
         Pulsar(e, "LSButton3");
         QCOMPARE(EnArchivo(*p).LT(2), 0.0);
         Teclear(e.Spread(2), 2, 1, {"5"});
@@ -318,11 +321,11 @@ class VigaDatosTest : public QObject {
         QCOMPARE(deshacer->toolTip(), QStringLiteral("Deshacer: Número de Tramos"));
         Teclear(e.Spread(2), 1, 1, {"7"});
         QCOMPARE(deshacer->toolTip(), QStringLiteral("Deshacer: Longitud de los Tramos"));
-        e.Spread(2).setCurrentCell(2, 0);
+        e.Spread(2).setCurrentIndex(e.Spread(2).model()->index(2, 0));
         QGuiApplication::clipboard()->setText(QStringLiteral("1\n2\n3\n4\n"));
         QTest::keyClick(&e.Spread(2), Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(viga.LT(4), 2.0);
-        QCOMPARE(e.Spread(2).rowCount(), 5); // spans grow through their count only
+        QCOMPARE(e.Spread(2).model()->rowCount(), 5); // spans grow through their count only
 
         teclas(Qt::ControlModifier); // the paste, both cells
         QCOMPARE(viga.LT(3), 6.0);
@@ -333,7 +336,7 @@ class VigaDatosTest : public QObject {
         teclas(Qt::ControlModifier);
         QCOMPARE(viga.NT, 3);
         QCOMPARE(e.Long(1).text(), QStringLiteral("3"));
-        QCOMPARE(e.Spread(2).rowCount(), 3);
+        QCOMPARE(e.Spread(2).model()->rowCount(), 3);
         QVERIFY(!e.Modificada()); // the beam of the file
         teclas(Qt::ControlModifier, Qt::Key_Y);
         teclas(Qt::ControlModifier | Qt::ShiftModifier);
@@ -365,9 +368,9 @@ class VigaDatosTest : public QObject {
 
         Siguiente(e, 6);
         QCOMPARE(e.Pagina(), 8);
-        QTableWidget& acciones = e.Spread(11);
+        QTableView& acciones = e.Spread(11);
         acciones.setFocus();
-        acciones.setCurrentCell(0, 0);
+        acciones.setCurrentIndex(acciones.model()->index(0, 0));
         QGuiApplication::clipboard()->setText(
             QStringLiteral("2\t100\t0\t0\r\n9\t200\t0\t0\r\n12\t300\t0\t0\r\n3\t400\t5\t0\r\n"));
         dialogos().preguntas.clear();
@@ -402,7 +405,7 @@ class VigaDatosTest : public QObject {
         Pulsar(e, "ButtonP4");
         QCOMPARE(viga.Apoyo(1), Empotramiento);
         QCOMPARE(ValorCelda(e.Spread(4), 1, 2), 4.0);
-        QCOMPARE(e.Spread(4).currentRow(), 1);
+        QCOMPARE(e.Spread(4).currentIndex().row(), 1);
         QTest::keyClick(&e, Qt::Key_S, Qt::ControlModifier);
         QVERIFY(!e.Modificada());
 
@@ -450,9 +453,9 @@ class VigaDatosTest : public QObject {
         PrepararProyecto(*p, VigaDeTramos({4, 5}));
         auto editor = Abrir(*p);
         VigaDatos& e = *editor;
-        QTableWidget& luces = e.Spread(2);
+        QTableView& luces = e.Spread(2);
         luces.setFocus();
-        luces.setCurrentCell(0, 0);
+        luces.setCurrentIndex(luces.model()->index(0, 0));
         QTest::keyClick(&luces, Qt::Key_F2);
         auto* celda = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         QVERIFY(celda);
@@ -550,9 +553,9 @@ class VigaDatosTest : public QObject {
         QVERIFY(!p->programa.Viga.TramoMarcado(2));
 
         // A uniform load on the marked span 2: the dialog writes it, the marks are cleared.
-        QTableWidget& marcas = e.Spread(10);
+        QTableView& marcas = e.Spread(10);
         QTest::mouseClick(marcas.viewport(), Qt::LeftButton, {},
-                          marcas.visualItemRect(marcas.item(1, 0)).center());
+                          marcas.visualRect(marcas.model()->index(1, 0)).center());
         QVERIFY(p->programa.Viga.TramoMarcado(2));
         QVERIFY(!e.Modificada());
         AlAbrirse<Carga01>([](Carga01& d) {
@@ -608,7 +611,7 @@ class VigaDatosTest : public QObject {
             for (QWidget* w : e.findChildren<QWidget*>())
                 if (w->objectName() != QStringLiteral("LSButton2") && !w->objectName().isEmpty() &&
                     (qobject_cast<QPushButton*>(w) || qobject_cast<QLineEdit*>(w) ||
-                     qobject_cast<QTableWidget*>(w) || qobject_cast<QRadioButton*>(w) ||
+                     qobject_cast<QTableView*>(w) || qobject_cast<QRadioButton*>(w) ||
                      qobject_cast<PantallaViga*>(w)))
                     lista << w;
             return lista;
@@ -624,7 +627,7 @@ class VigaDatosTest : public QObject {
             QWidget* w = controles[azar.bounded(static_cast<int>(controles.size()))];
             if (!w->isVisible() || !w->isEnabled()) continue;
             QWidget* destino =
-                qobject_cast<QTableWidget*>(w) ? static_cast<QTableWidget*>(w)->viewport() : w;
+                qobject_cast<QTableView*>(w) ? static_cast<QTableView*>(w)->viewport() : w;
             if (azar.bounded(3) == 0) {
                 const QPoint punto(azar.bounded(std::max(destino->width(), 1)),
                                    azar.bounded(std::max(destino->height(), 1)));
