@@ -234,13 +234,13 @@ QWidget* Marco(const QString& titulo, QLayout* contenido) {
 VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     : QDialog(parent), programa_(programa), edicion_(programa.Viga),
       proyecto_(qobject_cast<VigasProyecto*>(parent)), toolTip_(new ToolTipTrevalo(this)),
-      pila_(new QUndoStack(this)) {
+      historia_(new QUndoStack(this)) {
     // Each step holds the beam twice: a long history of a long beam is bounded.
-    pila_->setUndoLimit(100);
+    historia_->setUndoLimit(100);
     setObjectName(QStringLiteral("VigaDatos"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    lblNombre_ = new QLabel(this);
-    lblNombre_->setObjectName(QStringLiteral("LblNombre"));
+    nombreViga_ = new QLabel(this);
+    nombreViga_->setObjectName(QStringLiteral("LblNombre"));
     pantalla_ = new PantallaViga(programa_, false, this);
     pantalla_->setObjectName(QStringLiteral("Picture1"));
     pantalla_->PermitirBanda([this] { return Pagina() == 7; });
@@ -250,7 +250,7 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     auto* arriba = new QHBoxLayout;
     arriba->addWidget(CrearHerramientas());
     arriba->addStretch();
-    arriba->addWidget(lblNombre_);
+    arriba->addWidget(nombreViga_);
     auto* izquierda = new QVBoxLayout;
     izquierda->addWidget(CrearPaginas(), 1);
     izquierda->addWidget(CrearPie());
@@ -286,9 +286,9 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     ColoquePantalla();
     programa_.Vista.ModoEditor = true;
     IrA(1, false);
-    button1_->setEnabled(false);
+    anterior_->setEnabled(false);
     EmpezarHistoria();
-    cambiando_ = 0;
+    tecleando_ = false;
     if (const QScreen* pantalla = screen()) {
         const QRect zona = pantalla->availableGeometry();
         resize(zona.width() * 92 / 100, zona.height() * 85 / 100);
@@ -313,14 +313,13 @@ void VigaDatos::Rotulos() {
     const QString nombre = Qs(programa_.Viga.NombreVigaActual);
     setWindowTitle(QStringLiteral("Datos Generales de la Viga: [ ") + nombre +
                    QStringLiteral(" ]"));
-    lblNombre_->setText(nombre);
+    nombreViga_->setText(nombre);
 }
 
 QPushButton* VigaDatos::CrearBoton(const char* nombre, const char* titulo) {
     auto* b = new QPushButton(QString::fromUtf8(titulo), this);
     b->setObjectName(QString::fromUtf8(nombre));
     b->setAutoDefault(false);
-    botones_[b->objectName()] = b;
     return b;
 }
 
@@ -350,7 +349,7 @@ QTableView* VigaDatos::CrearRejilla(Rejilla lista) {
         if (Cajas[caja].destino == lista)
             acceso.Crecer = [this, caja](int filas) {
                 Long(caja).setText(QString::number(filas));
-                ValorLong(caja);
+                AplicarCuenta(caja);
                 return true;
             };
     const auto& carpetas = programa_.Carpetas;
@@ -374,20 +373,20 @@ QTableView* VigaDatos::CrearRejilla(Rejilla lista) {
     return grid;
 }
 
-QLineEdit* VigaDatos::CrearLong(int n, const QString& titulo) {
+QLineEdit* VigaDatos::CrearCuenta(int n, const QString& titulo) {
     auto* campo = new QLineEdit(this);
     campo->setObjectName(QStringLiteral("Long%1").arg(n));
     campo->setAccessibleName(titulo.trimmed());
-    // Digits only: a count is never negative. Its limits are the box's rule (ValorLong), the
+    // Digits only: a count is never negative. Its limits are the box's rule (AplicarCuenta), the
     // same on Return and on leaving.
     campo->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,5}")), campo));
     campo->setAlignment(Qt::AlignRight);
     campo->setMaximumWidth(90);
-    connect(campo, &QLineEdit::textEdited, this, [this, n] { cambiando_ = 1; });
-    connect(campo, &QLineEdit::returnPressed, this, [this, n] { TerminarLong(n, true); });
+    connect(campo, &QLineEdit::textEdited, this, [this] { tecleando_ = true; });
+    connect(campo, &QLineEdit::returnPressed, this, [this, n] { TerminarCuenta(n, true); });
     campo->installEventFilter(this);
-    long_[static_cast<std::size_t>(n)] = campo;
+    cuentas_[static_cast<std::size_t>(n)] = campo;
     return campo;
 }
 
@@ -407,21 +406,21 @@ QHBoxLayout* Rotulado(const QString& titulo, QWidget* campo) {
 } // namespace
 
 QWidget* VigaDatos::PaginaTramos() {
-    option1_ = new QRadioButton(QStringLiteral("La Viga es de Concreto Armado"), this);
-    option1_->setObjectName(QStringLiteral("Option1"));
-    option2_ = new QRadioButton(QStringLiteral("La Viga es Metálica"), this);
-    option2_->setObjectName(QStringLiteral("Option2"));
-    connect(option1_, &QRadioButton::toggled, this, [this](bool si) {
+    concreto_ = new QRadioButton(QStringLiteral("La Viga es de Concreto Armado"), this);
+    concreto_->setObjectName(QStringLiteral("Option1"));
+    metalica_ = new QRadioButton(QStringLiteral("La Viga es Metálica"), this);
+    metalica_->setObjectName(QStringLiteral("Option2"));
+    connect(concreto_, &QRadioButton::toggled, this, [this](bool si) {
         if (si) Material(true);
     });
-    connect(option2_, &QRadioButton::toggled, this, [this](bool si) {
+    connect(metalica_, &QRadioButton::toggled, this, [this](bool si) {
         if (si) Material(false);
     });
     auto* capas = new QVBoxLayout;
-    capas->addWidget(option1_);
-    capas->addWidget(option2_);
+    capas->addWidget(concreto_);
+    capas->addWidget(metalica_);
     capas->addLayout(Rotulado(QStringLiteral("Número de Tramos = "),
-                              CrearLong(1, QStringLiteral("Número de Tramos = "))));
+                              CrearCuenta(1, QStringLiteral("Número de Tramos = "))));
     auto* grids = new QHBoxLayout;
     grids->addWidget(CrearRejilla(Rejilla::NombresEje));
     grids->addWidget(CrearRejilla(Rejilla::Longitudes));
@@ -432,7 +431,7 @@ QWidget* VigaDatos::PaginaTramos() {
 QWidget* VigaDatos::PaginaDesplazadas() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas Desplazadas = "),
-                              CrearLong(2, QStringLiteral("Juntas Desplazadas = "))));
+                              CrearCuenta(2, QStringLiteral("Juntas Desplazadas = "))));
     capas->addWidget(CrearRejilla(Rejilla::Desplazadas), 1);
     return Marco(QStringLiteral("Juntas Desplazadas en la Viga"), capas);
 }
@@ -440,7 +439,7 @@ QWidget* VigaDatos::PaginaDesplazadas() {
 QWidget* VigaDatos::PaginaRestringidas() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas Restringidas = "),
-                              CrearLong(3, QStringLiteral("Juntas Restringidas = "))));
+                              CrearCuenta(3, QStringLiteral("Juntas Restringidas = "))));
     auto* fila = new QHBoxLayout;
     fila->addWidget(CrearRejilla(Rejilla::Restringidas), 1);
     auto* apoyos = new QVBoxLayout;
@@ -461,7 +460,7 @@ QWidget* VigaDatos::PaginaRestringidas() {
 QWidget* VigaDatos::PaginaResortes() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas con Resortes = "),
-                              CrearLong(4, QStringLiteral("Juntas con Resortes = "))));
+                              CrearCuenta(4, QStringLiteral("Juntas con Resortes = "))));
     capas->addWidget(CrearRejilla(Rejilla::Resortes), 1);
     return Marco(QStringLiteral("Juntas Restringidas con Resortes"), capas);
 }
@@ -469,7 +468,7 @@ QWidget* VigaDatos::PaginaResortes() {
 QWidget* VigaDatos::PaginaTiposConcreto() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Tipos de Vigas = "),
-                              CrearLong(5, QStringLiteral("Tipos de Vigas = "))));
+                              CrearCuenta(5, QStringLiteral("Tipos de Vigas = "))));
     capas->addWidget(CrearRejilla(Rejilla::TiposConcreto), 1);
     capas->addWidget(new QLabel(QStringLiteral("Entre los Tipos de Vigas por Tramo")));
     capas->addWidget(CrearRejilla(Rejilla::TipoTramoConcreto), 1);
@@ -479,7 +478,7 @@ QWidget* VigaDatos::PaginaTiposConcreto() {
 QWidget* VigaDatos::PaginaTiposMetalicos() {
     auto* capas = new QVBoxLayout;
     auto* cuenta = Rotulado(QStringLiteral("Tipos de Vigas = "),
-                            CrearLong(6, QStringLiteral("Tipos de Vigas (Perfiles) = ")));
+                            CrearCuenta(6, QStringLiteral("Tipos de Vigas (Perfiles) = ")));
     QPushButton* perfiles = CrearBoton("LSButton5", " Perfiles Metálicos ");
     connect(perfiles, &QPushButton::clicked, this, &VigaDatos::PerfilesMetalicos);
     cuenta->addWidget(perfiles);
@@ -490,18 +489,18 @@ QWidget* VigaDatos::PaginaTiposMetalicos() {
 }
 
 QWidget* VigaDatos::PaginaCargas() {
-    double1_ = new CampoNumero(this);
-    double1_->setObjectName(QStringLiteral("Double1"));
-    double1_->setAccessibleName(QStringLiteral("Factor de Mayoración ="));
-    double1_->Configurar("0.00", programa_.Carpetas.SeparadorDecimal,
-                         programa_.Carpetas.SeparadorMiles);
-    double1_->setMaximumWidth(120);
-    connect(double1_, &QLineEdit::textEdited, this, [this] { cambiando_ = 1; });
-    connect(double1_, &QLineEdit::returnPressed, this, [this] { TerminarFactor(true); });
-    double1_->installEventFilter(this);
+    factor_ = new CampoNumero(this);
+    factor_->setObjectName(QStringLiteral("Double1"));
+    factor_->setAccessibleName(QStringLiteral("Factor de Mayoración ="));
+    factor_->Configurar("0.00", programa_.Carpetas.SeparadorDecimal,
+                        programa_.Carpetas.SeparadorMiles);
+    factor_->setMaximumWidth(120);
+    connect(factor_, &QLineEdit::textEdited, this, [this] { tecleando_ = true; });
+    connect(factor_, &QLineEdit::returnPressed, this, [this] { TerminarFactor(true); });
+    factor_->installEventFilter(this);
 
     auto* capas = new QVBoxLayout;
-    capas->addLayout(Rotulado(QStringLiteral("Factor de Mayoración ="), double1_));
+    capas->addLayout(Rotulado(QStringLiteral("Factor de Mayoración ="), factor_));
     capas->addWidget(new QLabel(QStringLiteral("Seleccione los Tramos para entrar las Cargas")));
     auto* fila = new QHBoxLayout;
     fila->addWidget(CrearRejilla(Rejilla::TramosCargados), 1);
@@ -515,16 +514,16 @@ QWidget* VigaDatos::PaginaCargas() {
     fila->addLayout(cargas);
     capas->addLayout(fila, 1);
     // Two rows, so that the three captions show whole at the editor's first width.
+    QPushButton* marcarTodos = CrearBoton("SSCommand1", " Seleccionar todos los Tramos ");
+    QPushButton* desmarcarTodos = CrearBoton("SSCommand2", " Desmarcar todos los Tramos ");
+    QPushButton* eliminarCargas = CrearBoton("ButtonE", " Eliminar las cargas de la viga. ");
+    connect(marcarTodos, &QPushButton::clicked, this, &VigaDatos::SeleccionarTodos);
+    connect(desmarcarTodos, &QPushButton::clicked, this, &VigaDatos::DesmarcarTodos);
+    connect(eliminarCargas, &QPushButton::clicked, this, &VigaDatos::EliminarCargas);
     auto* todos = new QGridLayout;
-    connect(CrearBoton("SSCommand1", " Seleccionar todos los Tramos "), &QPushButton::clicked, this,
-            &VigaDatos::SeleccionarTodos);
-    connect(CrearBoton("SSCommand2", " Desmarcar todos los Tramos "), &QPushButton::clicked, this,
-            &VigaDatos::DesmarcarTodos);
-    connect(CrearBoton("ButtonE", " Eliminar las cargas de la viga. "), &QPushButton::clicked, this,
-            &VigaDatos::EliminarCargas);
-    todos->addWidget(botones_[QStringLiteral("SSCommand1")], 0, 0);
-    todos->addWidget(botones_[QStringLiteral("SSCommand2")], 0, 1);
-    todos->addWidget(botones_[QStringLiteral("ButtonE")], 1, 0, 1, 2);
+    todos->addWidget(marcarTodos, 0, 0);
+    todos->addWidget(desmarcarTodos, 0, 1);
+    todos->addWidget(eliminarCargas, 1, 0, 1, 2);
     capas->addLayout(todos);
     return Marco(QStringLiteral("Cargas de Servicio en los Tramos"), capas);
 }
@@ -532,7 +531,7 @@ QWidget* VigaDatos::PaginaCargas() {
 QWidget* VigaDatos::PaginaAcciones() {
     auto* capas = new QVBoxLayout;
     capas->addLayout(Rotulado(QStringLiteral("Juntas con Acciones Nodales = "),
-                              CrearLong(7, QStringLiteral("Juntas con Acciones Nodales = "))));
+                              CrearCuenta(7, QStringLiteral("Juntas con Acciones Nodales = "))));
     capas->addWidget(CrearRejilla(Rejilla::Acciones), 1);
     return Marco(QStringLiteral("Acciones Nodales en las Juntas"), capas);
 }
@@ -544,34 +543,34 @@ QWidget* VigaDatos::PaginaAcotamiento() {
 }
 
 QWidget* VigaDatos::CrearPaginas() {
-    tab1_ = new QTabWidget(this);
-    tab1_->setObjectName(QStringLiteral("Tab1"));
+    paginas_ = new QTabWidget(this);
+    paginas_->setObjectName(QStringLiteral("Tab1"));
     for (QWidget* pagina : {PaginaTramos(), PaginaDesplazadas(), PaginaRestringidas(),
                             PaginaResortes(), PaginaTiposConcreto(), PaginaTiposMetalicos(),
                             PaginaCargas(), PaginaAcciones(), PaginaAcotamiento()}) {
         // The tab shows the page's number; its frame says what the page holds.
-        const int i = tab1_->addTab(pagina, QString::number(tab1_->count() + 1));
-        tab1_->setTabToolTip(i, static_cast<QGroupBox*>(pagina)->title());
+        const int i = paginas_->addTab(pagina, QString::number(paginas_->count() + 1));
+        paginas_->setTabToolTip(i, static_cast<QGroupBox*>(pagina)->title());
     }
     // The pages follow the moves, not a click on their tabs.
-    tab1_->tabBar()->setAttribute(Qt::WA_TransparentForMouseEvents);
-    tab1_->tabBar()->setFocusPolicy(Qt::NoFocus);
-    tab1_->setMinimumWidth(460);
+    paginas_->tabBar()->setAttribute(Qt::WA_TransparentForMouseEvents);
+    paginas_->tabBar()->setFocusPolicy(Qt::NoFocus);
+    paginas_->setMinimumWidth(460);
     // Nor by the keys that turn tabs: the page in front is always the one the moves chose.
-    connect(tab1_, &QTabWidget::currentChanged, this, [this](int i) {
-        if (i != pagina_ - 1) tab1_->setCurrentIndex(pagina_ - 1);
+    connect(paginas_, &QTabWidget::currentChanged, this, [this](int i) {
+        if (i != pagina_ - 1) paginas_->setCurrentIndex(pagina_ - 1);
     });
-    return tab1_;
+    return paginas_;
 }
 
 QWidget* VigaDatos::CrearPie() {
     auto* pie = new QWidget(this);
     auto* capas = new QHBoxLayout(pie);
     capas->setContentsMargins(0, 0, 0, 0);
-    button1_ = CrearBoton("Button1", " Anterior ");
-    button2_ = CrearBoton("Button2", " Siguiente ");
-    connect(button1_, &QPushButton::clicked, this, &VigaDatos::Anterior);
-    connect(button2_, &QPushButton::clicked, this, &VigaDatos::Siguiente);
+    anterior_ = CrearBoton("Button1", " Anterior ");
+    siguiente_ = CrearBoton("Button2", " Siguiente ");
+    connect(anterior_, &QPushButton::clicked, this, &VigaDatos::Anterior);
+    connect(siguiente_, &QPushButton::clicked, this, &VigaDatos::Siguiente);
     for (int i = 0; i < 2; ++i) {
         btoMove_[i] = CrearBoton(i == 0 ? "BtoMove0" : "BtoMove1", i == 0 ? "◀" : "▶");
         btoMove_[i]->setAccessibleName(i == 0 ? QStringLiteral("Viga Anterior")
@@ -579,17 +578,17 @@ QWidget* VigaDatos::CrearPie() {
         btoMove_[i]->setToolTip(btoMove_[i]->accessibleName());
         connect(btoMove_[i], &QPushButton::clicked, this, [this, i] { MoverViga(i); });
     }
-    QPushButton* salvar = CrearBoton("LSButton3", " Salvar ");
-    connect(salvar, &QPushButton::clicked, this, [this] { Salvar(); });
+    salvar_ = CrearBoton("LSButton3", " Salvar ");
+    connect(salvar_, &QPushButton::clicked, this, [this] { Salvar(); });
     QPushButton* retorno = CrearBoton("LSButton2", " Retorno ");
     connect(retorno, &QPushButton::clicked, this, &VigaDatos::reject);
-    capas->addWidget(button1_);
-    capas->addWidget(button2_);
+    capas->addWidget(anterior_);
+    capas->addWidget(siguiente_);
     capas->addStretch();
     capas->addWidget(btoMove_[0]);
     capas->addWidget(btoMove_[1]);
     capas->addStretch();
-    capas->addWidget(salvar);
+    capas->addWidget(salvar_);
     capas->addWidget(retorno);
     return pie;
 }
@@ -612,11 +611,11 @@ QWidget* VigaDatos::CrearHerramientas() {
         a->setEnabled(false);
         connect(a, &QAction::triggered, this, [this, atras] {
             TerminarEdicion(*this);
-            atras ? pila_->undo() : pila_->redo();
+            atras ? historia_->undo() : historia_->redo();
         });
-        connect(pila_, atras ? &QUndoStack::canUndoChanged : &QUndoStack::canRedoChanged, a,
+        connect(historia_, atras ? &QUndoStack::canUndoChanged : &QUndoStack::canRedoChanged, a,
                 &QAction::setEnabled);
-        connect(pila_, atras ? &QUndoStack::undoTextChanged : &QUndoStack::redoTextChanged, a,
+        connect(historia_, atras ? &QUndoStack::undoTextChanged : &QUndoStack::redoTextChanged, a,
                 [a, titulo](const QString& que) {
                     a->setToolTip(que.isEmpty() ? titulo : titulo + QStringLiteral(": ") + que);
                 });
@@ -626,13 +625,12 @@ QWidget* VigaDatos::CrearHerramientas() {
 }
 
 void VigaDatos::ConfigurarToolTips() {
-    button1_->setProperty("Tag", QStringLiteral("Anterior"));
-    button1_->setToolTip(QStringLiteral("Ir a la pantalla anterior. "));
-    button2_->setProperty("Tag", QStringLiteral("Siguiente"));
-    button2_->setToolTip(QStringLiteral("Ir a la siguiente pantalla. "));
-    QPushButton* salvar = botones_[QStringLiteral("LSButton3")];
-    salvar->setProperty("Tag", QStringLiteral("Salvar"));
-    salvar->setToolTip(QStringLiteral("Salva las modificaciones realizadas. "));
+    anterior_->setProperty("Tag", QStringLiteral("Anterior"));
+    anterior_->setToolTip(QStringLiteral("Ir a la pantalla anterior. "));
+    siguiente_->setProperty("Tag", QStringLiteral("Siguiente"));
+    siguiente_->setToolTip(QStringLiteral("Ir a la siguiente pantalla. "));
+    salvar_->setProperty("Tag", QStringLiteral("Salvar"));
+    salvar_->setToolTip(QStringLiteral("Salva las modificaciones realizadas. "));
 }
 
 QAction* VigaDatos::Accion(const QString& clave) const {
@@ -659,10 +657,10 @@ void VigaDatos::MostrarViga() {
     {
         const bool cargando = cargando_;
         cargando_ = true;
-        (programa_.Viga.OpcionConcreto == 0 ? option1_ : option2_)->setChecked(true);
+        (programa_.Viga.OpcionConcreto == 0 ? concreto_ : metalica_)->setChecked(true);
         cargando_ = cargando;
     }
-    double1_->ColocarValor(programa_.Viga.FMayoracion);
+    factor_->ColocarValor(programa_.Viga.FMayoracion);
     Recargar();
     for (int n = 1; n <= 7; ++n) MostrarCuenta(n);
 }
@@ -672,7 +670,7 @@ void VigaDatos::MostrarViga() {
 void VigaDatos::IrA(int pagina, bool juntas) {
     setUpdatesEnabled(false);
     pagina_ = pagina;
-    tab1_->setCurrentIndex(pagina - 1);
+    paginas_->setCurrentIndex(pagina - 1);
     QAction* numeros = Accion(QStringLiteral("ID_NJuntas"));
     if (numeros->isChecked() != juntas || programa_.Vista.VerJuntas != juntas) {
         numeros->setChecked(juntas);
@@ -700,7 +698,7 @@ void VigaDatos::Siguiente() {
     switch (Pagina()) {
     case 1:
         if (!LongitudesValidas()) return;
-        button1_->setEnabled(true);
+        anterior_->setEnabled(true);
         return IrA(2, true);
     case 2:
         return IrA(3, true);
@@ -712,10 +710,10 @@ void VigaDatos::Siguiente() {
     case 6:
         return IrA(7, false);
     case 7:
-        if (!concreto) button2_->setEnabled(false);
+        if (!concreto) siguiente_->setEnabled(false);
         return IrA(8, true);
     case 8:
-        button2_->setEnabled(false);
+        siguiente_->setEnabled(false);
         return IrA(9, false);
     }
 }
@@ -724,9 +722,9 @@ void VigaDatos::Anterior() {
     const bool concreto = programa_.Viga.OpcionConcreto == 0;
     switch (Pagina()) {
     case 2:
-        button1_->setEnabled(false);
+        anterior_->setEnabled(false);
         IrA(1, false);
-        return button2_->setFocus();
+        return siguiente_->setFocus();
     case 3:
         return IrA(2, true);
     case 4:
@@ -736,27 +734,27 @@ void VigaDatos::Anterior() {
     case 6:
         return IrA(4, false);
     case 7:
-        button2_->setEnabled(true);
+        siguiente_->setEnabled(true);
         return IrA(concreto ? 5 : 6, false);
     case 8:
-        button2_->setEnabled(concreto);
+        siguiente_->setEnabled(concreto);
         return IrA(7, false);
     case 9:
-        button1_->setEnabled(true);
-        button2_->setEnabled(true);
+        anterior_->setEnabled(true);
+        siguiente_->setEnabled(true);
         return IrA(8, true);
     }
 }
 
 // --- Count boxes ---------------------------------------------------------------------------
 
-void VigaDatos::TerminarLong(int n, bool retorno) {
-    if (cambiando_ == 1) ValorLong(n);
+void VigaDatos::TerminarCuenta(int n, bool retorno) {
+    if (tecleando_) AplicarCuenta(n);
     if (retorno) Vista(Cajas[n].destino).setFocus();
 }
 
-void VigaDatos::ValorLong(int n) {
-    cambiando_ = 0;
+void VigaDatos::AplicarCuenta(int n) {
+    tecleando_ = false;
     const Veredicto veredicto =
         edicion_.CambiarCuenta(static_cast<Cuenta>(n), Long(n).text().toLong());
     if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
@@ -855,10 +853,10 @@ void VigaDatos::Material(bool concreto) {
 }
 
 void VigaDatos::TerminarFactor(bool retorno) {
-    if (cambiando_) {
-        if (const Veredicto v = edicion_.Factor(double1_->Valor()); v.Valor)
-            double1_->ColocarValor(*v.Valor);
-        cambiando_ = 0;
+    if (tecleando_) {
+        if (const Veredicto v = edicion_.Factor(factor_->Valor()); v.Valor)
+            factor_->ColocarValor(*v.Valor);
+        tecleando_ = false;
         Registrar(QStringLiteral("Factor de Mayoración"));
     }
     if (retorno) Vista(Rejilla::TramosCargados).setFocus();
@@ -1040,8 +1038,8 @@ void VigaDatos::Registrar(const QString& que) {
     if (agrupando_ || cargando_) return;
     VigaActual ahora = SinMarcas(programa_.Viga);
     if (ahora == registrada_) return;
-    pila_->push(new CambioViga([this](const VigaActual& v) { Restaurar(v); }, que,
-                               std::move(registrada_), ahora));
+    historia_->push(new CambioViga([this](const VigaActual& v) { Restaurar(v); }, que,
+                                   std::move(registrada_), ahora));
     registrada_ = std::move(ahora);
 }
 
@@ -1058,19 +1056,19 @@ void VigaDatos::Restaurar(const VigaActual& viga) {
 
 void VigaDatos::EmpezarHistoria() {
     registrada_ = SinMarcas(programa_.Viga);
-    pila_->clear();
+    historia_->clear();
 }
 
 bool VigaDatos::Modificada() const {
-    return !pila_->isClean();
+    return !historia_->isClean();
 }
 
 void VigaDatos::TerminarEntradas() {
     TerminarEdicion(*this);
-    if (!cambiando_) return;
+    if (!tecleando_) return;
     for (int n = 1; n <= 7; ++n)
-        if (focusWidget() == &Long(n)) TerminarLong(n, false);
-    if (focusWidget() == double1_) TerminarFactor(false);
+        if (focusWidget() == &Long(n)) TerminarCuenta(n, false);
+    if (focusWidget() == factor_) TerminarFactor(false);
 }
 
 bool VigaDatos::Salvar() {
@@ -1079,13 +1077,13 @@ bool VigaDatos::Salvar() {
     try {
         if (proyecto_ && estado.RsGeneralViga && proyecto_->FilaActiva() > 0)
             estado.RsGeneralViga->AbsolutePosition(proyecto_->FilaActiva() - 1);
-        programa_.Viga.NombreVigaActual = Std(lblNombre_->text());
+        programa_.Viga.NombreVigaActual = Std(nombreViga_->text());
         SalvarViga(estado, programa_.Viga);
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
         return false;
     }
-    pila_->setClean();
+    historia_->setClean();
     return true;
 }
 
@@ -1139,8 +1137,8 @@ bool VigaDatos::eventFilter(QObject* objeto, QEvent* evento) {
     // Leaving a count box or the factor ends its entry.
     if (evento->type() == QEvent::FocusOut) {
         for (int n = 1; n <= 7; ++n)
-            if (objeto == long_[static_cast<std::size_t>(n)]) TerminarLong(n, false);
-        if (objeto == double1_) TerminarFactor(false);
+            if (objeto == cuentas_[static_cast<std::size_t>(n)]) TerminarCuenta(n, false);
+        if (objeto == factor_) TerminarFactor(false);
         return false;
     }
     for (std::size_t n = 1; n < rejillas_.size(); ++n) {

@@ -51,13 +51,13 @@ class VigaDatos : public QDialog {
     // The beam differs from the one saved or read: the history is not at its clean step.
     bool Modificada() const;
     // Every applied edit, one step each (a count, a cell, a block, a paste, a load, a capture).
-    QUndoStack& Historia() { return *pila_; }
+    QUndoStack& Historia() { return *historia_; }
     // The grid of a list, and its model.
     QTableView& Vista(Rejilla lista) { return *rejillas_.at(static_cast<std::size_t>(lista)); }
     ModeloCeldas& Modelo(Rejilla lista) { return *modelos_.at(static_cast<std::size_t>(lista)); }
     // The grid SpreadN and the count box LongN, as the pages number them.
     QTableView& Spread(int n) { return Vista(static_cast<Rejilla>(n)); }
-    QLineEdit& Long(int n) { return *long_.at(static_cast<std::size_t>(n)); }
+    QLineEdit& Long(int n) { return *cuentas_.at(static_cast<std::size_t>(n)); }
     QAction* Accion(const QString& clave) const;
 
     // " Salvar ": true when the file took the beam.
@@ -86,7 +86,7 @@ class VigaDatos : public QDialog {
     QWidget* CrearHerramientas();
     QWidget* CrearPie();
     QTableView* CrearRejilla(Rejilla lista);
-    QLineEdit* CrearLong(int n, const QString& titulo);
+    QLineEdit* CrearCuenta(int n, const QString& titulo);
     QPushButton* CrearBoton(const char* nombre, const char* titulo);
     void ConfigurarToolTips();
 
@@ -101,8 +101,8 @@ class VigaDatos : public QDialog {
     bool LongitudesValidas();
 
     // Count boxes.
-    void TerminarLong(int n, bool retorno);
-    void ValorLong(int n);
+    void TerminarCuenta(int n, bool retorno);
+    void AplicarCuenta(int n);
 
     // Cells: the beam's edit, then the headers and the drawing that show it.
     Veredicto ReglaCelda(Rejilla lista, const Celda& celda);
@@ -153,27 +153,27 @@ class VigaDatos : public QDialog {
     VigasProyecto* proyecto_;
     bool cargando_ = true;
     int pagina_ = 1;
-    int cambiando_ = 0;
+    bool tecleando_ = false; // a count or the factor typed and not yet entered
     bool agrupando_ = false; // a block or a paste: one redraw at its end
     bool redibujoPendiente_ = false;
 
-    QLabel* lblNombre_ = nullptr;
-    QTabWidget* tab1_ = nullptr;
+    QLabel* nombreViga_ = nullptr;
+    QTabWidget* paginas_ = nullptr;
     PantallaViga* pantalla_ = nullptr;
     ToolTipTrevalo* toolTip_ = nullptr;
-    QUndoStack* pila_ = nullptr;
+    QUndoStack* historia_ = nullptr;
     VigaActual registrada_; // the beam at the history's current step, without marks
-    QPushButton* button1_ = nullptr;
-    QPushButton* button2_ = nullptr;
+    QPushButton* anterior_ = nullptr;
+    QPushButton* siguiente_ = nullptr;
+    QPushButton* salvar_ = nullptr;
     std::array<QPushButton*, 2> btoMove_{};
-    QRadioButton* option1_ = nullptr;
-    QRadioButton* option2_ = nullptr;
-    CampoNumero* double1_ = nullptr;
+    QRadioButton* concreto_ = nullptr;
+    QRadioButton* metalica_ = nullptr;
+    CampoNumero* factor_ = nullptr;
     std::array<QTableView*, 13> rejillas_{}; // by Rejilla, 1 to 12
     std::array<ModeloCeldas*, 13> modelos_{};
-    std::array<QLineEdit*, 8> long_{};
+    std::array<QLineEdit*, 8> cuentas_{};
     std::map<QString, QAction*> acciones_;
-    std::map<QString, QPushButton*> botones_;
 };
 
 } // namespace trevalo
