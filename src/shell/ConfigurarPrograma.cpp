@@ -5,20 +5,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
-#include <QVBoxLayout>
+#include <array>
 
 #include "platform/lienzos/LienzoQt.h"
-#include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
+#include "ui_ConfigurarPrograma.h"
 
 namespace trevalo {
 
@@ -28,28 +23,6 @@ const char* const TituloAbrir = "Cambiar el Tapiz del Menú Principal";
 const char* const PropiedadColor = "ColorTrevalo";
 constexpr std::int32_t Muestras[] = {0xD6F4FF, 0xE3FFCA, 0xE1E1FF, 0xF4E3D5, 0xFFE1F0};
 constexpr int IndiceLetraDefecto = 4;
-
-QCheckBox* Marca(const QString& nombre, const char* titulo, QWidget* padre) {
-    auto* c = new QCheckBox(QString::fromUtf8(titulo), padre);
-    c->setObjectName(nombre);
-    return c;
-}
-
-// A frame of three options numbered 0, 1, 2 by `valores`, shown in the order given.
-QGroupBox* Opciones(const char* titulo, QButtonGroup*& grupo,
-                    std::initializer_list<std::tuple<const char*, const char*, int>> opciones,
-                    QWidget* padre) {
-    auto* marco = new QGroupBox(QString::fromUtf8(titulo), padre);
-    auto* capas = new QVBoxLayout(marco);
-    grupo = new QButtonGroup(marco);
-    for (const auto& [nombre, texto, valor] : opciones) {
-        auto* r = new QRadioButton(QString::fromUtf8(texto), marco);
-        r->setObjectName(QString::fromUtf8(nombre));
-        grupo->addButton(r, valor);
-        capas->addWidget(r);
-    }
-    return marco;
-}
 
 std::int32_t ColorDe(const QLabel* etiqueta) {
     return etiqueta->property(PropiedadColor).toInt();
@@ -62,26 +35,34 @@ QSize ConfigurarPrograma::TamanoVista() {
 }
 
 ConfigurarPrograma::ConfigurarPrograma(Programa& programa, QWidget* padre)
-    : QDialog(padre), programa_(programa), toolTip_(new ToolTipTrevalo(this)) {
-    setObjectName(QStringLiteral("ConfigurarPrograma"));
-    setWindowTitle(QStringLiteral("Configurar la Pantalla de Korvel-Altora"));
-    tab1_ = new QTabWidget(this);
-    tab1_->setObjectName(QStringLiteral("Tab1"));
-    tab1_->addTab(CrearPestanaImagen(), QStringLiteral("Imágen del Menú Principal"));
-    tab1_->addTab(CrearPestanaToolTip(), QStringLiteral("ToolTip de Ayuda de los Botones"));
-
-    auto* aceptar = BotonDialogo(*this, "Command6", " Aceptar ");
-    auto* cancelar = BotonDialogo(*this, "Command5", " Cancelar ");
-    aceptar->setDefault(true);
-    connect(aceptar, &QPushButton::clicked, this, &ConfigurarPrograma::Aceptar);
-    connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(aceptar);
-    botones->addWidget(cancelar);
-    auto* capas = new QVBoxLayout(this);
-    capas->addWidget(tab1_);
-    capas->addLayout(botones);
+    : QDialog(padre), programa_(programa), ui_(std::make_unique<Ui::ConfigurarPrograma>()),
+      toolTip_(new ToolTipTrevalo(this)), vertical_(new QButtonGroup(this)),
+      horizontal_(new QButtonGroup(this)) {
+    ui_->setupUi(this);
+    ui_->MarcoImagen->setFixedSize(TamanoVista() + QSize(4, 4));
+    // The alignments as the settings number them.
+    for (const auto& [grupo, opciones] :
+         {std::pair{vertical_, std::array{ui_->Option1, ui_->Option2, ui_->Option3}},
+          std::pair{horizontal_, std::array{ui_->Option5, ui_->Option4, ui_->Option6}}})
+        for (int i = 0; i < 3; ++i) grupo->addButton(opciones[static_cast<std::size_t>(i)], i);
+    connect(ui_->Abrir, &QPushButton::clicked, this, &ConfigurarPrograma::Abrir);
+    connect(ui_->LColor, &QPushButton::clicked, this, [this] { ElegirColor(ui_->LSLabel1); });
+    connect(ui_->OwlButton3, &QPushButton::clicked, this, [this] { ElegirColor(ui_->LSLabel2); });
+    connect(ui_->OwlButton2, &QPushButton::clicked, this, &ConfigurarPrograma::ValoresPorDefecto);
+    connect(ui_->Command6, &QPushButton::clicked, this, &ConfigurarPrograma::Aceptar);
+    connect(ui_->Command5, &QPushButton::clicked, this, &QDialog::reject);
+    const std::array muestras{ui_->LSLabel3, ui_->LSLabel4, ui_->LSLabel5, ui_->LSLabel6,
+                              ui_->LSLabel7};
+    for (std::size_t i = 0; i < muestras.size(); ++i) {
+        PonerColor(muestras[i], Muestras[i]);
+        muestras[i]->installEventFilter(this);
+    }
+    const auto cambio = [this] {
+        if (!cargando_) AbrirToolTipC();
+    };
+    connect(ui_->Combo1, &QComboBox::currentIndexChanged, this, cambio);
+    connect(ui_->Check3, &QCheckBox::toggled, this, cambio);
+    connect(ui_->Check4, &QCheckBox::toggled, this, cambio);
 
     carpetaDialogo_ = Qs(programa_.Carpetas.RutaBase + "/Tapices");
     toolTip_->Configurar(programa_.Tapiz);
@@ -90,125 +71,9 @@ ConfigurarPrograma::ConfigurarPrograma(Programa& programa, QWidget* padre)
     cargando_ = false;
     AbrirToolTipC();
     ColoqueTapiz();
-    tab1_->setCurrentIndex(0);
 }
 
-QWidget* ConfigurarPrograma::CrearPestanaImagen() {
-    auto* pagina = new QWidget(tab1_);
-    image1_ = new QLabel(pagina);
-    image1_->setObjectName(QStringLiteral("Image1"));
-    image1_->setAlignment(Qt::AlignCenter);
-    auto* marcoImagen = new QLabel(pagina);
-    marcoImagen->setFrameShape(QFrame::StyledPanel);
-    marcoImagen->setFixedSize(TamanoVista() + QSize(4, 4));
-    auto* dentro = new QVBoxLayout(marcoImagen);
-    dentro->setContentsMargins(2, 2, 2, 2);
-    dentro->addWidget(image1_, 0, Qt::AlignCenter);
-
-    auto* abrir = BotonDialogo(*pagina, "Abrir", "Capturar Imagen");
-    abrir->setToolTip(QStringLiteral("Capturar una Imágen para el tapiz del menú principal. "));
-    connect(abrir, &QPushButton::clicked, this, &ConfigurarPrograma::Abrir);
-    check1_ = Marca(QStringLiteral("Check1"), "Ajustar la Imagen", pagina);
-
-    auto* opciones = new QVBoxLayout;
-    opciones->addWidget(Opciones(
-        "Alineación Vertical", vertical_,
-        {{"Option1", "Centrado", 0}, {"Option2", "Al tope", 1}, {"Option3", "Al fondo", 2}},
-        pagina));
-    opciones->addWidget(Opciones("Alineación Horizontal", horizontal_,
-                                 {{"Option5", "A la izquierda", 0},
-                                  {"Option4", "Centrado", 1},
-                                  {"Option6", "A la derecha", 2}},
-                                 pagina));
-    opciones->addWidget(check1_);
-    opciones->addStretch();
-    opciones->addWidget(abrir);
-    auto* capas = new QHBoxLayout(pagina);
-    capas->addWidget(marcoImagen, 0, Qt::AlignTop);
-    capas->addLayout(opciones);
-    return pagina;
-}
-
-QLabel* ConfigurarPrograma::Muestra(const QString& nombre, std::int32_t color) {
-    auto* etiqueta = new QLabel;
-    etiqueta->setObjectName(nombre);
-    etiqueta->setFrameShape(QFrame::Box);
-    etiqueta->setMinimumSize(28, 22);
-    etiqueta->setAutoFillBackground(true);
-    PonerColor(etiqueta, color);
-    return etiqueta;
-}
-
-QWidget* ConfigurarPrograma::CrearPestanaToolTip() {
-    auto* pagina = new QWidget(tab1_);
-    auto* rejilla = new QGridLayout(pagina);
-
-    combo1_ = new QComboBox(pagina);
-    combo1_->setObjectName(QStringLiteral("Combo1"));
-    auto* rotuloLetra = new QLabel(QStringLiteral("Tamaño de  la Letra:"), pagina);
-    rotuloLetra->setBuddy(combo1_);
-    rejilla->addWidget(rotuloLetra, 0, 0);
-    rejilla->addWidget(combo1_, 0, 1);
-
-    fondo_ = Muestra(QStringLiteral("LSLabel1"), TipFondoDefecto);
-    auto* rotuloFondo = new QLabel(QStringLiteral("Color de Fondo:"), pagina);
-    auto* lcolor = BotonDialogo(*pagina, "LColor", " Seleccionar un Color de Fondo ");
-    lcolor->setToolTip(QStringLiteral(" Seleccionar un Color de Fondo "));
-    connect(lcolor, &QPushButton::clicked, this, [this] { ElegirColor(fondo_); });
-    auto* muestras = new QHBoxLayout;
-    for (int i = 0; i < 5; ++i) {
-        QLabel* m = Muestra(QStringLiteral("LSLabel%1").arg(i + 3), Muestras[i]);
-        m->setToolTip(QStringLiteral(" Haga Clic para Seleccionar el Color "));
-        m->setCursor(Qt::PointingHandCursor);
-        m->installEventFilter(this);
-        muestras->addWidget(m);
-    }
-    muestras->addStretch();
-    auto* filaFondo = new QHBoxLayout;
-    filaFondo->addWidget(fondo_, 1);
-    filaFondo->addWidget(lcolor);
-    rejilla->addWidget(rotuloFondo, 1, 0);
-    rejilla->addLayout(filaFondo, 1, 1);
-    rejilla->addLayout(muestras, 2, 1);
-
-    texto_ = Muestra(QStringLiteral("LSLabel2"), 0);
-    auto* owl3 = BotonDialogo(*pagina, "OwlButton3", " Seleccionar el Color de la Letra ");
-    connect(owl3, &QPushButton::clicked, this, [this] { ElegirColor(texto_); });
-    rejilla->addWidget(new QLabel(QStringLiteral("Color de la Letra:"), pagina), 3, 0);
-    auto* filaTexto = new QHBoxLayout;
-    filaTexto->addWidget(texto_, 1);
-    filaTexto->addWidget(owl3);
-    rejilla->addLayout(filaTexto, 3, 1);
-
-    check3_ = Marca(QStringLiteral("Check3"), "ToolTip Centrado", pagina);
-    check4_ = Marca(QStringLiteral("Check4"), "ToolTip Tradicional", pagina);
-    rejilla->addWidget(check3_, 4, 1);
-    rejilla->addWidget(check4_, 5, 1);
-
-    muestraBoton_ = BotonDialogo(*pagina, "OwlButton1", "Botón");
-    muestraBoton_->setProperty("Tag", QStringLiteral("Mensaje del Botón"));
-    muestraBoton_->setToolTip(
-        QStringLiteral("ToolTip Ejemplo de la descripción del botón seleccionado. "));
-    auto* defecto = BotonDialogo(*pagina, "OwlButton2", " Colocar los Valores por Defecto ");
-    defecto->setToolTip(QStringLiteral(" Colocar los Valores por Defecto "));
-    connect(defecto, &QPushButton::clicked, this, &ConfigurarPrograma::ValoresPorDefecto);
-    auto* aviso =
-        new QLabel(QStringLiteral("Para Visualizar coloque el Cursor del Ratón sobre el Botón!"));
-    auto* filaMuestra = new QHBoxLayout;
-    filaMuestra->addWidget(muestraBoton_);
-    filaMuestra->addWidget(aviso, 1);
-    rejilla->addLayout(filaMuestra, 6, 0, 1, 2);
-    rejilla->addWidget(defecto, 7, 0, 1, 2, Qt::AlignLeft);
-    rejilla->setRowStretch(8, 1);
-
-    const auto cambio = [this] {
-        if (!cargando_) AbrirToolTipC();
-    };
-    connect(combo1_, &QComboBox::currentIndexChanged, this, cambio);
-    connect(check3_, &QCheckBox::toggled, this, cambio);
-    connect(check4_, &QCheckBox::toggled, this, cambio);
-    return pagina;
-}
+ConfigurarPrograma::~ConfigurarPrograma() = default;
 
 void ConfigurarPrograma::ColoqueTapiz() {
     const auto registros = LeerRegistrosTapiz(programa_.Carpetas.RutaBase + "/Tapiz.kvl");
@@ -218,18 +83,18 @@ void ConfigurarPrograma::ColoqueTapiz() {
     const ConfiguracionTapiz& t = programa_.Tapiz;
     vertical_->button(t.TapizVertical)->setChecked(true);
     horizontal_->button(t.TapizHorizontal)->setChecked(true);
-    check1_->setChecked(t.TapizAjustar != 0);
+    ui_->Check1->setChecked(t.TapizAjustar != 0);
     efecto_ = t.TapizEfecto;
 }
 
 void ConfigurarPrograma::ConfiguraToolTip() {
-    for (int i = 0; i <= 7; ++i) combo1_->addItem(QString::number(PuntosLetraTip(i)));
+    for (int i = 0; i <= 7; ++i) ui_->Combo1->addItem(QString::number(PuntosLetraTip(i)));
     const ConfiguracionTapiz& t = programa_.Tapiz;
-    combo1_->setCurrentIndex(t.TipLetra <= 7 ? t.TipLetra : IndiceLetraDefecto);
-    PonerColor(fondo_, t.TipFondo);
-    PonerColor(texto_, t.TipTexto);
-    check3_->setChecked(t.TipCentrado != 0);
-    check4_->setChecked(t.TipTradicional != 0);
+    ui_->Combo1->setCurrentIndex(t.TipLetra <= 7 ? t.TipLetra : IndiceLetraDefecto);
+    PonerColor(ui_->LSLabel1, t.TipFondo);
+    PonerColor(ui_->LSLabel2, t.TipTexto);
+    ui_->Check3->setChecked(t.TipCentrado != 0);
+    ui_->Check4->setChecked(t.TipTradicional != 0);
 }
 
 void ConfigurarPrograma::AbrirToolTipC() {
@@ -242,8 +107,8 @@ void ConfigurarPrograma::AbrirToolTipC() {
 void ConfigurarPrograma::PonerImagen(const QPixmap& imagen) {
     imagen_ = imagen;
     if (imagen.isNull()) {
-        image1_->clear();
-        image1_->setFixedSize(TamanoVista());
+        ui_->Image1->clear();
+        ui_->Image1->setFixedSize(TamanoVista());
         return;
     }
     // The picture fitted into the preview's design size, keeping its proportions.
@@ -251,8 +116,8 @@ void ConfigurarPrograma::PonerImagen(const QPixmap& imagen) {
     const double r = std::min(static_cast<double>(vista.height()) / imagen.height(),
                               static_cast<double>(vista.width()) / imagen.width());
     const QSize tamano(static_cast<int>(imagen.width() * r), static_cast<int>(imagen.height() * r));
-    image1_->setFixedSize(tamano);
-    image1_->setPixmap(imagen.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    ui_->Image1->setFixedSize(tamano);
+    ui_->Image1->setPixmap(imagen.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 void ConfigurarPrograma::Abrir() {
@@ -287,7 +152,7 @@ void ConfigurarPrograma::Abrir() {
     vertical_->button(0)->setChecked(true);
     horizontal_->button(1)->setChecked(true);
     tapizNuevo_ = ruta;
-    check1_->setChecked(false);
+    ui_->Check1->setChecked(false);
     efecto_ = 0;
 }
 
@@ -296,7 +161,7 @@ void ConfigurarPrograma::PonerColor(QLabel* etiqueta, std::int32_t color) {
     QPalette paleta = etiqueta->palette();
     paleta.setColor(QPalette::Window, ColorQt(color));
     etiqueta->setPalette(paleta);
-    if (!cargando_ && (etiqueta == fondo_ || etiqueta == texto_)) AbrirToolTipC();
+    if (!cargando_ && (etiqueta == ui_->LSLabel1 || etiqueta == ui_->LSLabel2)) AbrirToolTipC();
 }
 
 void ConfigurarPrograma::ElegirColor(QLabel* etiqueta) {
@@ -306,17 +171,18 @@ void ConfigurarPrograma::ElegirColor(QLabel* etiqueta) {
 
 bool ConfigurarPrograma::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() == QEvent::MouseButtonRelease)
-        if (auto* muestra = qobject_cast<QLabel*>(objeto)) PonerColor(fondo_, ColorDe(muestra));
+        if (auto* muestra = qobject_cast<QLabel*>(objeto))
+            PonerColor(ui_->LSLabel1, ColorDe(muestra));
     return QDialog::eventFilter(objeto, evento);
 }
 
 void ConfigurarPrograma::ValoresPorDefecto() {
     cargando_ = true;
-    combo1_->setCurrentIndex(IndiceLetraDefecto);
-    PonerColor(fondo_, TipFondoDefecto);
-    PonerColor(texto_, ColorTrevalo(QApplication::palette().color(QPalette::ButtonText)));
-    check3_->setChecked(false);
-    check4_->setChecked(false);
+    ui_->Combo1->setCurrentIndex(IndiceLetraDefecto);
+    PonerColor(ui_->LSLabel1, TipFondoDefecto);
+    PonerColor(ui_->LSLabel2, ColorTrevalo(QApplication::palette().color(QPalette::ButtonText)));
+    ui_->Check3->setChecked(false);
+    ui_->Check4->setChecked(false);
     cargando_ = false;
     AbrirToolTipC();
 }
@@ -326,13 +192,13 @@ ConfiguracionTapiz ConfigurarPrograma::Valores() const {
     t.TapizArchivo = Std(tapizNuevo_);
     t.TapizVertical = static_cast<std::int16_t>(vertical_->checkedId());
     t.TapizHorizontal = static_cast<std::int16_t>(horizontal_->checkedId());
-    t.TapizAjustar = check1_->isChecked() ? -1 : 0;
+    t.TapizAjustar = ui_->Check1->isChecked() ? -1 : 0;
     t.TapizEfecto = efecto_;
-    t.TipLetra = static_cast<std::uint8_t>(combo1_->currentIndex());
-    t.TipFondo = ColorDe(fondo_);
-    t.TipTexto = ColorDe(texto_);
-    t.TipCentrado = check3_->isChecked() ? -1 : 0;
-    t.TipTradicional = check4_->isChecked() ? -1 : 0;
+    t.TipLetra = static_cast<std::uint8_t>(ui_->Combo1->currentIndex());
+    t.TipFondo = ColorDe(ui_->LSLabel1);
+    t.TipTexto = ColorDe(ui_->LSLabel2);
+    t.TipCentrado = ui_->Check3->isChecked() ? -1 : 0;
+    t.TipTradicional = ui_->Check4->isChecked() ? -1 : 0;
     return t;
 }
 

@@ -11,16 +11,16 @@
 
 #include <QDialog>
 #include <QPixmap>
+#include <memory>
 
 #include "shell/Programa.h"
 
 class QButtonGroup;
-class QCheckBox;
-class QComboBox;
 class QLabel;
-class QPushButton;
-class QRadioButton;
-class QTabWidget;
+
+namespace Ui {
+class ConfigurarPrograma;
+}
 
 namespace trevalo {
 
@@ -31,6 +31,7 @@ class ConfigurarPrograma : public QDialog {
 
   public:
     ConfigurarPrograma(Programa& programa, QWidget* padre = nullptr);
+    ~ConfigurarPrograma() override;
 
     // The picture of the wallpaper as accepted (empty when none could be loaded).
     const QPixmap& Imagen() const { return imagen_; }
@@ -41,9 +42,6 @@ class ConfigurarPrograma : public QDialog {
     ToolTipTrevalo& ToolTip() { return *toolTip_; }
 
   private:
-    QWidget* CrearPestanaImagen();
-    QWidget* CrearPestanaToolTip();
-    QLabel* Muestra(const QString& nombre, std::int32_t color);
     void ColoqueTapiz();
     void ConfiguraToolTip();
     void AbrirToolTipC();
@@ -57,18 +55,10 @@ class ConfigurarPrograma : public QDialog {
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
     Programa& programa_;
+    std::unique_ptr<Ui::ConfigurarPrograma> ui_;
     ToolTipTrevalo* toolTip_;
-    QTabWidget* tab1_;
-    QLabel* image1_;
-    QButtonGroup* vertical_;
+    QButtonGroup* vertical_; // the options by TapizVertical
     QButtonGroup* horizontal_;
-    QCheckBox* check1_;
-    QComboBox* combo1_;
-    QLabel* fondo_;
-    QLabel* texto_;
-    QCheckBox* check3_;
-    QCheckBox* check4_;
-    QPushButton* muestraBoton_;
     QPixmap imagen_;
     QString tapizNuevo_;
     QString carpetaDialogo_;
