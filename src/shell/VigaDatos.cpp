@@ -924,12 +924,14 @@ void VigaDatos::BotonCarga(int tipo) {
         programa_.Dialogo().Mensaje(Aviso(b.textoAviso, b.tituloAviso));
         return Spread(10).setFocus();
     }
-    if (!MostrarCarga(tipo, *tramoCarga)) return;
+    const auto carga = MostrarCarga(tipo, *tramoCarga);
+    if (!carga || !edicion_.AplicarCarga(*tramoCarga, *carga).Aceptado) return;
     DesmarcarTodos();
     Registrar(QString::fromUtf8(BotonesCarga[tipo - 1].titulo).trimmed());
 }
 
-bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga) {
+std::optional<EntradaCarga> VigaDatos::MostrarCarga(int tipo,
+                                                    const Arreglo<std::int16_t>& tramoCarga) {
     std::unique_ptr<DialogoCarga> dialogo;
     switch (tipo) {
     case 1:
@@ -957,8 +959,8 @@ bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga) 
         dialogo = std::make_unique<Carga08>(programa_, tramoCarga, this);
         break;
     }
-    dialogo->exec();
-    return dialogo->CargaAceptada();
+    if (dialogo->exec() != QDialog::Accepted) return std::nullopt;
+    return dialogo->Entrada();
 }
 
 void VigaDatos::EliminarCargas() {

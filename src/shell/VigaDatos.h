@@ -14,6 +14,7 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <optional>
 
 #include "shell/DelegadosCelda.h"
 #include "shell/Programa.h"
@@ -119,8 +120,8 @@ class VigaDatos : public QDialog {
     void DesmarcarTodos();
     void BandaSoltada(const BandaSeleccion& banda);
     void BotonCarga(int tipo);
-    // The load dialog of kind 1..8 over the marked spans; true when the load was accepted.
-    bool MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga);
+    // The load dialog of kind 1..8 over the marked spans: the load accepted, or nothing.
+    std::optional<EntradaCarga> MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga);
     void EliminarCargas();
     // " Perfiles Metálicos ": the steel profile window over the type in front in Spread8.
     void PerfilesMetalicos();
