@@ -978,7 +978,13 @@ void VigaDatos::PerfilesMetalicos() {
     VigasMetalicas ventana(programa_, this);
     QApplication::restoreOverrideCursor();
     // A captured section shows in its type's row, and the beam is changed: leaving asks.
-    if (ventana.exec() == QDialog::Accepted && ventana.TipoCapturado() > 0) {
+    const Veredicto captura =
+        ventana.exec() == QDialog::Accepted
+            ? edicion_.CapturarPerfil(programa_.ListaPerfil, ventana.FilaCapturada(),
+                                      ventana.TipoCapturado())
+            : Ignorar();
+    if (captura.Aviso) programa_.Dialogo().Mensaje(*captura.Aviso);
+    if (captura.Aceptado) {
         LlenarSpread(8);
         Spread(8).setCurrentCell(static_cast<int>(ventana.TipoCapturado()) - 1, 0);
         Redibujar();

@@ -120,7 +120,7 @@ QStringList TitulosVentanas(ProgramaPrueba& p) {
     titulo(OpcionPerfil(programa, ventana.get()));
     for (const FamiliaPerfil familia : TodasLasFamilias) {
         programa.Perfiles = {programa.Carpetas.RutaPerfiles + "/DobleTee_IPE.pfl", Std(Variable),
-                             false, false};
+                             false};
         titulo(TablaPerfil(programa, familia, ventana.get()));
     }
     titulo(DobleTee(

@@ -428,6 +428,7 @@ class VigaDatosTest : public QObject {
         lista.ListaDesignacion(1) = "1 IPE 300";
         lista.ListaArea(1) = 53.8;
         lista.ListaInercia(1) = 8356;
+        const std::string previa = viga.Designacion(1);
         EnVentana<VigasMetalicas>([this](VigasMetalicas& m) {
             Control<QTableWidget>(m, "Spread1")->setCurrentCell(0, 0);
             dialogos().respuestas = {RespuestaSi};
@@ -437,6 +438,14 @@ class VigaDatosTest : public QObject {
         QCOMPARE(viga.Designacion(1), std::string("1 IPE 300"));
         QCOMPARE(ValorCelda(e.Spread(8), 1, 2), 53.8);
         QVERIFY(e.Modificada());
+        // The capture is one step of the history.
+        QAction* deshacer = e.Accion(QStringLiteral("ID_Deshacer"));
+        QCOMPARE(deshacer->toolTip(), QStringLiteral("Deshacer: Capturar Perfil Metálico"));
+        deshacer->trigger();
+        QCOMPARE(viga.Designacion(1), previa);
+        QVERIFY(!e.Modificada());
+        e.Accion(QStringLiteral("ID_Rehacer"))->trigger();
+        QCOMPARE(ValorCelda(e.Spread(8), 1, 2), 53.8);
         dialogos().respuestas = {RespuestaNo};
         Pulsar(e, "LSButton2");
         QCOMPARE(dialogos().preguntas.back(), PreguntaSalir(true));
