@@ -34,11 +34,11 @@
 #include "shell/Carga08.h"
 #include "shell/EsquinaNo.h"
 #include "shell/Iconos.h"
+#include "shell/ListaVigas.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
 #include "shell/VigasMetalicas.h"
-#include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
 
 namespace trevalo {
@@ -149,10 +149,9 @@ QWidget* Marco(const QString& titulo, QLayout* contenido) {
 
 // --- The window ----------------------------------------------------------------------------
 
-VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
-    : QDialog(parent), programa_(programa), edicion_(programa.Viga),
-      proyecto_(qobject_cast<VigasProyecto*>(parent)), toolTip_(new ToolTipTrevalo(this)),
-      pila_(new QUndoStack(this)) {
+VigaDatos::VigaDatos(Programa& programa, ListaVigas* vigas, QWidget* parent)
+    : QDialog(parent), programa_(programa), edicion_(programa.Viga), vigas_(vigas),
+      toolTip_(new ToolTipTrevalo(this)), pila_(new QUndoStack(this)) {
     // Each step holds the beam twice: a long history of a long beam is bounded.
     pila_->setUndoLimit(100);
     setObjectName(QStringLiteral("VigaDatos"));
@@ -200,6 +199,7 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     } else {
         CopiarMovimientos();
     }
+    if (vigas_) connect(vigas_, &ListaVigas::ActualCambiada, this, &VigaDatos::CopiarMovimientos);
     viga.VigaNueva = false;
     ConfigurarSpread();
     ColoquePantalla();
@@ -219,13 +219,7 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
 VigaDatos::~VigaDatos() = default;
 
 void VigaDatos::CopiarMovimientos() {
-    for (int i = 0; i < 2; ++i) {
-        const auto* boton =
-            proyecto_ ? proyecto_->findChild<QPushButton*>(QStringLiteral("BtoMove%1").arg(i),
-                                                           Qt::FindDirectChildrenOnly)
-                      : nullptr;
-        btoMove_[i]->setEnabled(boton && boton->isEnabled());
-    }
+    for (int i = 0; i < 2; ++i) btoMove_[i]->setEnabled(vigas_ && vigas_->Permitido(i));
 }
 
 void VigaDatos::Rotulos() {
@@ -1101,8 +1095,8 @@ bool VigaDatos::Salvar() {
     TerminarEntradas();
     auto& estado = programa_.Estado;
     try {
-        if (proyecto_ && estado.RsGeneralViga && proyecto_->FilaActiva() > 0)
-            estado.RsGeneralViga->AbsolutePosition(proyecto_->FilaActiva() - 1);
+        if (vigas_ && estado.RsGeneralViga && vigas_->Actual() > 0)
+            estado.RsGeneralViga->AbsolutePosition(vigas_->Actual() - 1);
         programa_.Viga.NombreVigaActual = Std(lblNombre_->text());
         SalvarViga(estado, programa_.Viga);
     } catch (const ErrorTrevalo& e) {
@@ -1138,14 +1132,13 @@ void VigaDatos::reject() {
 }
 
 void VigaDatos::MoverViga(int indice) {
-    if (!PreguntarSalvar(false) || !proyecto_) return;
-    programa_.SinFocoCanvas = true;
-    proyecto_->BtoMove_Click(indice);
+    if (!PreguntarSalvar(false) || !vigas_) return;
+    // The project window shows the beam of the new row behind the editor.
+    vigas_->Mover(indice);
     programa_.Vista.ModoEditor = true;
-    CopiarMovimientos();
     auto& estado = programa_.Estado;
-    if (estado.RsGeneralViga && proyecto_->FilaActiva() > 0) {
-        estado.RsGeneralViga->AbsolutePosition(proyecto_->FilaActiva() - 1);
+    if (estado.RsGeneralViga && vigas_->Actual() > 0) {
+        estado.RsGeneralViga->AbsolutePosition(vigas_->Actual() - 1);
         programa_.Viga.NombreVigaActual = estado.RsGeneralViga->Campo("NombreViga").Texto();
     }
     Rotulos();

@@ -31,18 +31,18 @@ class QUndoStack;
 namespace trevalo {
 
 class CampoNumero;
+class ListaVigas;
 class PantallaViga;
 class ToolTipTrevalo;
-class VigasProyecto;
 struct BandaSeleccion;
 
 class VigaDatos : public QDialog {
     Q_OBJECT
 
   public:
-    // `parent` is the project window when the editor is opened from it; the moves to the
-    // previous and next beam and the row the save writes to are its.
-    VigaDatos(Programa& programa, QWidget* parent = nullptr);
+    // `vigas` is the project window's list when the editor is opened from it: the moves to the
+    // previous and next beam go through it, and the save writes to its current row.
+    VigaDatos(Programa& programa, ListaVigas* vigas = nullptr, QWidget* parent = nullptr);
     ~VigaDatos() override;
 
     PantallaViga& Lienzo() { return *pantalla_; }
@@ -144,12 +144,12 @@ class VigaDatos : public QDialog {
     bool PreguntarSalvar(bool conCancelar);
     void MoverViga(int indice);
     void Rotulos();
-    // The moves to the previous and next beam as the project window allows them.
+    // The moves to the previous and next beam as the list allows them.
     void CopiarMovimientos();
 
     Programa& programa_;
     EdicionViga edicion_;
-    VigasProyecto* proyecto_;
+    ListaVigas* vigas_;
     bool cargando_ = true;
     int pagina_ = 1;
     int cambiando_ = 0;

@@ -17,6 +17,7 @@
 #include "VentanasPrueba.h"
 #include "comun/Proyecto.h"
 #include "shell/Carga01.h"
+#include "shell/ListaVigas.h"
 #include "shell/PantallaViga.h"
 #include "shell/VigaDatos.h"
 #include "shell/VigasMetalicas.h"
@@ -499,7 +500,7 @@ class VigaDatosTest : public QObject {
         p->programa.Estado.NombreProyecto = "Ejemplo Demostrativo.trv";
         VigasProyecto ventana(p->programa);
         const auto nombres = ventana.NombresLista();
-        VigaDatos editor(p->programa, &ventana);
+        VigaDatos editor(p->programa, &ventana.Lista(), &ventana);
         auto* anterior = Hijo<QPushButton>(editor, QStringLiteral("BtoMove0"));
         auto* siguiente = Hijo<QPushButton>(editor, QStringLiteral("BtoMove1"));
         QVERIFY(!anterior->isEnabled());
