@@ -53,6 +53,16 @@ void ValoresTipo(VigaActual& v, long hasta) {
     }
 }
 
+// A load in whole kgf: one the model's 32 bits cannot hold is error 6.
+Veredicto Carga32(double valor) {
+    try {
+        CI(valor);
+    } catch (const ErrorTrevalo& e) {
+        return Rechazar(MensajeFalla(e));
+    }
+    return Aceptar();
+}
+
 } // namespace
 
 bool EsCarga(const ColumnaCarga& columna) {
@@ -391,36 +401,42 @@ void EdicionViga::EliminarCargas() {
     trevalo::EliminarCargas(viga_);
 }
 
+Veredicto EdicionViga::RevisarCarga(const EntradaCarga& carga) const {
+    if (const auto* unica = std::get_if<CargaPorTramo>(&carga)) return Carga32(unica->valor);
+    const FilasCarga& lista = std::get<FilasCarga>(carga);
+    if (static_cast<long>(lista.filas.size()) > lista.lista.limite)
+        return Rechazar(MensajeFalla(ErrorTrevalo::SubindiceFueraDeIntervalo()));
+    for (const std::vector<double>& fila : lista.filas)
+        for (std::size_t c = 0; c < lista.lista.columnas.size(); ++c)
+            if (Veredicto v = ValorCarga(lista.lista.columnas[c], fila.at(c)); !v.Aceptado)
+                return v;
+    return Aceptar();
+}
+
 Veredicto EdicionViga::AplicarCarga(const Arreglo<std::int16_t>& tramos,
-                                    const CargaPorTramo& carga) {
-    std::int32_t valor = 0;
-    try {
-        valor = static_cast<std::int32_t>(CI(carga.valor));
-    } catch (const ErrorTrevalo& e) {
-        return Rechazar(MensajeFalla(e));
-    }
+                                    const EntradaCarga& carga) {
+    Veredicto veredicto = RevisarCarga(carga);
+    if (veredicto.Aceptado) std::visit([&](const auto& c) { Escribir(tramos, c); }, carga);
+    return veredicto;
+}
+
+void EdicionViga::Escribir(const Arreglo<std::int16_t>& tramos, const CargaPorTramo& carga) {
+    const auto valor = static_cast<std::int32_t>(CI(carga.valor));
     for (long t = 1; t <= tramos.Ubound(); ++t) {
         if (tramos(t) != 1) continue;
         (viga_.*carga.campo)(t) = valor;
         if (carga.la) viga_.la5(t) = *carga.la;
         if (carga.gravedad) viga_.Gravedad(t) = *carga.gravedad;
     }
-    return Aceptar();
 }
 
 Veredicto EdicionViga::ValorCarga(const ColumnaCarga& columna, std::optional<double> numero) const {
-    try {
-        if (numero && EsCarga(columna)) CI(*numero);
-    } catch (const ErrorTrevalo& e) {
-        return Rechazar(MensajeFalla(e));
-    }
-    return Aceptar();
+    return numero && EsCarga(columna) ? Carga32(*numero) : Aceptar();
 }
 
-Veredicto EdicionViga::AplicarCargas(const Arreglo<std::int16_t>& tramos, const ListaCargas& lista,
-                                     const std::vector<std::vector<double>>& filas) {
-    const auto n = static_cast<long>(filas.size());
-    if (n > lista.limite) return Rechazar(MensajeFalla(ErrorTrevalo::SubindiceFueraDeIntervalo()));
+void EdicionViga::Escribir(const Arreglo<std::int16_t>& tramos, const FilasCarga& carga) {
+    const ListaCargas& lista = carga.lista;
+    const auto n = static_cast<long>(carga.filas.size());
     for (long t = 1; t <= tramos.Ubound(); ++t) {
         if (tramos(t) != 1) continue;
         (viga_.*lista.cantidad)(t) = static_cast<std::int16_t>(n);
@@ -430,11 +446,10 @@ Veredicto EdicionViga::AplicarCargas(const Arreglo<std::int16_t>& tramos, const 
                     [&](auto valores) {
                         auto& celda = (viga_.*valores)(t, r);
                         celda = static_cast<std::remove_reference_t<decltype(celda)>>(
-                            filas[static_cast<std::size_t>(r - 1)][c]);
+                            carga.filas[static_cast<std::size_t>(r - 1)][c]);
                     },
                     lista.columnas[c].valores);
     }
-    return Aceptar();
 }
 
 Veredicto EdicionViga::CapturarPerfil(const ListaPerfiles& lista, long fila, long tipo) {

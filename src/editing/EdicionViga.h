@@ -93,6 +93,15 @@ struct CargaPorTramo {
     std::optional<std::uint8_t> gravedad;
 };
 
+// The rows of a list of loads, one vector of values per row in the order of its columns.
+struct FilasCarga {
+    ListaCargas lista;
+    std::vector<std::vector<double>> filas;
+};
+
+// What a load dialog entered, to be written to the marked spans.
+using EntradaCarga = std::variant<CargaPorTramo, FilasCarga>;
+
 class EdicionViga {
   public:
     explicit EdicionViga(VigaActual& viga) : viga_(viga) {}
@@ -136,15 +145,14 @@ class EdicionViga {
     std::optional<Arreglo<std::int16_t>> TramosCarga() const;
     void EliminarCargas();
 
-    // A load of one value per span written to every span of `tramos`, rounded to whole kgf;
-    // one the model cannot hold is refused (error 6).
-    Veredicto AplicarCarga(const Arreglo<std::int16_t>& tramos, const CargaPorTramo& carga);
+    // Whether the beam can take a load as entered, before it is written: a value the model
+    // cannot hold is error 6; a count beyond the list's slots is the subscript error.
+    Veredicto RevisarCarga(const EntradaCarga& carga) const;
+    // A load entered written to every span of `tramos`: one value rounded to whole kgf, or a
+    // list's count and rows with its loads rounded. Refused as RevisarCarga, nothing written.
+    Veredicto AplicarCarga(const Arreglo<std::int16_t>& tramos, const EntradaCarga& carga);
     // A value typed in a column of a list of loads: a load the model cannot hold (error 6).
     Veredicto ValorCarga(const ColumnaCarga& columna, std::optional<double> numero) const;
-    // The rows of a list written to every span of `tramos`, loads rounded to whole kgf. A count
-    // beyond the list's slots is the subscript error, with nothing written.
-    Veredicto AplicarCargas(const Arreglo<std::int16_t>& tramos, const ListaCargas& lista,
-                            const std::vector<std::vector<double>>& filas);
 
     // Row `fila` of the profile list captured into steel type `tipo`.
     Veredicto CapturarPerfil(const ListaPerfiles& lista, long fila, long tipo);
@@ -156,6 +164,8 @@ class EdicionViga {
                                    const char* titulo);
     Veredicto TipoTramo(long fila, double valor);
     void Tipos(long valor);
+    void Escribir(const Arreglo<std::int16_t>& tramos, const CargaPorTramo& carga);
+    void Escribir(const Arreglo<std::int16_t>& tramos, const FilasCarga& carga);
 
     VigaActual& viga_;
 };

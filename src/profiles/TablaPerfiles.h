@@ -27,12 +27,11 @@ struct TablaPerfiles {
     std::vector<FilaPerfil> Filas;
 };
 
-// The one table open for editing or loading, and the generator's capture flag.
+// The one table open for editing or loading.
 struct EstadoTablaPerfiles {
-    std::string ArchivoTabla;   // full path
-    std::string TituloTabla;    // file name with its extension, shown in the window title
-    bool TablaNueva = false;    // just made from the template: the editor skips the read
-    bool CambioCaptura = false; // the generator captured a section
+    std::string ArchivoTabla; // full path
+    std::string TituloTabla;  // file name with its extension, shown in the window title
+    bool TablaNueva = false;  // just made from the template: the editor skips the read
 };
 
 // The value of a named field of a row of the given family; asserts the field is the family's.

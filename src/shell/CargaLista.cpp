@@ -137,7 +137,7 @@ std::vector<std::vector<double>> CargaLista::Tomadas() const {
     return filas;
 }
 
-Veredicto CargaLista::Aplicar() {
+EntradaCarga CargaLista::Tomar() {
     Cantidad(false); // a count typed and not yet applied
     if (forma_.limiteAlAceptar && n_ > forma_.limite) {
         AvisoLimite();
@@ -145,9 +145,8 @@ Veredicto CargaLista::Aplicar() {
         n_ = static_cast<int>(forma_.limite);
     }
     // A count beyond the slots of a span, which only the limit's check on Return stops, is
-    // refused by the edit before anything is written.
-    return EdicionViga(programa_.Viga)
-        .AplicarCargas(TramoCarga(), {forma_.cantidad, forma_.columnas, forma_.limite}, Tomadas());
+    // refused before the dialog closes.
+    return FilasCarga{{forma_.cantidad, forma_.columnas, forma_.limite}, Tomadas()};
 }
 
 } // namespace trevalo

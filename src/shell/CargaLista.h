@@ -6,8 +6,8 @@
 // the count typed until the field is changed again); leaving Long1 applies it unchecked.
 // The trapezoids check the limit on acceptance instead. A load typed with decimals is kept
 // rounded to the nearest integer, ties to even (2.5 gives 2); one of 2,147,483,648 or more
-// is refused with error 6. On acceptance the count and the rows are written to every marked
-// span.
+// is refused with error 6. On acceptance the count and the rows are what is written to every
+// marked span.
 // Positions are not compared with the span's length.
 
 #include <QString>
@@ -46,7 +46,7 @@ class CargaLista : public DialogoCarga {
     void AvisoLimite();
     // The first n_ rows as they are written: loads rounded to integers, ties to even.
     std::vector<std::vector<double>> Tomadas() const;
-    Veredicto Aplicar() override;
+    EntradaCarga Tomar() override;
 
     FormaCargaLista forma_;
     QLineEdit* long1_;

@@ -67,11 +67,11 @@ void CargaUnica::Colorear() {
     long1_->setPalette(colores);
 }
 
-Veredicto CargaUnica::Aplicar() {
+EntradaCarga CargaUnica::Tomar() {
     CargaPorTramo carga{forma_.valor, long1_->Valor(), std::nullopt, std::nullopt};
     if (double1_) carga.la = double1_->Valor();
     if (option1_) carga.gravedad = option1_->isChecked() ? 0 : 1;
-    return EdicionViga(programa_.Viga).AplicarCarga(TramoCarga(), carga);
+    return carga;
 }
 
 } // namespace trevalo

@@ -2,7 +2,7 @@
 // The load dialogs of one value per span (uniform, triangular, trapezoidal of type 1): the
 // value of the last marked span is shown in Long1, red when negative (a negative load acts
 // upward), and on acceptance the value rounded to the nearest integer, ties to even, is
-// written to every marked span with no range check.
+// what is written to every marked span, with no range check beyond error 6.
 
 #include <cstdint>
 
@@ -33,7 +33,7 @@ class CargaUnica : public DialogoCarga {
   private:
     void Mostrar(long tramo);
     void Colorear();
-    Veredicto Aplicar() override;
+    EntradaCarga Tomar() override;
 
     FormaCargaUnica forma_;
     CampoNumero* long1_;

@@ -89,7 +89,8 @@ void DialogoCarga::keyPressEvent(QKeyEvent* evento) {
 
 void DialogoCarga::Aceptar() {
     TerminarEdicion(*this); // a cell being typed is part of the load
-    const Veredicto veredicto = Aplicar();
+    entrada_ = Tomar();
+    const Veredicto veredicto = EdicionViga(programa_.Viga).RevisarCarga(*entrada_);
     if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
     if (veredicto.Aceptado) accept();
 }

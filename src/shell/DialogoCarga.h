@@ -1,13 +1,14 @@
 #pragma once
 // What the eight load dialogs of the beam editor share: the spans they apply to, a frame for
-// their fields, the buttons " Aceptar" and " Cancelar", and whether the load was accepted.
-// The model is written only on acceptance, to every marked span at once; Cancel, Esc and the
-// close button leave it as it was. Return never closes a load dialog: in a field it ends the
-// entry of that field, on a button it presses the button.
+// their fields, the buttons " Aceptar" and " Cancelar", and the load entered. The dialog
+// writes nothing: on acceptance the editor writes Entrada() to every marked span at once;
+// Cancel, Esc and the close button leave nothing to write. Return never closes a load dialog: in a
+// field it ends the entry of that field, on a button it presses the button.
 
 #include <QDialog>
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 #include "editing/EdicionViga.h"
 #include "shell/Programa.h"
@@ -23,7 +24,8 @@ class DialogoCarga : public QDialog {
     Q_OBJECT
 
   public:
-    bool CargaAceptada() const { return result() == QDialog::Accepted; }
+    // The load as entered, once the dialog was accepted.
+    const EntradaCarga& Entrada() const { return *entrada_; }
 
   protected:
     // tramoCarga: slots 1..NT, 1 for each span the load is written to.
@@ -48,10 +50,9 @@ class DialogoCarga : public QDialog {
     void FinCarga(QWidget* ultimoCampo);
     bool Activo() const { return activo_; }
 
-    // Writes the dialog's values to the marked spans through the beam's edits; a refusal
-    // leaves the model as it was and the dialog open, with the refusal's message.
-    virtual Veredicto Aplicar() = 0;
-    const Arreglo<std::int16_t>& TramoCarga() const { return tramoCarga_; }
+    // The dialog's values as they are to be written. " Aceptar" closes the dialog only when
+    // the beam can take them; a refusal's message shows and the dialog stays open.
+    virtual EntradaCarga Tomar() = 0;
 
     void keyPressEvent(QKeyEvent* evento) override;
 
@@ -66,6 +67,7 @@ class DialogoCarga : public QDialog {
     QPushButton* aceptar_;
     QPushButton* cancelar_;
     bool activo_ = false;
+    std::optional<EntradaCarga> entrada_;
 };
 
 } // namespace trevalo

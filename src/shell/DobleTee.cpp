@@ -33,7 +33,6 @@ DobleTee::DobleTee(Programa& programa, Capturar capturar, QWidget* parent)
     : QDialog(parent), programa_(programa), capturar_(std::move(capturar)) {
     setObjectName(QStringLiteral("DobleTee"));
     setWindowTitle(QStringLiteral("Propiedades Geométricas"));
-    programa_.Perfiles.CambioCaptura = false;
     CrearControles();
     Borrar();
 }
@@ -154,7 +153,6 @@ void DobleTee::CapturarSeccion() {
         trevalo::CapturarSeccion(nombre, d, tw, bf, tf, valores_, captura, c.SeparadorDecimal,
                                  c.SeparadorMiles);
         capturar_(captura);
-        programa_.Perfiles.CambioCaptura = true;
     }
     doubles_[0]->setFocus();
 }

@@ -2,7 +2,7 @@
 // The section generator of the double-tee tables: a name and four plate dimensions in mm, the
 // sketch of the section to scale and its twelve properties; "Capturar" hands the section, as
 // the labels show it, to the table that opened the window, and the window stays open for the
-// next one. Programa::Perfiles.CambioCaptura tells the table that a section was captured.
+// next one.
 
 #include <QDialog>
 #include <QImage>

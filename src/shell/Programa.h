@@ -33,7 +33,6 @@ struct Programa {
     EstadoTablaPerfiles Perfiles; // the profile table open in an editor, the capture flag
     ListaPerfiles ListaPerfil;    // the last table loaded for the steel beam types, for the run
     std::string ArchivoAyuda;     // the help file
-    bool SinFocoCanvas = false;   // the editor drives the project window's moves
     OpcionesImpresion Impresion;  // the choice of the last accepted print dialog
     std::uint8_t TipoSalida = 0;  // the report's output kind, 0 (the viewer) between reports
     DibujosInforme Dibujos;       // the drawings of the last report's pictures

@@ -390,7 +390,6 @@ void TablaPerfil::CrearPerfil() {
     DobleTee generador(
         programa_, [this](const CapturaSeccion& c) { AgregarCaptura(c); }, this);
     generador.exec();
-    if (programa_.Perfiles.CambioCaptura) tablaCambiada_ = true;
     spread1_->setFocus();
 }
 
@@ -406,6 +405,7 @@ void TablaPerfil::AgregarCaptura(const CapturaSeccion& captura) {
     for (std::size_t i = 1; i < captura.Numeros.size(); ++i)
         ColocarNumero(r, 2 + static_cast<int>(i), captura.Numeros[i]);
     spread1_->setCurrentCell(r - 1, 1);
+    tablaCambiada_ = true;
 }
 
 void TablaPerfil::Eliminar() {

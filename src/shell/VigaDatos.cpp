@@ -35,11 +35,11 @@
 #include "shell/Carga08.h"
 #include "shell/EsquinaNo.h"
 #include "shell/Iconos.h"
+#include "shell/ListaVigas.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
 #include "shell/VigasMetalicas.h"
-#include "shell/VigasProyecto.h"
 #include "store/BaseDatos.h"
 
 namespace trevalo {
@@ -231,10 +231,9 @@ QWidget* Marco(const QString& titulo, QLayout* contenido) {
 
 // --- The window ----------------------------------------------------------------------------
 
-VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
-    : QDialog(parent), programa_(programa), edicion_(programa.Viga),
-      proyecto_(qobject_cast<VigasProyecto*>(parent)), toolTip_(new ToolTipTrevalo(this)),
-      historia_(new QUndoStack(this)) {
+VigaDatos::VigaDatos(Programa& programa, ListaVigas* vigas, QWidget* parent)
+    : QDialog(parent), programa_(programa), edicion_(programa.Viga), vigas_(vigas),
+      toolTip_(new ToolTipTrevalo(this)), historia_(new QUndoStack(this)) {
     // Each step holds the beam twice: a long history of a long beam is bounded.
     historia_->setUndoLimit(100);
     setObjectName(QStringLiteral("VigaDatos"));
@@ -282,6 +281,7 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
     } else {
         CopiarMovimientos();
     }
+    if (vigas_) connect(vigas_, &ListaVigas::ActualCambiada, this, &VigaDatos::CopiarMovimientos);
     viga.VigaNueva = false;
     ColoquePantalla();
     programa_.Vista.ModoEditor = true;
@@ -300,13 +300,7 @@ VigaDatos::VigaDatos(Programa& programa, QWidget* parent)
 VigaDatos::~VigaDatos() = default;
 
 void VigaDatos::CopiarMovimientos() {
-    for (int i = 0; i < 2; ++i) {
-        const auto* boton =
-            proyecto_ ? proyecto_->findChild<QPushButton*>(QStringLiteral("BtoMove%1").arg(i),
-                                                           Qt::FindDirectChildrenOnly)
-                      : nullptr;
-        btoMove_[i]->setEnabled(boton && boton->isEnabled());
-    }
+    for (int i = 0; i < 2; ++i) btoMove_[i]->setEnabled(vigas_ && vigas_->Permitido(i));
 }
 
 void VigaDatos::Rotulos() {
@@ -891,12 +885,14 @@ void VigaDatos::BotonCarga(int tipo) {
         programa_.Dialogo().Mensaje(Aviso(b.textoAviso, b.tituloAviso));
         return Vista(Rejilla::TramosCargados).setFocus();
     }
-    if (!MostrarCarga(tipo, *tramoCarga)) return;
+    const auto carga = MostrarCarga(tipo, *tramoCarga);
+    if (!carga || !edicion_.AplicarCarga(*tramoCarga, *carga).Aceptado) return;
     DesmarcarTodos();
     Registrar(QString::fromUtf8(BotonesCarga[tipo - 1].titulo).trimmed());
 }
 
-bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga) {
+std::optional<EntradaCarga> VigaDatos::MostrarCarga(int tipo,
+                                                    const Arreglo<std::int16_t>& tramoCarga) {
     std::unique_ptr<DialogoCarga> dialogo;
     switch (tipo) {
     case 1:
@@ -924,8 +920,8 @@ bool VigaDatos::MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga) 
         dialogo = std::make_unique<Carga08>(programa_, tramoCarga, this);
         break;
     }
-    dialogo->exec();
-    return dialogo->CargaAceptada();
+    if (dialogo->exec() != QDialog::Accepted) return std::nullopt;
+    return dialogo->Entrada();
 }
 
 void VigaDatos::EliminarCargas() {
@@ -943,7 +939,13 @@ void VigaDatos::PerfilesMetalicos() {
     VigasMetalicas ventana(programa_, this);
     QApplication::restoreOverrideCursor();
     // A captured section shows in its type's row, and the beam is changed: leaving asks.
-    if (ventana.exec() == QDialog::Accepted && ventana.TipoCapturado() > 0) {
+    const Veredicto captura =
+        ventana.exec() == QDialog::Accepted
+            ? edicion_.CapturarPerfil(programa_.ListaPerfil, ventana.FilaCapturada(),
+                                      ventana.TipoCapturado())
+            : Ignorar();
+    if (captura.Aviso) programa_.Dialogo().Mensaje(*captura.Aviso);
+    if (captura.Aceptado) {
         ModeloCeldas& tipos = Modelo(Rejilla::TiposMetalicos);
         tipos.Recargar();
         Vista(Rejilla::TiposMetalicos)
@@ -1075,8 +1077,8 @@ bool VigaDatos::Salvar() {
     TerminarEntradas();
     auto& estado = programa_.Estado;
     try {
-        if (proyecto_ && estado.RsGeneralViga && proyecto_->FilaActiva() > 0)
-            estado.RsGeneralViga->AbsolutePosition(proyecto_->FilaActiva() - 1);
+        if (vigas_ && estado.RsGeneralViga && vigas_->Actual() > 0)
+            estado.RsGeneralViga->AbsolutePosition(vigas_->Actual() - 1);
         programa_.Viga.NombreVigaActual = Std(nombreViga_->text());
         SalvarViga(estado, programa_.Viga);
     } catch (const ErrorTrevalo& e) {
@@ -1112,14 +1114,13 @@ void VigaDatos::reject() {
 }
 
 void VigaDatos::MoverViga(int indice) {
-    if (!PreguntarSalvar(false) || !proyecto_) return;
-    programa_.SinFocoCanvas = true;
-    proyecto_->BtoMove_Click(indice);
+    if (!PreguntarSalvar(false) || !vigas_) return;
+    // The project window shows the beam of the new row behind the editor.
+    vigas_->Mover(indice);
     programa_.Vista.ModoEditor = true;
-    CopiarMovimientos();
     auto& estado = programa_.Estado;
-    if (estado.RsGeneralViga && proyecto_->FilaActiva() > 0) {
-        estado.RsGeneralViga->AbsolutePosition(proyecto_->FilaActiva() - 1);
+    if (estado.RsGeneralViga && vigas_->Actual() > 0) {
+        estado.RsGeneralViga->AbsolutePosition(vigas_->Actual() - 1);
         programa_.Viga.NombreVigaActual = estado.RsGeneralViga->Campo("NombreViga").Texto();
     }
     Rotulos();

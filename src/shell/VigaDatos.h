@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 
 #include "shell/DelegadosCelda.h"
 #include "shell/Programa.h"
@@ -31,18 +32,18 @@ class QUndoStack;
 namespace trevalo {
 
 class CampoNumero;
+class ListaVigas;
 class PantallaViga;
 class ToolTipTrevalo;
-class VigasProyecto;
 struct BandaSeleccion;
 
 class VigaDatos : public QDialog {
     Q_OBJECT
 
   public:
-    // `parent` is the project window when the editor is opened from it; the moves to the
-    // previous and next beam and the row the save writes to are its.
-    VigaDatos(Programa& programa, QWidget* parent = nullptr);
+    // `vigas` is the project window's list when the editor is opened from it: the moves to the
+    // previous and next beam go through it, and the save writes to its current row.
+    VigaDatos(Programa& programa, ListaVigas* vigas = nullptr, QWidget* parent = nullptr);
     ~VigaDatos() override;
 
     PantallaViga& Lienzo() { return *pantalla_; }
@@ -121,8 +122,8 @@ class VigaDatos : public QDialog {
     void DesmarcarTodos();
     void BandaSoltada(const BandaSeleccion& banda);
     void BotonCarga(int tipo);
-    // The load dialog of kind 1..8 over the marked spans; true when the load was accepted.
-    bool MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga);
+    // The load dialog of kind 1..8 over the marked spans: the load accepted, or nothing.
+    std::optional<EntradaCarga> MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga);
     void EliminarCargas();
     // " Perfiles Metálicos ": the steel profile window over the type in front in Spread8.
     void PerfilesMetalicos();
@@ -145,12 +146,12 @@ class VigaDatos : public QDialog {
     bool PreguntarSalvar(bool conCancelar);
     void MoverViga(int indice);
     void Rotulos();
-    // The moves to the previous and next beam as the project window allows them.
+    // The moves to the previous and next beam as the list allows them.
     void CopiarMovimientos();
 
     Programa& programa_;
     EdicionViga edicion_;
-    VigasProyecto* proyecto_;
+    ListaVigas* vigas_;
     bool cargando_ = true;
     int pagina_ = 1;
     bool tecleando_ = false; // a count or the factor typed and not yet entered

@@ -11,7 +11,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "editing/EdicionViga.h"
 #include "platform/lienzos/LienzosArchivo.h"
 #include "profiles/DibujosSeccion.h"
 #include "shell/DelegadosCelda.h"
@@ -169,12 +168,7 @@ void VigasMetalicas::Capturar() {
         spread1_->setFocus();
         return;
     }
-    const Veredicto captura = EdicionViga(programa_.Viga).CapturarPerfil(lista, fila, tipo_);
-    if (captura.Aviso) programa_.Dialogo().Mensaje(*captura.Aviso);
-    if (!captura.Aceptado) return;
-    programa_.Perfiles.CambioCaptura = true;
-    tipoCapturado_ = tipo_;
-    emit PerfilCapturado(tipo_);
+    filaCapturada_ = fila;
     accept();
 }
 

@@ -2,12 +2,12 @@
 // The sections of a steel beam from the profile tables: seven pictures of families (single and
 // paired double tees, channels, square and rectangular tubes), the table loaded for the chosen
 // picture (kept for the whole run, so the window opens again on it without reading a file),
-// and "Capturar", which makes a row the section of the beam type on which the beam editor
-// stands: its designation, area (B1, cm2) and inertia (T1, cm4) as the grid shows them.
+// and "Capturar", which chooses a row as the section of the beam type on which the beam
+// editor stands: its designation, area (B1, cm2) and inertia (T1, cm4) as the grid shows them.
 //
 // The beam type is the active row of the parent's grid named "Spread8" (the type 1 when there
-// is none). A capture writes Programa::Viga and ends the window with Accepted; TipoCapturado()
-// and the signal PerfilCapturado name the type, so that the editor shows that row again.
+// is none). The window writes nothing: a capture the user confirms ends it with Accepted, and
+// FilaCapturada() and TipoCapturado() say which row of the list goes into which type.
 
 #include <QDialog>
 
@@ -26,15 +26,13 @@ class VigasMetalicas : public QDialog {
     VigasMetalicas(Programa& programa, QWidget* parent = nullptr);
 
     long Tipo() const { return tipo_; }
-    // The beam type written by a capture; 0 when none was.
-    long TipoCapturado() const { return tipoCapturado_; }
+    // The row of the profile list captured and the beam type it is for; 0 when none was.
+    long FilaCapturada() const { return filaCapturada_; }
+    long TipoCapturado() const { return filaCapturada_ > 0 ? tipo_ : 0; }
 
     void Tablas();
     void Capturar();
     int ItemActual() const { return itemActual_; }
-
-  signals:
-    void PerfilCapturado(long tipo);
 
   private:
     void CrearControles();
@@ -43,7 +41,7 @@ class VigasMetalicas : public QDialog {
 
     Programa& programa_;
     long tipo_;
-    long tipoCapturado_ = 0;
+    long filaCapturada_ = 0;
     QGroupBox* marco_;
     QListWidget* fpList1_;
     QTableWidget* spread1_;

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTabBar>
-#include <QTableWidget>
+#include <QTableView>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <filesystem>
@@ -24,6 +24,7 @@
 #include "shell/Iconos.h"
 #include "shell/ImpreReport.h"
 #include "shell/ImpreVigas.h"
+#include "shell/ListaVigas.h"
 #include "shell/NuevaViga.h"
 #include "shell/Ordenes.h"
 #include "shell/PantallaViga.h"
@@ -79,12 +80,14 @@ const Orden Ordenes[] = {
 } // namespace
 
 VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
-    : QDialog(parent), programa_(programa), toolTip_(new ToolTipTrevalo(this)) {
+    : QDialog(parent), programa_(programa), lista_(new ListaVigas(this)),
+      toolTip_(new ToolTipTrevalo(this)) {
     setObjectName(QStringLiteral("VigasProyecto"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowFlag(Qt::WindowMinimizeButtonHint);
 
-    spread1_ = new QTableWidget(this);
+    spread1_ = new QTableView(this);
+    spread1_->setModel(lista_);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->setAccessibleName(QStringLiteral("Vigas del Proyecto"));
     lblNombre_ = new QLabel(this);
@@ -145,10 +148,19 @@ VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
     }
 
     connect(tab1_, &QTabBar::currentChanged, this, [this](int i) { ClickPestana(i + 1); });
-    connect(spread1_, &QTableWidget::currentCellChanged, this,
-            [this](int fila, int, int anterior, int) {
-                if (fila != anterior && fila >= 0) CambioFila(fila + 1);
+    // A row chosen in the view loads its beam; the list's own changes only show in the view.
+    connect(spread1_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& actual) {
+                const int fila = actual.row() + 1;
+                if (!actual.isValid() || fila == lista_->Actual()) return;
+                lista_->FijarActual(fila);
+                CambioFila(fila);
             });
+    connect(lista_, &ListaVigas::ActualCambiada, this, &VigasProyecto::SeguirActual);
+    connect(lista_, &ListaVigas::Movida, this, [this](int fila) {
+        programa_.Vista.ModoEditor = false;
+        ColoqueVigasSpread(fila);
+    });
     connect(pantalla_, &PantallaViga::MenuContextual, this, &VigasProyecto::MostrarMenuContextual);
     connect(pantalla_, &PantallaViga::Redimensionado, this, &VigasProyecto::Redimensionado);
 
@@ -226,8 +238,6 @@ QWidget* VigasProyecto::CrearBotones() {
 }
 
 void VigasProyecto::ConfigurarSpread() {
-    spread1_->setColumnCount(1);
-    spread1_->setHorizontalHeaderLabels({QStringLiteral("Nombre de la Viga")});
     spread1_->horizontalHeader()->setStretchLastSection(true);
     spread1_->verticalHeader()->setDefaultSectionSize(18);
     spread1_->horizontalHeader()->setFixedHeight(22);
@@ -253,23 +263,29 @@ QPushButton* VigasProyecto::Boton(const QString& nombre) const {
 }
 
 int VigasProyecto::FilaActiva() const {
-    return Filas() == 0 ? 0 : spread1_->currentRow() + 1;
+    return lista_->Actual();
 }
 
 int VigasProyecto::Filas() const {
-    return spread1_->rowCount();
+    return lista_->Filas();
 }
 
 void VigasProyecto::FijarFilaActiva(int fila) {
-    const QSignalBlocker bloqueo(spread1_);
-    spread1_->setCurrentCell(fila - 1, 0);
+    lista_->FijarActual(fila);
 }
 
 std::vector<std::string> VigasProyecto::NombresLista() const {
-    std::vector<std::string> nombres;
-    for (int r = 0; r < spread1_->rowCount(); ++r)
-        nombres.push_back(Std(spread1_->item(r, 0)->text()));
-    return nombres;
+    return lista_->Nombres();
+}
+
+void VigasProyecto::SeguirActual(int fila) {
+    const QModelIndex indice = lista_->index(fila - 1, 0);
+    if (indice.isValid())
+        spread1_->selectionModel()->setCurrentIndex(indice, QItemSelectionModel::ClearAndSelect |
+                                                                QItemSelectionModel::Rows);
+    else
+        spread1_->selectionModel()->clear();
+    Botones();
 }
 
 int VigasProyecto::Pestana() const {
@@ -286,16 +302,13 @@ void VigasProyecto::ElegirPestana(int pestana) {
 // --- The rule of load, analysis and drawing -----------------------------------------------
 
 void VigasProyecto::ColoquePantalla() {
-    const QSignalBlocker bloqueo(spread1_);
-    const int activa = spread1_->currentRow();
-    spread1_->setRowCount(0);
+    std::vector<std::string> nombres;
     auto& lista = programa_.Estado.RsGeneralViga;
-    if (!lista || lista->RecordCount() == 0) return;
-    spread1_->setRowCount(lista->RecordCount());
-    int r = 0;
-    for (lista->MoveFirst(); !lista->AlFinal(); lista->MoveNext())
-        spread1_->setItem(r++, 0, new QTableWidgetItem(Qs(lista->Campo("NombreViga").Texto())));
-    if (activa >= 0 && activa < spread1_->rowCount()) spread1_->setCurrentCell(activa, 0);
+    if (lista)
+        for (lista->MoveFirst(); !lista->AlFinal(); lista->MoveNext())
+            nombres.push_back(lista->Campo("NombreViga").Texto());
+    const QSignalBlocker bloqueo(spread1_->selectionModel()); // no beam is loaded by the view
+    lista_->Colocar(std::move(nombres));
 }
 
 void VigasProyecto::Tomar(int fila) {
@@ -387,12 +400,7 @@ void VigasProyecto::Redimensionado() {
 
 void VigasProyecto::BtoMove_Click(int indice) {
     programa_.Vista.ModoEditor = false;
-    const int fila = FilaActiva() + (indice == 1 ? 1 : -1);
-    if (fila < 1 || fila > Filas()) return;
-    FijarFilaActiva(fila);
-    Botones();
-    ColoqueVigasSpread(fila);
-    if (!programa_.Vista.ModoEditor && !programa_.SinFocoCanvas) pantalla_->setFocus();
+    if (lista_->Mover(indice)) pantalla_->setFocus();
 }
 
 void VigasProyecto::ColoqueVigasSpread(int fila) {
@@ -440,7 +448,7 @@ void VigasProyecto::MostrarMenuContextual(const QPoint& lugar) {
 // --- Beam commands -------------------------------------------------------------------------
 
 void VigasProyecto::MostrarEditor() {
-    VigaDatos editor(programa_, this);
+    VigaDatos editor(programa_, lista_, this);
     editor.exec();
 }
 
@@ -450,7 +458,6 @@ void VigasProyecto::RestaurarVigaActiva(int pestana) {
     vista.ModoEditor = false;
     Vista();
     vista.VerJuntas = false;
-    programa_.SinFocoCanvas = false;
     ElegirPestana(pestana);
     pantalla_->ZoomExtents();
 }
@@ -496,10 +503,8 @@ void VigasProyecto::AgregarUltimaFila() {
     lista.MoveLast();
     programa_.Viga.NombreVigaActual = lista.Campo("NombreViga").Texto();
     {
-        const QSignalBlocker bloqueo(spread1_);
-        spread1_->setRowCount(lista.RecordCount());
-        spread1_->setItem(spread1_->rowCount() - 1, 0,
-                          new QTableWidgetItem(Qs(programa_.Viga.NombreVigaActual)));
+        const QSignalBlocker bloqueo(spread1_->selectionModel());
+        lista_->Agregar(programa_.Viga.NombreVigaActual);
     }
     FijarFilaActiva(Filas());
     lblNombre_->setText(Qs(programa_.Viga.NombreVigaActual));
@@ -535,7 +540,6 @@ void VigasProyecto::EditarViga() {
     }
     Vista();
     vista.VerJuntas = false;
-    programa_.SinFocoCanvas = false;
     // The flags of the tab in front; on tab 4 they stay as they were before the editor.
     const int pestana = Pestana();
     if (pestana == 2) vista.VerDiagramas = true;
@@ -598,7 +602,7 @@ void VigasProyecto::EliminarVigaSeleccionada() {
     if (Filas() == 0) return;
     auto& estado = programa_.Estado;
     const int fila = FilaActiva();
-    programa_.Viga.NombreVigaActual = Std(spread1_->item(fila - 1, 0)->text());
+    programa_.Viga.NombreVigaActual = NombresLista()[static_cast<std::size_t>(fila - 1)];
     if (!ConfirmarEliminarViga(programa_.Viga.NombreVigaActual, estado, programa_.Dialogo()))
         return pantalla_->setFocus();
     try {
@@ -610,8 +614,8 @@ void VigasProyecto::EliminarVigaSeleccionada() {
     }
     lblNombre_->clear();
     {
-        const QSignalBlocker bloqueo(spread1_);
-        spread1_->removeRow(fila - 1);
+        const QSignalBlocker bloqueo(spread1_->selectionModel());
+        lista_->Quitar(fila);
     }
     if (Filas() > 0) {
         const int activa = std::min(fila, Filas());

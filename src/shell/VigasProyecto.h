@@ -19,11 +19,12 @@ class QMenu;
 class QProgressBar;
 class QPushButton;
 class QTabBar;
-class QTableWidget;
+class QTableView;
 class QToolBar;
 
 namespace trevalo {
 
+class ListaVigas;
 class PantallaViga;
 class ToolTipTrevalo;
 
@@ -39,6 +40,8 @@ class VigasProyecto : public QDialog {
     // window is not to be shown: nothing can write into the project open before.
     bool Abierto() const { return abierto_; }
 
+    // The list of beams, its current row and its moves, shared with the beam editor.
+    ListaVigas& Lista() { return *lista_; }
     // Moves to the previous (0) or next (1) beam of the list.
     void BtoMove_Click(int indice);
     // Fills the list from RsGeneralViga.
@@ -79,6 +82,8 @@ class VigasProyecto : public QDialog {
     void HabilitarHerramientas(int pestana);
     void ClickPestana(int pestana);
     void CambioFila(int fila);
+    // The list's current row shown in its view and in the moves.
+    void SeguirActual(int fila);
     void Redimensionado();
     void MostrarMenuContextual(const QPoint& lugar);
 
@@ -112,7 +117,8 @@ class VigasProyecto : public QDialog {
     bool cargando_ = true;
     bool abierto_ = false;
     bool enPestana_ = false; // a tab change made by the program, not by the user
-    QTableWidget* spread1_;
+    ListaVigas* lista_;
+    QTableView* spread1_;
     QLabel* lblNombre_;
     QTabBar* tab1_;
     PantallaViga* pantalla_;

@@ -296,56 +296,80 @@ Arreglo<std::int16_t> Marcados(std::initializer_list<std::int16_t> marcas) {
     return a;
 }
 
+const ListaCargas Parciales{
+    &VigaActual::CantW3,
+    {{"(Kgf)", &VigaActual::W3_}, {"La (m)", &VigaActual::La3_}, {"Lb (m)", &VigaActual::Lb3_}},
+    MaxCargas10};
+
+// What a load dialog checks before it closes, and the apply refuses alike with nothing
+// written: a load beyond 32 bits is error 6 (a position is not a load), a list beyond the
+// slots of a span the subscript error.
+TEST(EdicionViga, CargasRechazadas) {
+    const std::vector<std::vector<double>> once(11, {1, 1, 1});
+    const struct {
+        EntradaCarga carga;
+        const char* titulo; // nullptr: accepted
+    } casos[] = {
+        {CargaPorTramo{&VigaActual::W4, 3e9, {}, {}}, "Error Número: 6"},
+        {CargaPorTramo{&VigaActual::W1, -2147483648.0, {}, {}}, nullptr},
+        {CargaPorTramo{&VigaActual::W5, 2147483647.4, 2, {}}, nullptr},
+        {FilasCarga{Parciales, {{1, 2, 3}, {2147483648.0, 1, 2}}}, "Error Número: 6"},
+        {FilasCarga{Parciales, {{1, 2147483648.0, 3}}}, nullptr},
+        {FilasCarga{Parciales, once}, "Error Número: 9"},
+        {FilasCarga{Parciales, {once.begin(), once.end() - 1}}, nullptr},
+    };
+    for (const auto& caso : casos) {
+        VigaActual v = TresTramos();
+        const VigaActual antes = v;
+        EdicionViga edicion(v);
+        const Veredicto revision = edicion.RevisarCarga(caso.carga);
+        EXPECT_EQ(v, antes);
+        const Veredicto aplicada = edicion.AplicarCarga(Marcados({1, 1, 1}), caso.carga);
+        EXPECT_EQ(revision.Aceptado, !caso.titulo);
+        EXPECT_EQ(aplicada.Aceptado, !caso.titulo);
+        EXPECT_EQ(aplicada.Aviso, revision.Aviso);
+        if (!caso.titulo) continue;
+        EXPECT_EQ(revision.Aviso->Titulo, caso.titulo);
+        EXPECT_EQ(v, antes);
+    }
+}
+
 TEST(EdicionViga, CargaDeUnValorPorTramo) {
     VigaActual v = TresTramos();
     EdicionViga edicion(v);
     ASSERT_TRUE(
-        edicion.AplicarCarga(Marcados({1, 0, 1}), {&VigaActual::W5, -2.5, 1.2, {}}).Aceptado);
+        edicion.AplicarCarga(Marcados({1, 0, 1}), CargaPorTramo{&VigaActual::W5, -2.5, 1.2, {}})
+            .Aceptado);
     EXPECT_EQ(v.W5(1), -2); // ties to even
     EXPECT_EQ(v.W5(2), 0);
     EXPECT_EQ(v.la5(3), 1.2);
-    edicion.AplicarCarga(Marcados({0, 1, 0}), {&VigaActual::W1, 1500.5, {}, 1});
+    edicion.AplicarCarga(Marcados({0, 1, 0}), CargaPorTramo{&VigaActual::W1, 1500.5, {}, 1});
     EXPECT_EQ(v.W1(2), 1500);
     EXPECT_EQ(v.Gravedad(2), 1);
     EXPECT_EQ(v.la5(2), 0.0);
-    const Veredicto grande =
-        edicion.AplicarCarga(Marcados({1, 1, 1}), {&VigaActual::W4, 3e9, {}, {}});
-    EXPECT_FALSE(grande.Aceptado);
-    EXPECT_EQ(grande.Aviso->Titulo, "Error Número: 6");
-    EXPECT_EQ(v.W4(1), 0);
 }
 
 TEST(EdicionViga, ListaDeCargasPorTramo) {
     VigaActual v = TresTramos();
     EdicionViga edicion(v);
-    const ListaCargas parciales{
-        &VigaActual::CantW3,
-        {{"(Kgf)", &VigaActual::W3_}, {"La (m)", &VigaActual::La3_}, {"Lb (m)", &VigaActual::Lb3_}},
-        MaxCargas10};
-    EXPECT_TRUE(EsCarga(parciales.columnas[0]));
-    EXPECT_FALSE(EsCarga(parciales.columnas[1]));
-    EXPECT_EQ(edicion.ValorCarga(parciales.columnas[0], 2147483648.0).Aviso->Titulo,
+    EXPECT_TRUE(EsCarga(Parciales.columnas[0]));
+    EXPECT_FALSE(EsCarga(Parciales.columnas[1]));
+    EXPECT_EQ(edicion.ValorCarga(Parciales.columnas[0], 2147483648.0).Aviso->Titulo,
               "Error Número: 6");
-    EXPECT_TRUE(edicion.ValorCarga(parciales.columnas[1], 2147483648.0).Aceptado);
+    EXPECT_TRUE(edicion.ValorCarga(Parciales.columnas[1], 2147483648.0).Aceptado);
 
-    ASSERT_TRUE(
-        edicion.AplicarCargas(Marcados({1, 1, 0}), parciales, {{-300, 0.5, 1.5}, {200, 2, 4}})
-            .Aceptado);
+    ASSERT_TRUE(edicion
+                    .AplicarCarga(Marcados({1, 1, 0}),
+                                  FilasCarga{Parciales, {{-300, 0.5, 1.5}, {200, 2, 4}}})
+                    .Aceptado);
     EXPECT_EQ(v.CantW3(1), 2);
     EXPECT_EQ(v.CantW3(2), 2);
     EXPECT_EQ(v.CantW3(3), 0);
     EXPECT_EQ(v.W3_(2, 1), -300);
     EXPECT_EQ(v.Lb3_(2, 2), 4.0);
     // A count of 0 empties the list.
-    edicion.AplicarCargas(Marcados({1, 0, 0}), parciales, {});
+    edicion.AplicarCarga(Marcados({1, 0, 0}), FilasCarga{Parciales, {}});
     EXPECT_EQ(v.CantW3(1), 0);
-    // Beyond the slots of a span: the subscript error, nothing written.
-    const VigaActual antes = v;
-    const Veredicto fuera = edicion.AplicarCargas(Marcados({0, 0, 1}), parciales,
-                                                  std::vector<std::vector<double>>(11, {1, 1, 1}));
-    EXPECT_FALSE(fuera.Aceptado);
-    EXPECT_EQ(fuera.Aviso->Titulo, "Error Número: 9");
-    EXPECT_EQ(v, antes);
 }
 
 } // namespace

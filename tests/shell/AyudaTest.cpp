@@ -34,6 +34,7 @@
 #include "shell/ExportarCAD.h"
 #include "shell/ImpreReport.h"
 #include "shell/ImpreVigas.h"
+#include "shell/ListaVigas.h"
 #include "shell/MenuP.h"
 #include "shell/NuevaViga.h"
 #include "shell/OpcionPerfil.h"
@@ -103,7 +104,7 @@ QStringList TitulosVentanas(ProgramaPrueba& p) {
     titulo(VigaSalvarComo(programa, fila, ventana.get()));
     titulo(Renombrar(programa, ventana.get()));
     {
-        VigaDatos editor(programa, ventana.get());
+        VigaDatos editor(programa, &ventana->Lista(), ventana.get());
         titulo(editor, programa.Viga.NombreVigaActual);
         Arreglo<std::int16_t> marcas(programa.Viga.NT);
         marcas(1) = 1;
@@ -120,7 +121,7 @@ QStringList TitulosVentanas(ProgramaPrueba& p) {
     titulo(OpcionPerfil(programa, ventana.get()));
     for (const FamiliaPerfil familia : TodasLasFamilias) {
         programa.Perfiles = {programa.Carpetas.RutaPerfiles + "/DobleTee_IPE.pfl", Std(Variable),
-                             false, false};
+                             false};
         titulo(TablaPerfil(programa, familia, ventana.get()));
     }
     titulo(DobleTee(

@@ -73,13 +73,15 @@ Arreglo<std::int16_t> Marcas(long nt, std::initializer_list<long> marcados) {
     return marcas;
 }
 
-// Opens the dialog on the spans marked, runs the journey and says whether it was accepted.
+// Opens the dialog on the spans marked and runs the journey; an accepted load is written to
+// the marked spans as the editor writes it. Says whether it was accepted.
 template <typename T>
 bool Abrir(Programa& programa, std::initializer_list<long> marcados,
            std::function<void(T&)> recorrido) {
-    T dialogo(programa, Marcas(programa.Viga.NT, marcados));
-    Ejecutar(dialogo, std::move(recorrido));
-    return dialogo.CargaAceptada();
+    const Arreglo<std::int16_t> marcas = Marcas(programa.Viga.NT, marcados);
+    T dialogo(programa, marcas);
+    if (Ejecutar(dialogo, std::move(recorrido)) != QDialog::Accepted) return false;
+    return EdicionViga(programa.Viga).AplicarCarga(marcas, dialogo.Entrada()).Aceptado;
 }
 
 } // namespace

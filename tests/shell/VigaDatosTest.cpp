@@ -17,6 +17,7 @@
 #include "VentanasPrueba.h"
 #include "comun/Proyecto.h"
 #include "shell/Carga01.h"
+#include "shell/ListaVigas.h"
 #include "shell/PantallaViga.h"
 #include "shell/VigaDatos.h"
 #include "shell/VigasMetalicas.h"
@@ -431,6 +432,7 @@ class VigaDatosTest : public QObject {
         lista.ListaDesignacion(1) = "1 IPE 300";
         lista.ListaArea(1) = 53.8;
         lista.ListaInercia(1) = 8356;
+        const std::string previa = viga.Designacion(1);
         EnVentana<VigasMetalicas>([this](VigasMetalicas& m) {
             Control<QTableWidget>(m, "Spread1")->setCurrentCell(0, 0);
             dialogos().respuestas = {RespuestaSi};
@@ -440,6 +442,14 @@ class VigaDatosTest : public QObject {
         QCOMPARE(viga.Designacion(1), std::string("1 IPE 300"));
         QCOMPARE(ValorCelda(e.Spread(8), 1, 2), 53.8);
         QVERIFY(e.Modificada());
+        // The capture is one step of the history.
+        QAction* deshacer = e.Accion(QStringLiteral("ID_Deshacer"));
+        QCOMPARE(deshacer->toolTip(), QStringLiteral("Deshacer: Capturar Perfil Metálico"));
+        deshacer->trigger();
+        QCOMPARE(viga.Designacion(1), previa);
+        QVERIFY(!e.Modificada());
+        e.Accion(QStringLiteral("ID_Rehacer"))->trigger();
+        QCOMPARE(ValorCelda(e.Spread(8), 1, 2), 53.8);
         dialogos().respuestas = {RespuestaNo};
         Pulsar(e, "LSButton2");
         QCOMPARE(dialogos().preguntas.back(), PreguntaSalir(true));
@@ -493,7 +503,7 @@ class VigaDatosTest : public QObject {
         p->programa.Estado.NombreProyecto = "Ejemplo Demostrativo.trv";
         VigasProyecto ventana(p->programa);
         const auto nombres = ventana.NombresLista();
-        VigaDatos editor(p->programa, &ventana);
+        VigaDatos editor(p->programa, &ventana.Lista(), &ventana);
         auto* anterior = Hijo<QPushButton>(editor, QStringLiteral("BtoMove0"));
         auto* siguiente = Hijo<QPushButton>(editor, QStringLiteral("BtoMove1"));
         QVERIFY(!anterior->isEnabled());

@@ -4,11 +4,13 @@
 
 #include <QAction>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QSignalSpy>
+#include <QTableView>
 #include <QWheelEvent>
 
 #include "VentanasPrueba.h"
 #include "drawing/OperacionesVista.h"
+#include "shell/ListaVigas.h"
 #include "shell/NuevaViga.h"
 #include "shell/PantallaViga.h"
 #include "shell/Renombrar.h"
@@ -62,6 +64,48 @@ class VigasProyectoTest : public QObject {
     Q_OBJECT
 
   private slots:
+    // The list the project window and the editor share: the moves each row allows, the moves
+    // with their signals, and the current row when the names change.
+    void ListaDeVigas() {
+        ListaVigas lista;
+        QSignalSpy cambios(&lista, &ListaVigas::ActualCambiada);
+        QSignalSpy movidas(&lista, &ListaVigas::Movida);
+        QVERIFY(!lista.Mover(1));
+        lista.Colocar({"A", "B", "C"});
+        QCOMPARE(lista.rowCount(), 3);
+        QCOMPARE(lista.data(lista.index(1, 0), Qt::DisplayRole).toString(), QStringLiteral("B"));
+        QCOMPARE(lista.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(),
+                 QStringLiteral("Nombre de la Viga"));
+        const struct {
+            int actual;
+            bool anterior, siguiente;
+        } casos[] = {{0, false, true}, {1, false, true}, {2, true, true}, {3, true, false}};
+        for (const auto& c : casos) {
+            lista.FijarActual(c.actual);
+            QCOMPARE(lista.Permitido(0), c.anterior);
+            QCOMPARE(lista.Permitido(1), c.siguiente);
+        }
+        QCOMPARE(cambios.count(), 3);
+        QVERIFY(!lista.Mover(1));
+        QVERIFY(lista.Mover(0));
+        QCOMPARE(lista.Actual(), 2);
+        QCOMPARE(cambios.count(), 4);
+        QCOMPARE(movidas.count(), 1);
+        QCOMPARE(movidas.front().front().toInt(), 2);
+
+        lista.Colocar({"A", "B", "C", "D"});
+        QCOMPARE(lista.Actual(), 2);
+        lista.FijarActual(4);
+        lista.Colocar({"A", "B"});
+        QCOMPARE(lista.Actual(), 0);
+        lista.Agregar("Z");
+        lista.FijarActual(3);
+        lista.Quitar(3);
+        QCOMPARE(lista.Actual(), 2);
+        QCOMPARE(lista.Nombres(), (std::vector<std::string>{"A", "B"}));
+        QCOMPARE(movidas.count(), 1);
+    }
+
     void RecorreLasVigasYLasPestanas() {
         ProgramaPrueba p;
         auto ventana = VentanaProyecto(p, Ejemplo);
@@ -117,9 +161,11 @@ class VigasProyectoTest : public QObject {
         QVERIFY(v.findChild<QPushButton*>(QStringLiteral("BtoMove1"))->isEnabled());
 
         // A row chosen in the list loads that beam.
-        auto* lista = v.findChild<QTableWidget*>(QStringLiteral("Spread1"));
-        lista->setCurrentCell(3, 0);
+        auto* lista = v.findChild<QTableView*>(QStringLiteral("Spread1"));
+        lista->setCurrentIndex(lista->model()->index(3, 0));
         QCOMPARE(p.programa.Viga.NombreVigaActual, nombres[3]);
+        QCOMPARE(v.FilaActiva(), 4);
+        QVERIFY(v.findChild<QPushButton*>(QStringLiteral("BtoMove0"))->isEnabled());
     }
 
     void CreaCopiaRenombraYEliminaVigas() {
@@ -197,7 +243,7 @@ class VigasProyectoTest : public QObject {
         PantallaViga& lienzo = v.Lienzo();
 
         // The wheel zooms only while the canvas has the focus.
-        v.findChild<QTableWidget*>(QStringLiteral("Spread1"))->setFocus();
+        v.findChild<QTableView*>(QStringLiteral("Spread1"))->setFocus();
         const QPointF centro(lienzo.width() / 2.0, lienzo.height() / 2.0);
         QWheelEvent rueda(centro, lienzo.mapToGlobal(centro), {}, {0, 120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);

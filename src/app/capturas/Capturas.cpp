@@ -16,6 +16,7 @@
 #include "shell/Calendario.h"
 #include "shell/DatosG.h"
 #include "shell/DialogosQt.h"
+#include "shell/ListaVigas.h"
 #include "shell/MenuP.h"
 #include "shell/NuevaViga.h"
 #include "shell/PantallaViga.h"
@@ -128,7 +129,7 @@ void Recorrido(Programa& programa) {
     ventana.ToolTip().Ocultar();
 
     {
-        VigaDatos editor(programa, &ventana);
+        VigaDatos editor(programa, &ventana.Lista(), &ventana);
         CapturasCargas(programa, editor);
     }
     CapturasEditor(programa, ventana);

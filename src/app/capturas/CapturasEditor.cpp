@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QUndoStack>
 
+#include "shell/ListaVigas.h"
 #include "shell/VigaDatos.h"
 #include "shell/VigasProyecto.h"
 
@@ -30,12 +31,12 @@ void Paginas(VigaDatos& editor, const QString& prefijo) {
 
 void CapturasEditor(Programa& programa, VigasProyecto& ventana) {
     {
-        VigaDatos editor(programa, &ventana);
+        VigaDatos editor(programa, &ventana.Lista(), &ventana);
         Paginas(editor, QStringLiteral("06_editor_concreto"));
     }
     {
         // One span more: the undo button of the toolbar turns on; then undone.
-        VigaDatos editor(programa, &ventana);
+        VigaDatos editor(programa, &ventana.Lista(), &ventana);
         editor.show();
         QLineEdit& tramos = editor.Long(1);
         tramos.setText(QString::number(programa.Viga.NT + 1));
@@ -59,7 +60,7 @@ void CapturasEditor(Programa& programa, VigasProyecto& ventana) {
     viga.T1(2) = 16270;
     for (long t = 1; t <= viga.NT; ++t) viga.VT(t) = t % 2 == 0 ? 2 : 1;
     {
-        VigaDatos editor(programa, &ventana);
+        VigaDatos editor(programa, &ventana.Lista(), &ventana);
         Paginas(editor, QStringLiteral("06_editor_metalica"));
     }
     programa.Vista.ModoEditor = false;

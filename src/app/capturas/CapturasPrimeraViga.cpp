@@ -9,6 +9,7 @@
 #include "app/capturas/Capturas.h"
 #include "app/capturas/PrimeraViga.h"
 #include "shell/Carga01.h"
+#include "shell/ListaVigas.h"
 #include "shell/NuevaViga.h"
 #include "shell/TextoQt.h"
 #include "shell/VigaDatos.h"
@@ -21,7 +22,7 @@ namespace {
 
 // The editor's pages of the example, moved through with " Siguiente " as a person does.
 void PaginasEditor(Programa& programa, VigasProyecto& ventana) {
-    VigaDatos editor(programa, &ventana);
+    VigaDatos editor(programa, &ventana.Lista(), &ventana);
     editor.show();
     auto* siguiente = editor.findChild<QPushButton*>(QStringLiteral("Button2"));
     const std::pair<int, const char*> pasos[] = {
