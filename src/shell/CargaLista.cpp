@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 #include <QScrollBar>
-#include <QTableWidget>
+#include <QTableView>
 #include <algorithm>
 
 #include "shell/DelegadosCelda.h"
@@ -28,7 +28,7 @@ CargaLista::CargaLista(Programa& programa, const Arreglo<std::int16_t>& tramoCar
                        FormaCargaLista forma, QWidget* parent)
     : DialogoCarga(programa, tramoCarga, forma.titulo, forma.marco, parent),
       forma_(std::move(forma)), long1_(new QLineEdit(&Marco())),
-      spread1_(new QTableWidget(&Marco())) {
+      spread1_(new QTableView(&Marco())) {
     long1_->setObjectName(QStringLiteral("Long1"));
     spread1_->setObjectName(QStringLiteral("Spread1"));
     // A count of loads: digits only, so it is never negative nor beyond a 16-bit integer.
@@ -47,31 +47,41 @@ CargaLista::CargaLista(Programa& programa, const Arreglo<std::int16_t>& tramoCar
 
 void CargaLista::ConfigurarSpread() {
     const int columnas = static_cast<int>(forma_.columnas.size());
-    spread1_->setColumnCount(columnas);
-    QStringList titulos;
-    for (const ColumnaCarga& c : forma_.columnas) titulos << QString::fromUtf8(c.titulo);
-    spread1_->setHorizontalHeaderLabels(titulos);
-    new DelegadoNumero(programa_, *spread1_);
-    for (int c = 1; c <= columnas; ++c) {
-        const bool carga = EsCarga(forma_.columnas[static_cast<std::size_t>(c - 1)]);
-        FormatoCeldas(*spread1_, c, -1, c, -1, carga ? 0 : 2, carga);
-    }
+    // Loads are whole kgf with sign, positions metres with two decimals.
+    std::vector<ColumnaCelda> titulos;
+    for (const ColumnaCarga& c : forma_.columnas)
+        titulos.push_back({QString::fromUtf8(c.titulo),
+                           EsCarga(c) ? FormatoCelda{0, true} : FormatoCelda{2, false}, false,
+                           false});
+    AccesoCeldas acceso;
+    acceso.Filas = [this] { return static_cast<int>(filas_.size()); };
+    acceso.Leer = [this](int f, int c) {
+        return QVariant(filas_[static_cast<std::size_t>(f - 1)][static_cast<std::size_t>(c - 1)]);
+    };
     // A load is a 32-bit integer (the cell has already rounded it, ties to even): one the
     // model cannot hold raises error 6, and the cell keeps its old value.
-    Delegado(*spread1_).ColocarRegla([this](const Celda& celda) {
-        return EdicionViga(programa_.Viga)
-            .ValorCarga(forma_.columnas[static_cast<std::size_t>(celda.Columna - 1)], celda.Numero);
-    });
+    acceso.Escribir = [this](const Celda& celda) {
+        const auto c = static_cast<std::size_t>(celda.Columna - 1);
+        const Veredicto v =
+            EdicionViga(programa_.Viga).ValorCarga(forma_.columnas[c], celda.Numero);
+        if (v.Aceptado)
+            filas_[static_cast<std::size_t>(celda.Fila - 1)][c] = celda.Numero.value_or(0.0);
+        return v;
+    };
     // A block pasted beyond the last row adds rows up to the limit of the kind.
-    Delegado(*spread1_).ColocarCrecimiento([this](int filas) {
+    acceso.Crecer = [this](int filas) {
         const int nuevas = static_cast<int>(std::min<long>(filas, forma_.limite));
-        if (nuevas <= spread1_->rowCount()) return false;
+        if (nuevas <= static_cast<int>(filas_.size())) return false;
         long1_->setText(QString::number(nuevas));
         textoAplicado_ = long1_->text();
         n_ = nuevas;
         Filas(nuevas);
         return true;
-    });
+    };
+    const auto& carpetas = programa_.Carpetas;
+    modelo_ = new ModeloCeldas(std::move(titulos), std::move(acceso), carpetas.SeparadorDecimal,
+                               carpetas.SeparadorMiles, spread1_);
+    MostrarModelo(programa_, *spread1_, *modelo_);
     EsquinaNo(*spread1_);
     // Tab leaves the list for the buttons; the arrows and Return move between its cells.
     spread1_->setTabKeyNavigation(false);
@@ -83,7 +93,7 @@ void CargaLista::ConfigurarSpread() {
                               spread1_->verticalScrollBar()->sizeHint().width() + marco);
     spread1_->setMinimumHeight(spread1_->horizontalHeader()->sizeHint().height() +
                                6 * spread1_->verticalHeader()->defaultSectionSize() + marco);
-    spread1_->setRowCount(2);
+    Filas(2);
 }
 
 void CargaLista::Mostrar(long t) {
@@ -91,14 +101,11 @@ void CargaLista::Mostrar(long t) {
     n_ = (viga.*forma_.cantidad)(t);
     long1_->setText(QString::number(n_));
     textoAplicado_ = long1_->text();
-    spread1_->setUpdatesEnabled(false);
-    spread1_->setRowCount(n_);
-    DelegadoNumero& celdas = Delegado(*spread1_);
+    filas_.assign(static_cast<std::size_t>(std::max(n_, 0)), {});
     for (int r = 1; r <= n_; ++r)
-        for (int c = 1; c <= spread1_->columnCount(); ++c)
-            celdas.ColocarValor(r, c,
-                                Leer(viga, forma_.columnas[static_cast<std::size_t>(c - 1)], t, r));
-    spread1_->setUpdatesEnabled(true);
+        for (const ColumnaCarga& c : forma_.columnas)
+            filas_[static_cast<std::size_t>(r - 1)].push_back(Leer(viga, c, t, r));
+    modelo_->Recargar();
 }
 
 void CargaLista::Cantidad(bool retorno) {
@@ -111,13 +118,9 @@ void CargaLista::Cantidad(bool retorno) {
 }
 
 void CargaLista::Filas(int n) {
-    spread1_->setRowCount(n);
-    DelegadoNumero& celdas = Delegado(*spread1_);
-    for (int r = 1; r <= n; ++r)
-        for (int c = 1; c <= spread1_->columnCount(); ++c) {
-            const QTableWidgetItem* item = spread1_->item(r - 1, c - 1);
-            if (!item || item->text().trimmed().isEmpty()) celdas.ColocarValor(r, c, 0.0);
-        }
+    filas_.resize(static_cast<std::size_t>(std::max(n, 0)),
+                  std::vector<double>(forma_.columnas.size(), 0.0));
+    modelo_->Recargar();
 }
 
 void CargaLista::AvisoLimite() {
@@ -129,12 +132,8 @@ void CargaLista::AvisoLimite() {
 }
 
 std::vector<std::vector<double>> CargaLista::Tomadas() const {
-    std::vector<std::vector<double>> filas(static_cast<std::size_t>(n_));
-    for (int r = 1; r <= n_; ++r)
-        for (std::size_t c = 0; c < forma_.columnas.size(); ++c)
-            filas[static_cast<std::size_t>(r - 1)].push_back(
-                ValorCelda(*spread1_, r, static_cast<int>(c) + 1));
-    return filas;
+    const auto n = std::min(static_cast<std::size_t>(std::max(n_, 0)), filas_.size());
+    return {filas_.begin(), filas_.begin() + static_cast<std::ptrdiff_t>(n)};
 }
 
 EntradaCarga CargaLista::Tomar() {

@@ -16,8 +16,9 @@
 
 #include "editing/EdicionViga.h"
 #include "shell/DialogoCarga.h"
+#include "shell/ModeloCeldas.h"
 
-class QTableWidget;
+class QTableView;
 
 namespace trevalo {
 
@@ -50,9 +51,11 @@ class CargaLista : public DialogoCarga {
 
     FormaCargaLista forma_;
     QLineEdit* long1_;
-    QTableWidget* spread1_;
-    int n_ = 0;             // the count applied to the rows
-    QString textoAplicado_; // Long1's text when it was last applied
+    QTableView* spread1_;
+    ModeloCeldas* modelo_ = nullptr;
+    std::vector<std::vector<double>> filas_; // the rows shown, as typed
+    int n_ = 0;                              // the count applied to the rows
+    QString textoAplicado_;                  // Long1's text when it was last applied
 };
 
 } // namespace trevalo

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableWidget>
+#include <QTableView>
 
 #include "VentanasPrueba.h"
 #include "comun/Vigas.h"
@@ -43,25 +43,25 @@ Pregunta Limite(int limite) {
             "Cargas en Vigas", BotonesMensaje::Aceptar, IconoMensaje::Advertencia, 1};
 }
 
-QTableWidget& Lista(QWidget& ventana) {
-    return *Control<QTableWidget>(ventana, "Spread1");
+QTableView& Lista(QWidget& ventana) {
+    return *Control<QTableView>(ventana, "Spread1");
 }
 
 // The rows of the list as they show: one vector of values per row.
 Filas Valores(QWidget& ventana) {
-    QTableWidget& lista = Lista(ventana);
-    Filas filas(static_cast<std::size_t>(lista.rowCount()));
-    for (int r = 1; r <= lista.rowCount(); ++r)
-        for (int c = 1; c <= lista.columnCount(); ++c)
+    QTableView& lista = Lista(ventana);
+    Filas filas(static_cast<std::size_t>(lista.model()->rowCount()));
+    for (int r = 1; r <= lista.model()->rowCount(); ++r)
+        for (int c = 1; c <= lista.model()->columnCount(); ++c)
             filas[static_cast<std::size_t>(r - 1)].push_back(ValorCelda(lista, r, c));
     return filas;
 }
 
 // Types into a cell of the list and ends with Return, all by the keyboard.
 void EscribirCelda(QWidget& ventana, int fila, int columna, const QString& texto) {
-    QTableWidget& lista = Lista(ventana);
+    QTableView& lista = Lista(ventana);
     lista.setFocus();
-    lista.setCurrentCell(fila - 1, columna - 1);
+    lista.setCurrentIndex(lista.model()->index(fila - 1, columna - 1));
     for (const QChar c : texto) QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
 }
@@ -187,14 +187,15 @@ class CargasTramos : public QObject {
             QCOMPARE(Control<QGroupBox>(d, "Frame1")->title(),
                      QStringLiteral("Parciales Uniformes"));
             QCOMPARE(Etiqueta(d, "Long1"), QStringLiteral("Cantidad de Parciales ="));
-            QCOMPARE(Lista(d).horizontalHeaderItem(0)->text(), QStringLiteral("(Kgf)"));
+            QCOMPARE(Lista(d).model()->headerData(0, Qt::Horizontal).toString(),
+                     QStringLiteral("(Kgf)"));
             QCOMPARE(Control(d, "Long1")->text(), QStringLiteral("2"));
             QCOMPARE(Valores(d), (Filas{{1200, 0.5, 2}, {-300, 3, 5.5}}));
             Escribir(d, "Long1", QStringLiteral("12"));
             QTest::keyClick(Control(d, "Long1"), Qt::Key_Return);
             QCOMPARE(p->dialogos->preguntas, std::vector<Pregunta>{Limite(10)});
             QCOMPARE(Control(d, "Long1")->text(), QStringLiteral("10"));
-            QCOMPARE(Lista(d).rowCount(), 12);
+            QCOMPARE(Lista(d).model()->rowCount(), 12);
             QCOMPARE(d.focusWidget(), &Lista(d));
             QCOMPARE(Valores(d)[11], (std::vector<double>{0, 0, 0}));
 
@@ -206,8 +207,8 @@ class CargasTramos : public QObject {
             QCOMPARE(p->dialogos->preguntas.back(), MensajeFalla(ErrorTrevalo::Desbordamiento()));
             QCOMPARE(ValorCelda(Lista(d), 3, 1), 0.0);
             EscribirCelda(d, 3, 1, QStringLiteral("750.5")); // a load rounds to even: 750
-            QCOMPARE(Lista(d).item(2, 0)->text(), QStringLiteral("750"));
-            Lista(d).setCurrentCell(2, 2);
+            QCOMPARE(Lista(d).model()->index(2, 0).data().toString(), QStringLiteral("750"));
+            Lista(d).setCurrentIndex(Lista(d).model()->index(2, 2));
             QTest::keyClick(&Lista(d), Qt::Key_F2);
             QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("6"));
             Control<QPushButton>(d, "LSButton1")->click(); // the cell's editor still open
@@ -236,7 +237,7 @@ class CargasTramos : public QObject {
             QCOMPARE(Control<QGroupBox>(d, "Frame1")->title(), QString());
             Escribir(d, "Long1", QStringLiteral("11"));
             Pulsar(d, "LSButton1");
-            QCOMPARE(Lista(d).rowCount(), 11);
+            QCOMPARE(Lista(d).model()->rowCount(), 11);
             QVERIFY(d.isVisible());
             QCOMPARE(p->dialogos->preguntas, std::vector<Pregunta>{MensajeFalla(
                                                  ErrorTrevalo::SubindiceFueraDeIntervalo())});
@@ -254,12 +255,12 @@ class CargasTramos : public QObject {
             QCOMPARE(d.windowTitle(), QStringLiteral("Cargas Trapezoidales"));
             QCOMPARE(Control<QGroupBox>(d, "Frame1")->title(),
                      QStringLiteral("Trapezoidal  Tipo 2 (kgf/m)"));
-            QCOMPARE(Lista(d).horizontalHeaderItem(1)->text(),
+            QCOMPARE(Lista(d).model()->headerData(1, Qt::Horizontal).toString(),
                      QStringLiteral("W (derecha)\n(Kgf)"));
             Escribir(d, "Long1", QStringLiteral("7"));
             QTest::keyClick(Control(d, "Long1"), Qt::Key_Return);
             QVERIFY(p->dialogos->preguntas.empty());
-            QCOMPARE(Lista(d).rowCount(), 7);
+            QCOMPARE(Lista(d).model()->rowCount(), 7);
             for (int r = 1; r <= 7; ++r) EscribirCelda(d, r, 2, QString::number(100 * r));
             QTest::keyClick(&Lista(d), Qt::Key_Tab);
             QCOMPARE(d.focusWidget(), Control<QPushButton>(d, "LSButton1"));
@@ -283,7 +284,7 @@ class CargasTramos : public QObject {
             QGuiApplication::clipboard()->setText(QStringLiteral(
                 "100\t0.5\t1\nabc\t1.5\t2.5\n120\t2\t3\n130\t3\t4\n140\t4\t5\n150\t5\t6\n"));
             Lista(d).setFocus();
-            Lista(d).setCurrentCell(0, 0);
+            Lista(d).setCurrentIndex(Lista(d).model()->index(0, 0));
             QTest::keyClick(&Lista(d), Qt::Key_V, Qt::ControlModifier);
             QCOMPARE(Control(d, "Long1")->text(), QStringLiteral("5"));
             QCOMPARE(
