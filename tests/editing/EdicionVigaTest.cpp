@@ -202,6 +202,31 @@ INSTANTIATE_TEST_SUITE_P(
         // A joint number the model cannot hold is the overflow error.
         CasoCelda{R::Desplazadas, 1, -1e12, false, {}, false, "Desbordamiento", "Error: 6", {}}));
 
+// What each list shows, read from the beam's own fields: rows, cells, span captions; a slot
+// beyond a list shorter than its count reads zero.
+TEST(EdicionViga, LoQueMuestraCadaLista) {
+    VigaActual v = TresTramos();
+    v.NombreEje(2) = "B";
+    v.NJDesp = 2;
+    v.R3.Redim(1);
+    const EdicionViga edicion(v);
+    using R = Rejilla;
+    const auto numero = [&](R r, long f, int c) { return std::get<double>(edicion.Leer(r, f, c)); };
+    EXPECT_EQ(edicion.Filas(R::Longitudes), 3);
+    EXPECT_EQ(edicion.Filas(R::Acotamientos), 4);
+    EXPECT_EQ(edicion.Filas(R::TiposMetalicos), 2);
+    EXPECT_EQ(edicion.Filas(R::Desplazadas), 2);
+    EXPECT_EQ(numero(R::Longitudes, 2, 1), 5.0);
+    EXPECT_EQ(numero(R::TiposConcreto, 1, 2), 0.6);
+    EXPECT_EQ(numero(R::TiposMetalicos, 2, 3), 0.7);
+    EXPECT_EQ(numero(R::Restringidas, 2, 1), 4.0);
+    EXPECT_EQ(numero(R::Restringidas, 2, 2), static_cast<double>(RodilloEnX));
+    EXPECT_EQ(numero(R::TipoTramoMetalico, 3, 1), 2.0);
+    EXPECT_EQ(numero(R::Desplazadas, 2, 1), 0.0);
+    EXPECT_EQ(std::get<std::string>(edicion.Leer(R::NombresEje, 2, 1)), "B");
+    EXPECT_EQ(edicion.RotuloTramo(2), "B - " + v.NombreEje(3));
+}
+
 TEST(EdicionViga, CeldasDeTexto) {
     VigaActual v = TresTramos();
     EdicionViga edicion(v);
