@@ -80,35 +80,34 @@ void DobleTee::CrearControles() {
     }
 
     auto* botones = new QHBoxLayout;
-    CrearBotones(*this, *botones,
-                 {{"LSButton1", "Calcular el Perfil", "Calcular el Perfil",
-                   "Calcular las propiedades geométricas del perfil. "},
-                  {"LSButton3", "Capturar", "Capturar",
-                   "Capturar las dimensiones y propiedades del perfil.  "},
-                  {"LSButton14", "Borrar los Datos", "Borrar los Datos",
-                   "Borrar los datos para entrar nuevo perfil. "},
-                  {"LSButton8", " Retorno ", "", ""}});
+    QPushButton* calcular =
+        CrearBotones(
+            *this, *botones,
+            {{{"LSButton1", "Calcular el Perfil", "Calcular el Perfil",
+               "Calcular las propiedades geométricas del perfil. "},
+              [this] { Calcular(); }},
+             {{"LSButton3", "Capturar", "Capturar",
+               "Capturar las dimensiones y propiedades del perfil.  "},
+              [this] { CapturarSeccion(); }},
+             {{"LSButton14", "Borrar los Datos", "Borrar los Datos",
+               "Borrar los datos para entrar nuevo perfil. "},
+              [this] {
+                  if (programa_.Dialogo().Mensaje({"Entrar un Nuevo Perfil?     ",
+                                                   "Creando Perfiles", BotonesMensaje::SiNo,
+                                                   IconoMensaje::Pregunta, 1}) == RespuestaSi)
+                      Borrar();
+              }},
+             {{"LSButton8", " Retorno ", "", ""}, [this] { reject(); }}})
+            .front();
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(seccion);
     todo->addWidget(propiedades);
     todo->addLayout(botones);
 
-    const auto boton = [this](const char* nombre) {
-        return findChild<QPushButton*>(QString::fromLatin1(nombre));
-    };
-    connect(boton("LSButton1"), &QPushButton::clicked, this, &DobleTee::Calcular);
-    connect(boton("LSButton3"), &QPushButton::clicked, this, &DobleTee::CapturarSeccion);
-    connect(boton("LSButton14"), &QPushButton::clicked, this, [this] {
-        if (programa_.Dialogo().Mensaje({"Entrar un Nuevo Perfil?     ", "Creando Perfiles",
-                                         BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1}) ==
-            RespuestaSi)
-            Borrar();
-    });
-    connect(boton("LSButton8"), &QPushButton::clicked, this, &DobleTee::reject);
     // Enter walks d, tw, bf, tf and then to "Calcular el Perfil".
     for (std::size_t i = 0; i < doubles_.size(); ++i) {
         QWidget* siguiente =
-            i + 1 < doubles_.size() ? static_cast<QWidget*>(doubles_[i + 1]) : boton("LSButton1");
+            i + 1 < doubles_.size() ? static_cast<QWidget*>(doubles_[i + 1]) : calcular;
         connect(doubles_[i], &QLineEdit::returnPressed, siguiente, qOverload<>(&QWidget::setFocus));
     }
     (new ToolTipTrevalo(this))->Configurar(programa_.Tapiz);

@@ -31,24 +31,21 @@ OpcionPerfil::OpcionPerfil(Programa& programa, QWidget* parent)
     }
     opciones_[0]->setChecked(true);
 
+    // "Eliminar" is shown and does nothing in this release.
     auto* botones = new QVBoxLayout;
     CrearBotones(
         *this, *botones,
-        {{"LSButton3", "Crear", "Crear", "Crear una nueva tabla de perfiles. "},
-         {"LSButton2", "Editar", "Editar", "Editar una tabla de perfiles existente. "},
-         {"LSButton4", "Eliminar", "Eliminar", "Eliminar la tabla de perfiles seleccionada. "},
-         {"LSButton1", " Retorno ", "", ""}});
+        {{{"LSButton3", "Crear", "Crear", "Crear una nueva tabla de perfiles. "},
+          [this] { Crear(); }},
+         {{"LSButton2", "Editar", "Editar", "Editar una tabla de perfiles existente. "},
+          [this] { Editar(); }},
+         {{"LSButton4", "Eliminar", "Eliminar", "Eliminar la tabla de perfiles seleccionada. "},
+          {}},
+         {{"LSButton1", " Retorno ", "", ""}, [this] { reject(); }}});
     botones->addStretch(1);
     auto* todo = new QHBoxLayout(this);
     todo->addWidget(marco, 1);
     todo->addLayout(botones);
-
-    const auto boton = [this](const char* nombre) {
-        return findChild<QPushButton*>(QString::fromLatin1(nombre));
-    };
-    connect(boton("LSButton3"), &QPushButton::clicked, this, &OpcionPerfil::Crear);
-    connect(boton("LSButton2"), &QPushButton::clicked, this, &OpcionPerfil::Editar);
-    connect(boton("LSButton1"), &QPushButton::clicked, this, &OpcionPerfil::reject);
     (new ToolTipTrevalo(this))->Configurar(programa_.Tapiz);
 }
 

@@ -22,8 +22,16 @@ QPushButton* BotonDialogo(QWidget& padre, const char* nombre, const char* texto)
     return b;
 }
 
-void CrearBotones(QWidget& ventana, QBoxLayout& fila, const std::vector<Orden>& ordenes) {
-    for (const Orden& o : ordenes) fila.addWidget(CrearBoton(ventana, o));
+std::vector<QPushButton*> CrearBotones(QWidget& ventana, QBoxLayout& fila,
+                                       const std::vector<Comando>& comandos) {
+    std::vector<QPushButton*> botones;
+    for (const auto& [orden, accion] : comandos) {
+        QPushButton* boton = CrearBoton(ventana, orden);
+        if (accion) QObject::connect(boton, &QPushButton::clicked, &ventana, accion);
+        fila.addWidget(boton);
+        botones.push_back(boton);
+    }
+    return botones;
 }
 
 } // namespace trevalo

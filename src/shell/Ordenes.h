@@ -2,6 +2,7 @@
 // The command buttons of a form: the control's name, its caption, and the title and text of
 // its tool tip (taken over by ToolTipTrevalo when the form configures its tips).
 
+#include <functional>
 #include <vector>
 
 class QBoxLayout;
@@ -24,7 +25,15 @@ QPushButton* CrearBoton(QWidget& ventana, const Orden& orden);
 // window Return must not run a command.
 QPushButton* BotonDialogo(QWidget& padre, const char* nombre, const char* texto);
 
-// The buttons in a row, in order, added to `fila`.
-void CrearBotones(QWidget& ventana, QBoxLayout& fila, const std::vector<Orden>& ordenes);
+// A button and what a click on it does (nothing for a button shown without a command).
+struct Comando {
+    Orden orden;
+    std::function<void()> accion;
+};
+
+// The buttons in a row, in order, added to `fila`, each clicking its command; they are
+// answered in the same order.
+std::vector<QPushButton*> CrearBotones(QWidget& ventana, QBoxLayout& fila,
+                                       const std::vector<Comando>& comandos);
 
 } // namespace trevalo

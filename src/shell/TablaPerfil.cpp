@@ -237,9 +237,11 @@ void TablaPerfil::CrearControles() {
     edicion->setContentsMargins(0, 0, 0, 0);
     if (familia_ == FamiliaPerfil::DobleTee)
         CrearBotones(*this, *edicion,
-                     {{"LSButton2", "Crear", "Crear",
-                       "Crear un nuevo perfil generando las\npropiedades geométricas. "}});
-    CrearBotones(*this, *edicion, {{"LSButton5", "Eliminar", "Eliminar", d.tipEliminar}});
+                     {{{"LSButton2", "Crear", "Crear",
+                        "Crear un nuevo perfil generando las\npropiedades geométricas. "},
+                       [this] { CrearPerfil(); }}});
+    CrearBotones(*this, *edicion,
+                 {{{"LSButton5", "Eliminar", "Eliminar", d.tipEliminar}, [this] { Eliminar(); }}});
     auto* abajo = new QHBoxLayout(panel1);
     abajo->setContentsMargins(0, 0, 0, 0);
     abajo->addWidget(Etiqueta("Total Perfiles:", long1_, panel1));
@@ -248,8 +250,9 @@ void TablaPerfil::CrearControles() {
     abajo->addWidget(ssPanel3_);
     abajo->addStretch(1);
     CrearBotones(*this, *abajo,
-                 {{"LSButton4", "Salvar", "Salvar", "Salvar las modificaciones realizadas. "},
-                  {"LSButton1", " Retorno ", "", ""}});
+                 {{{"LSButton4", "Salvar", "Salvar", "Salvar las modificaciones realizadas. "},
+                   [this] { Salvar(); }},
+                  {{"LSButton1", " Retorno ", "", ""}, [this] { reject(); }}});
 
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(4, 4, 4, 8);
@@ -257,14 +260,6 @@ void TablaPerfil::CrearControles() {
     todo->addWidget(spread1_, 1);
     todo->addWidget(panel1);
 
-    const auto boton = [this](const char* nombre) {
-        return findChild<QPushButton*>(QString::fromLatin1(nombre));
-    };
-    if (QPushButton* crear = boton("LSButton2"))
-        connect(crear, &QPushButton::clicked, this, &TablaPerfil::CrearPerfil);
-    connect(boton("LSButton5"), &QPushButton::clicked, this, &TablaPerfil::Eliminar);
-    connect(boton("LSButton4"), &QPushButton::clicked, this, &TablaPerfil::Salvar);
-    connect(boton("LSButton1"), &QPushButton::clicked, this, &TablaPerfil::reject);
     connect(check1_, &QCheckBox::toggled, this, &TablaPerfil::Modificar);
     const auto cambio = [this] {
         if (!cargando_) tablaCambiada_ = true;

@@ -12,7 +12,6 @@
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
-#include <string_view>
 
 #include "output/EscritoresInforme.h"
 #include "output/PaginaInforme.h"
@@ -62,15 +61,6 @@ class HojaInforme : public QWidget {
 namespace {
 
 // The buttons of the viewer: object name, caption, tip.
-const Orden BotonesVisor[] = {
-    {"LSButton3", " Exportar", "", "Exportar el Informe a varios formatos"},
-    {"LSButton4", " Imprimir", "", "Imprimir el informe en la impresora seleccionada"},
-    {"VistaPreliminar", " Vista Preliminar", "", "Ver las páginas tal como saldrán impresas"},
-    {"LSButton5", " Cerrar la Vista Actual", "", ""},
-    {"SSCommand2", " Explorador de Windows", "", ""},
-    {"LSButton2", " Retorno", "", ""},
-};
-
 const int Zooms[] = {50, 75, 100, 125, 150, 200};
 
 QPushButton* BotonPaso(const QString& texto, const QString& nombre, QWidget* padre) {
@@ -107,7 +97,7 @@ VerReportes::VerReportes(Programa& programa, ContenidoInforme contenido, QWidget
     izquierda->addWidget(area_, 1);
     auto* todo = new QHBoxLayout(this);
     todo->addLayout(izquierda, 1);
-    todo->addWidget(CrearBotones());
+    todo->addWidget(CrearPanelOrdenes());
     Actualizar();
     if (const QScreen* pantalla = screen()) {
         const QRect zona = pantalla->availableGeometry();
@@ -145,6 +135,8 @@ QWidget* VerReportes::CrearNavegacion() {
     capas->addWidget(etiquetaZoom);
     capas->addWidget(zoom_);
     capas->addStretch(1);
+    haciaAtras_ = {primera, anterior};
+    haciaAdelante_ = {siguiente, ultima};
 
     connect(primera, &QPushButton::clicked, this, [this] { IrAPagina(1); });
     connect(anterior, &QPushButton::clicked, this, [this] { IrAPagina(Pagina() - 1); });
@@ -156,26 +148,28 @@ QWidget* VerReportes::CrearNavegacion() {
     return barra;
 }
 
-QWidget* VerReportes::CrearBotones() {
+QWidget* VerReportes::CrearPanelOrdenes() {
     auto* panel = new QWidget(this);
     panel->setObjectName(QStringLiteral("LSPanel1"));
     auto* capas = new QVBoxLayout(panel);
     capas->setContentsMargins(0, 0, 0, 0);
-    for (const Orden& orden : BotonesVisor) {
-        if (std::string_view(orden.nombre) == "LSButton2") capas->addStretch(1); // at the foot
-        capas->addWidget(CrearBoton(*panel, orden));
-    }
-    connect(Boton(QStringLiteral("LSButton3")), &QPushButton::clicked, this, [this] {
-        AsistenteExportacion(programa_, contenido_);
-        hoja_->update();
-    });
-    connect(Boton(QStringLiteral("LSButton4")), &QPushButton::clicked, this,
-            &VerReportes::Imprimir);
-    connect(Boton(QStringLiteral("VistaPreliminar")), &QPushButton::clicked, this,
-            &VerReportes::VistaPreliminar);
-    connect(Boton(QStringLiteral("SSCommand2")), &QPushButton::clicked, this,
-            [this] { ExplorarReportes(programa_); });
-    connect(Boton(QStringLiteral("LSButton2")), &QPushButton::clicked, this, &QDialog::accept);
+    // The viewer's commands; " Cerrar la Vista Actual " does nothing in this release.
+    CrearBotones(
+        *panel, *capas,
+        {{{"LSButton3", " Exportar", "", "Exportar el Informe a varios formatos"},
+          [this] {
+              AsistenteExportacion(programa_, contenido_);
+              hoja_->update();
+          }},
+         {{"LSButton4", " Imprimir", "", "Imprimir el informe en la impresora seleccionada"},
+          [this] { Imprimir(); }},
+         {{"VistaPreliminar", " Vista Preliminar", "", "Ver las páginas tal como saldrán impresas"},
+          [this] { VistaPreliminar(); }},
+         {{"LSButton5", " Cerrar la Vista Actual", "", ""}, {}},
+         {{"SSCommand2", " Explorador de Windows", "", ""},
+          [this] { ExplorarReportes(programa_); }}});
+    capas->addStretch(1); // " Retorno " at the foot
+    CrearBotones(*panel, *capas, {{{"LSButton2", " Retorno", "", ""}, [this] { accept(); }}});
     return panel;
 }
 
@@ -211,10 +205,8 @@ void VerReportes::Actualizar() {
     pagina_->setValue(Pagina());
     const QSignalBlocker bloqueoZoom(zoom_);
     zoom_->setCurrentIndex(zoom_->findData(Zoom()));
-    for (const char* nombre : {"Primera Página", "Página Anterior"})
-        findChild<QPushButton*>(QString::fromUtf8(nombre))->setEnabled(Pagina() > 1);
-    for (const char* nombre : {"Página Siguiente", "Última Página"})
-        findChild<QPushButton*>(QString::fromUtf8(nombre))->setEnabled(Pagina() < Paginas());
+    for (QPushButton* atras : haciaAtras_) atras->setEnabled(Pagina() > 1);
+    for (QPushButton* adelante : haciaAdelante_) adelante->setEnabled(Pagina() < Paginas());
 }
 
 void VerReportes::Imprimir() {

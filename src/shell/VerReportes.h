@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QPrinter>
+#include <array>
 
 #include "output/ContenidoInforme.h"
 #include "shell/Programa.h"
@@ -43,7 +44,7 @@ class VerReportes : public QDialog {
 
   private:
     QWidget* CrearNavegacion();
-    QWidget* CrearBotones();
+    QWidget* CrearPanelOrdenes();
     void Actualizar();
 
     Programa& programa_;
@@ -54,6 +55,8 @@ class VerReportes : public QDialog {
     QSpinBox* pagina_;
     QLabel* total_;
     QComboBox* zoom_;
+    std::array<QPushButton*, 2> haciaAtras_{};    // the first and the previous page
+    std::array<QPushButton*, 2> haciaAdelante_{}; // the next and the last page
 };
 
 } // namespace trevalo

@@ -83,26 +83,23 @@ void VigasMetalicas::CrearControles() {
 
     auto* botones = new QHBoxLayout;
     botones->addStretch(1);
-    CrearBotones(*this, *botones,
-                 {{"LSButton2", "Tablas", "Tablas", "Abrir una tabla de perfiles existente. "},
-                  {"LSButton4", "Capturar", "Capturar", "Capturar el perfil seleccionado. "},
-                  {"LSButton6", "Editar", "Editar", "Crear o Editar tabla de perfiles metálicos. "},
-                  {"LSButton1", " Retorno ", "", ""}});
+    CrearBotones(
+        *this, *botones,
+        {{{"LSButton2", "Tablas", "Tablas", "Abrir una tabla de perfiles existente. "},
+          [this] { Tablas(); }},
+         {{"LSButton4", "Capturar", "Capturar", "Capturar el perfil seleccionado. "},
+          [this] { Capturar(); }},
+         {{"LSButton6", "Editar", "Editar", "Crear o Editar tabla de perfiles metálicos. "},
+          [this] {
+              OpcionPerfil opcion(programa_, this);
+              opcion.exec();
+          }},
+         {{"LSButton1", " Retorno ", "", ""}, [this] { reject(); }}});
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(marco_, 1);
     todo->addLayout(botones);
     resize(960, 560);
 
-    const auto boton = [this](const char* nombre) {
-        return findChild<QPushButton*>(QString::fromLatin1(nombre));
-    };
-    connect(boton("LSButton2"), &QPushButton::clicked, this, &VigasMetalicas::Tablas);
-    connect(boton("LSButton4"), &QPushButton::clicked, this, &VigasMetalicas::Capturar);
-    connect(boton("LSButton6"), &QPushButton::clicked, this, [this] {
-        OpcionPerfil opcion(programa_, this);
-        opcion.exec();
-    });
-    connect(boton("LSButton1"), &QPushButton::clicked, this, &VigasMetalicas::reject);
     // A click on a picture loads a table for it; unless the load was cancelled, the picture
     // becomes the current one.
     connect(fpList1_, &QListWidget::itemClicked, this, [this] {
