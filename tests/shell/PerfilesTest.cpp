@@ -172,6 +172,10 @@ class Perfiles : public QObject {
                 QCOMPARE(Control(t, "Long1")->text(), QStringLiteral("3"));
                 QCOMPARE(Muestra(t, 2, c.designacion), QStringLiteral("P 200"));
                 QCOMPARE(Muestra(t, 2, c.designacion + 1), QStringLiteral("12.35"));
+                // The value the cell holds typed again is no change; an empty number is refused.
+                Control<QCheckBox>(t, "Check1")->setChecked(true);
+                QVERIFY(Teclar(t, 2, c.designacion + 1, QStringLiteral("12.35")));
+                QVERIFY(!Teclar(t, 2, c.designacion + 1, QString()));
                 QVERIFY(!t.Cambiada());
                 QTest::keyClick(&t, Qt::Key_Escape);
             });
