@@ -439,10 +439,6 @@ double ValorCelda(const QAbstractItemView& grid, int fila, int columna) {
     return grid.model()->index(fila - 1, columna - 1).data(Qt::EditRole).toDouble();
 }
 
-void ColocarTextoCelda(QTableWidget& grid, int fila, int columna, const QString& texto) {
-    ItemDe(grid, fila, columna).setText(texto);
-}
-
 bool CeldaMarcada(const QAbstractItemView& grid, int fila, int columna) {
     return grid.model()->index(fila - 1, columna - 1).data(Qt::CheckStateRole).toInt() ==
            Qt::Checked;

@@ -190,7 +190,6 @@ void FormatoCeldas(QTableWidget& grid, int col1, int row1, int col2, int row2, i
 
 // Cells by the forms' numbering; an empty cell reads 0.
 double ValorCelda(const QAbstractItemView& grid, int fila, int columna);
-void ColocarTextoCelda(QTableWidget& grid, int fila, int columna, const QString& texto);
 bool CeldaMarcada(const QAbstractItemView& grid, int fila, int columna);
 void MarcarCelda(QTableWidget& grid, int fila, int columna, bool marcada);
 // The background of a row, colour 0xBBGGRR.

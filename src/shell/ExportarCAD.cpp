@@ -10,14 +10,15 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableWidget>
+#include <QTableView>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <cstdint>
+#include <algorithm>
 
-#include "output/ExportarCAD.h"
+#include "platform/lienzos/LienzoQt.h"
 #include "shell/CristalReport.h"
 #include "shell/DelegadosCelda.h"
+#include "shell/ModeloCeldas.h"
 #include "shell/Ordenes.h"
 #include "shell/PantallaViga.h"
 #include "shell/TextoQt.h"
@@ -28,9 +29,8 @@ namespace trevalo {
 
 namespace {
 
-// Rows marked and unmarked, 0xBBGGRR.
-constexpr std::int32_t ColorMarcada = 0xC4EFFF;
-constexpr std::int32_t ColorBlanco = 0xFFFFFF;
+// A marked row, 0xBBGGRR; an unmarked one is white.
+constexpr Color ColorMarcada = 0xC4EFFF;
 
 const char* const Opciones[4] = {"Anexar a un Proyecto Existente", "Crear un Nuevo Proyecto",
                                  "Apoyada sobre Vigas", "Apoyada sobre Columnas"};
@@ -65,7 +65,7 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
 
     auto* marco =
         new QGroupBox(QStringLiteral("Programa de Dibujo Korvel-CAD Estructural 8.0"), this);
-    spread1_ = new QTableWidget(marco);
+    spread1_ = new QTableView(marco);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->setAccessibleName(QStringLiteral("Vigas a Exportar"));
     picture1_ = new PantallaViga(programa_, false, marco);
@@ -148,13 +148,10 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
-    if (spread1_->rowCount() > 0) {
-        const QSignalBlocker bloqueo(spread1_);
-        spread1_->setCurrentCell(0, 1);
-    }
-    connect(spread1_, &QTableWidget::currentCellChanged, this,
-            [this](int fila, int, int anterior, int) {
-                if (fila != anterior && fila >= 0) CambioFila(fila + 1);
+    if (!filas_.empty()) spread1_->setCurrentIndex(modelo_->index(0, 1));
+    connect(spread1_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& fila) {
+                if (fila.isValid()) CambioFila(fila.row() + 1);
             });
     resize(900, 600);
 }
@@ -164,38 +161,49 @@ QPushButton* ExportarCAD::Boton(const QString& nombre) const {
 }
 
 void ExportarCAD::ColoquePantalla(const std::vector<std::string>& nombres) {
-    const QSignalBlocker bloqueo(spread1_);
-    spread1_->setColumnCount(2);
-    spread1_->setHorizontalHeaderLabels(
-        {QStringLiteral("Exportar"), QStringLiteral("Nombre de la Viga")});
+    for (const std::string& nombre : nombres) filas_.push_back({false, nombre});
+    // The beams and their marks live in the rows the export takes; a tick is the one entry.
+    AccesoCeldas acceso;
+    acceso.Filas = [this] { return static_cast<int>(filas_.size()); };
+    acceso.Leer = [this](int fila, int columna) -> QVariant {
+        const FilaCAD& f = filas_[static_cast<std::size_t>(fila - 1)];
+        return columna == 1 ? QVariant(f.Marcada ? 1.0 : 0.0) : QVariant(Qs(f.Nombre));
+    };
+    acceso.Escribir = [this](const Celda& celda) {
+        if (celda.Columna != 1) return Ignorar();
+        filas_[static_cast<std::size_t>(celda.Fila - 1)].Marcada = celda.Numero == 1.0;
+        return Aceptar();
+    };
+    acceso.Fondo = [this](int fila) -> std::optional<QColor> {
+        return ColorQt(Marcada(fila) ? ColorMarcada : ColorBlanco);
+    };
+    modelo_ = new ModeloCeldas({{QStringLiteral("Exportar"), std::nullopt, false, true},
+                                {QStringLiteral("Nombre de la Viga"), std::nullopt, false, false}},
+                               std::move(acceso), programa_.Carpetas.SeparadorDecimal,
+                               programa_.Carpetas.SeparadorMiles, spread1_);
+    spread1_->setModel(modelo_);
+    new DelegadoMarca(*spread1_, 1);
+    // Only the mark is entered, by a click or the space bar on its cell.
+    spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     spread1_->horizontalHeader()->setStretchLastSection(true);
     spread1_->verticalHeader()->setDefaultSectionSize(20);
     spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
     spread1_->setMinimumWidth(380);
     spread1_->horizontalHeader()->resizeSection(0, 64);
-    new DelegadoMarca(*spread1_, 1, [this](int fila, bool marcada) {
-        ColorFila(*spread1_, fila, marcada ? ColorMarcada : ColorBlanco);
-    });
-    spread1_->setRowCount(static_cast<int>(nombres.size()));
-    for (int r = 0; r < spread1_->rowCount(); ++r) {
-        auto* nombre = new QTableWidgetItem(Qs(nombres[static_cast<std::size_t>(r)]));
-        nombre->setFlags(nombre->flags() & ~Qt::ItemIsEditable);
-        spread1_->setItem(r, 1, nombre);
-        Marcar(r + 1, false);
-    }
 }
 
 bool ExportarCAD::Marcada(int fila) const {
-    return CeldaMarcada(*spread1_, fila, 1);
+    return filas_[static_cast<std::size_t>(fila - 1)].Marcada;
 }
 
 void ExportarCAD::Marcar(int fila, bool marcada) {
-    MarcarCelda(*spread1_, fila, 1, marcada);
-    ColorFila(*spread1_, fila, marcada ? ColorMarcada : ColorBlanco);
+    filas_[static_cast<std::size_t>(fila - 1)].Marcada = marcada;
+    modelo_->Recargar();
 }
 
 void ExportarCAD::MarcarTodas(bool marcada) {
-    for (int r = 1; r <= spread1_->rowCount(); ++r) Marcar(r, marcada);
+    for (FilaCAD& fila : filas_) fila.Marcada = marcada;
+    modelo_->Recargar();
     spread1_->setFocus();
 }
 
@@ -216,13 +224,7 @@ void ExportarCAD::MostrarPanel(bool visible) {
 }
 
 void ExportarCAD::Exportar() {
-    std::vector<FilaCAD> filas;
-    bool alguna = false;
-    for (int r = 1; r <= spread1_->rowCount(); ++r) {
-        filas.push_back({Marcada(r), Std(spread1_->item(r - 1, 1)->text())});
-        alguna = alguna || filas.back().Marcada;
-    }
-    if (!alguna) {
+    if (std::none_of(filas_.begin(), filas_.end(), [](const FilaCAD& f) { return f.Marcada; })) {
         programa_.Dialogo().Mensaje(
             {"No ha Seleccionado Vigas para Exportar a Korvel-CAD Estructural!        \n",
              "Exportar Viga a Korvel-CAD Estructural 8.0", BotonesMensaje::Aceptar,
@@ -240,8 +242,8 @@ void ExportarCAD::Exportar() {
                    }};
     OpcionesCAD opciones{option_[1]->isChecked(), option_[3]->isChecked()};
     try {
-        if (ExportarCAD70(modelo, programa_.Dialogo(), programa_.Carpetas, filas,
-                          spread1_->currentRow() + 1, opciones, pasos) == 0)
+        if (ExportarCAD70(modelo, programa_.Dialogo(), programa_.Carpetas, filas_,
+                          spread1_->currentIndex().row() + 1, opciones, pasos) == 0)
             spread1_->setFocus();
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));

@@ -12,6 +12,7 @@
 #include <optional>
 #include <vector>
 
+#include "output/ExportarCAD.h"
 #include "platform/motor/MotorDatos.h"
 #include "shell/Programa.h"
 
@@ -20,10 +21,11 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
-class QTableWidget;
+class QTableView;
 
 namespace trevalo {
 
+class ModeloCeldas;
 class PantallaViga;
 class ToolTipTrevalo;
 
@@ -52,7 +54,9 @@ class ExportarCAD : public QDialog {
 
     Programa& programa_;
     std::optional<Recordset> listaConcreto_;
-    QTableWidget* spread1_;
+    std::vector<FilaCAD> filas_; // the beams of the list and their marks, row by row
+    QTableView* spread1_;
+    ModeloCeldas* modelo_;
     PantallaViga* picture1_;
     QRadioButton* option_[4];
     QFrame* panelP_;

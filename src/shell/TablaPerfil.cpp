@@ -10,7 +10,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QTableWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -23,6 +23,7 @@
 #include "shell/DobleTee.h"
 #include "shell/EncabezadoPerfil.h"
 #include "shell/EsquinaNo.h"
+#include "shell/ModeloCeldas.h"
 #include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
 #include "shell/ToolTipTrevalo.h"
@@ -161,6 +162,20 @@ int PrimerCampo(FamiliaPerfil familia) {
     return DisenoDe(familia).designacion + 1;
 }
 
+// The grid's columns: each titled by its header's lines, for a reader of the screen.
+std::vector<ColumnaCelda> ColumnasCelda(const Diseno& d) {
+    std::vector<ColumnaCelda> columnas;
+    for (const Columna& c : d.columnas) {
+        QStringList lineas;
+        for (const char* linea : c.lineas)
+            if (*linea) lineas << QString::fromUtf8(linea);
+        std::optional<FormatoCelda> formato;
+        if (c.decimales != ColumnaTexto) formato = FormatoCelda{c.decimales, false};
+        columnas.push_back({lineas.join(QLatin1Char(' ')), formato, c.centrada, false});
+    }
+    return columnas;
+}
+
 QLabel* Etiqueta(const char* texto, QWidget* control, QWidget* padre) {
     auto* e = new QLabel(QString::fromUtf8(texto), padre);
     e->setBuddy(control);
@@ -220,7 +235,7 @@ void TablaPerfil::CrearControles() {
     arriba->addSpacing(12);
     arriba->addWidget(check1_);
 
-    spread1_ = new QTableWidget(this);
+    spread1_ = new QTableView(this);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
 
@@ -266,7 +281,6 @@ void TablaPerfil::CrearControles() {
     };
     connect(text1_, &QLineEdit::textEdited, this, cambio);
     connect(long2_, &QLineEdit::textEdited, this, cambio);
-    connect(spread1_, &QTableWidget::itemChanged, this, cambio);
     connect(long1_, &QLineEdit::textEdited, this, [this] {
         totalCambiado_ = true;
         tablaCambiada_ = true;
@@ -299,9 +313,9 @@ void TablaPerfil::CrearControles() {
     connect(&timer1_, &QTimer::timeout, this, &TablaPerfil::MostrarEmergente);
     spread1_->viewport()->installEventFilter(this);
     spread1_->setMouseTracking(true);
-    connect(spread1_, &QTableWidget::cellPressed, this, [this](int fila, int) {
+    connect(spread1_, &QTableView::pressed, this, [this](const QModelIndex& celda) {
         if (!popupActivo_) return;
-        filaEmergente_ = fila + 1;
+        filaEmergente_ = celda.row() + 1;
         timer1_.start();
     });
 }
@@ -312,20 +326,21 @@ void TablaPerfil::ConfigurarPantalla() {
     for (const Columna& c : d.columnas)
         lineas.push_back({QString::fromUtf8(c.lineas[0]), QString::fromUtf8(c.lineas[1]),
                           QString::fromUtf8(c.lineas[2]), QString::fromUtf8(c.lineas[3])});
+    AccesoCeldas acceso;
+    acceso.Filas = [this] { return static_cast<int>(filas_.size()); };
+    acceso.Leer = [this](int fila, int columna) { return Leer(fila, columna); };
+    acceso.Escribir = [this](const Celda& celda) { return Escribir(celda); };
+    const auto& carpetas = programa_.Carpetas;
+    modelo_ = new ModeloCeldas(ColumnasCelda(d), std::move(acceso), carpetas.SeparadorDecimal,
+                               carpetas.SeparadorMiles, spread1_);
+    MostrarModelo(programa_, *spread1_, *modelo_);
     auto* encabezado = new EncabezadoPerfil(std::move(lineas), spread1_);
-    spread1_->setColumnCount(Columnas(familia_));
     spread1_->setHorizontalHeader(encabezado);
     encabezado->setFixedHeight(encabezado->sizeHint().height());
     spread1_->verticalHeader()->setDefaultSectionSize(18);
     EsquinaNo(*spread1_);
-    auto* delegado = new DelegadoNumero(programa_, *spread1_);
-    for (int c = 1; c <= Columnas(familia_); ++c) {
-        const Columna& columna = d.columnas[static_cast<std::size_t>(c - 1)];
-        if (columna.decimales != ColumnaTexto)
-            delegado->Formato(c, -1, c, -1, columna.decimales, false);
-        if (columna.centrada) delegado->Centrar(c);
+    for (int c = 1; c <= Columnas(familia_); ++c)
         spread1_->setColumnWidth(c - 1, c == d.designacion ? 150 : 72);
-    }
     if (familia_ == FamiliaPerfil::DobleTee) spread1_->setColumnHidden(0, true);
 }
 
@@ -341,18 +356,17 @@ void TablaPerfil::ColoquePantalla() {
     }
     text1_->setText(Qs(tabla.DescripcionTabla));
     long2_->ColocarValor(tabla.ResistenciaFY);
-    const int n = static_cast<int>(tabla.Filas.size());
-    if (n == 0) return;
-    long1_->ColocarValor(n);
-    spread1_->setRowCount(n);
+    if (tabla.Filas.empty()) return;
+    long1_->ColocarValor(static_cast<double>(tabla.Filas.size()));
     const int primero = PrimerCampo(familia_);
-    for (int r = 1; r <= n; ++r) {
-        const FilaPerfil& fila = tabla.Filas[static_cast<std::size_t>(r - 1)];
-        if (familia_ == FamiliaPerfil::DobleTee) ColocarTexto(r, 1, QString::number(fila.Numero));
-        ColocarTexto(r, DisenoDe(familia_).designacion, Qs(fila.Designacion));
-        for (std::size_t i = 0; i < fila.Valores.size(); ++i)
-            ColocarNumero(r, primero + static_cast<int>(i), fila.Valores[i]);
+    for (const FilaPerfil& perfil : tabla.Filas) {
+        Fila& fila = filas_.emplace_back(FilaVacia());
+        fila.Referencia = QString::number(perfil.Numero);
+        fila.Designacion = Qs(perfil.Designacion);
+        for (std::size_t i = 0; i < perfil.Valores.size(); ++i)
+            Colocar(fila, primero + static_cast<int>(i), perfil.Valores[i]);
     }
+    modelo_->Recargar();
 }
 
 void TablaPerfil::Modificar(bool activo) {
@@ -367,17 +381,18 @@ void TablaPerfil::Modificar(bool activo) {
 
 void TablaPerfil::AplicarTotal() {
     if (!totalCambiado_) return;
-    const int n = static_cast<int>(std::clamp(long1_->Valor(), 0.0, 32767.0));
-    spread1_->setRowCount(n);
+    const auto n = static_cast<std::size_t>(std::clamp(long1_->Valor(), 0.0, 32767.0));
+    filas_.resize(n, FilaVacia());
     const Diseno& d = DisenoDe(familia_);
-    for (int r = 1; r <= n; ++r)
+    for (int r = 1; r <= static_cast<int>(n); ++r)
         for (int c = 2; c <= d.ultimaRellena; ++c) {
-            if (!Texto(r, c).trimmed().isEmpty()) continue;
-            if (d.columnas[static_cast<std::size_t>(c - 1)].decimales == ColumnaTexto)
-                ColocarTexto(r, c, QStringLiteral("0"));
-            else
-                ColocarNumero(r, c, 0);
+            if (!Leer(r, c).toString().trimmed().isEmpty()) continue;
+            const bool texto =
+                d.columnas[static_cast<std::size_t>(c - 1)].decimales == ColumnaTexto;
+            Colocar(filas_[static_cast<std::size_t>(r - 1)], c,
+                    texto ? QVariant(QStringLiteral("0")) : QVariant(0.0));
         }
+    modelo_->Recargar();
     totalCambiado_ = false;
 }
 
@@ -392,32 +407,33 @@ void TablaPerfil::CrearPerfil() {
 // in the designation column and so on, one column to the left of the table's fields; the
 // last column stays empty. Tables made so keep that layout.
 void TablaPerfil::AgregarCaptura(const CapturaSeccion& captura) {
-    const int r = spread1_->rowCount() + 1;
-    spread1_->setRowCount(r);
-    ColocarTexto(r, 1, Qs(captura.Designacion));
-    ColocarTexto(r, 2,
-                 Qs(Formato(captura.Numeros.front(), "0.00", programa_.Carpetas.SeparadorDecimal)));
+    Fila& fila = filas_.emplace_back(FilaVacia());
+    Colocar(fila, 1, Qs(captura.Designacion));
+    Colocar(fila, 2,
+            Qs(Formato(captura.Numeros.front(), "0.00", programa_.Carpetas.SeparadorDecimal)));
     for (std::size_t i = 1; i < captura.Numeros.size(); ++i)
-        ColocarNumero(r, 2 + static_cast<int>(i), captura.Numeros[i]);
-    spread1_->setCurrentCell(r - 1, 1);
+        Colocar(fila, 2 + static_cast<int>(i), captura.Numeros[i]);
     tablaCambiada_ = true;
+    modelo_->Recargar();
+    spread1_->setCurrentIndex(modelo_->index(static_cast<int>(filas_.size()) - 1, 1));
 }
 
 void TablaPerfil::Eliminar() {
-    if (spread1_->rowCount() == 0) {
+    if (filas_.empty()) {
         QApplication::beep();
         return;
     }
-    const int fila = std::max(spread1_->currentRow(), 0) + 1;
+    const int fila = std::max(spread1_->currentIndex().row(), 0) + 1;
     const Diseno& d = DisenoDe(familia_);
-    const std::string nombre = Recortar(Std(Texto(fila, d.designacion)));
+    const std::string nombre = Recortar(Std(Designacion(fila)));
     const std::string espacios = familia_ == FamiliaPerfil::DobleTee ? "!        " : "!      ";
     const Pregunta pregunta{d.preguntaEliminar + nombre + espacios + "\n¿Esta Usted Seguro?    ",
                             "Eliminando Perfiles de la Tabla", BotonesMensaje::SiNo,
                             IconoMensaje::Advertencia, 2};
     if (programa_.Dialogo().Mensaje(pregunta) != RespuestaSi) return;
-    spread1_->removeRow(fila - 1);
-    long1_->ColocarValor(spread1_->rowCount());
+    filas_.erase(filas_.begin() + (fila - 1));
+    modelo_->Recargar();
+    long1_->ColocarValor(static_cast<double>(filas_.size()));
     tablaCambiada_ = true;
     spread1_->setFocus();
 }
@@ -426,7 +442,8 @@ bool TablaPerfil::Salvar() {
     TablaPerfiles tabla;
     tabla.DescripcionTabla = Std(text1_->text());
     tabla.ResistenciaFY = static_cast<std::int16_t>(std::clamp(long2_->Valor(), 0.0, 32767.0));
-    for (int r = 1; r <= spread1_->rowCount(); ++r) tabla.Filas.push_back(FilaDelGrid(r));
+    for (int r = 1; r <= static_cast<int>(filas_.size()); ++r)
+        tabla.Filas.push_back(FilaDelGrid(r));
     try {
         if (!SalvarTablaPerfiles(programa_.Perfiles.ArchivoTabla, familia_, tabla)) {
             text1_->setFocus();
@@ -464,9 +481,9 @@ void TablaPerfil::reject() {
 
 FilaPerfil TablaPerfil::FilaDelGrid(int fila) const {
     FilaPerfil f;
-    f.Designacion = Std(Texto(fila, DisenoDe(familia_).designacion));
-    for (int c = PrimerCampo(familia_); c <= Columnas(familia_); ++c)
-        f.Valores.push_back(Numero(fila, c));
+    f.Designacion = Std(Designacion(fila));
+    for (const auto& valor : filas_[static_cast<std::size_t>(fila - 1)].Valores)
+        f.Valores.push_back(valor.value_or(0.0)); // an empty cell counts as 0
     return f;
 }
 
@@ -495,7 +512,7 @@ bool TablaPerfil::eventFilter(QObject* objeto, QEvent* evento) {
 }
 
 void TablaPerfil::MostrarEmergente() {
-    if (filaEmergente_ < 1 || filaEmergente_ > spread1_->rowCount()) return;
+    if (filaEmergente_ < 1 || filaEmergente_ > static_cast<int>(filas_.size())) return;
     lsFrame3_->hide();
     // The frame has not been laid out before it is first shown: the sketch takes the size
     // its picture will have.
@@ -504,7 +521,7 @@ void TablaPerfil::MostrarEmergente() {
     lienzo.Cls();
     DisenoDe(familia_).dibujo(lienzo, FilaDelGrid(filaEmergente_));
     picture5_->setPixmap(QPixmap::fromImage(lienzo.Imagen()));
-    labelV6_->setText(Texto(filaEmergente_, DisenoDe(familia_).designacion).trimmed());
+    labelV6_->setText(Designacion(filaEmergente_).trimmed());
     ColocarEmergente();
     lsFrame3_->show();
     lsFrame3_->raise();
@@ -522,22 +539,50 @@ void TablaPerfil::ColocarEmergente() {
     lsFrame3_->move(x, y);
 }
 
-// The cells, through the grid's numeric delegate: a numeric cell keeps what it shows.
-void TablaPerfil::ColocarNumero(int fila, int columna, double valor) {
-    Delegado(*spread1_).ColocarValor(fila, columna, valor);
+TablaPerfil::Fila TablaPerfil::FilaVacia() const {
+    return {{},
+            {},
+            std::vector<std::optional<double>>(
+                static_cast<std::size_t>(Columnas(familia_) - PrimerCampo(familia_) + 1))};
 }
 
-double TablaPerfil::Numero(int fila, int columna) const {
-    return ValorCelda(*spread1_, fila, columna);
+QVariant TablaPerfil::Leer(int fila, int columna) const {
+    const Fila& f = filas_[static_cast<std::size_t>(fila - 1)];
+    const int designacion = DisenoDe(familia_).designacion;
+    if (columna < designacion) return f.Referencia;
+    if (columna == designacion) return f.Designacion;
+    const auto& valor = f.Valores[static_cast<std::size_t>(columna - designacion - 1)];
+    return valor ? QVariant(*valor) : QVariant();
 }
 
-QString TablaPerfil::Texto(int fila, int columna) const {
-    const QTableWidgetItem* item = spread1_->item(fila - 1, columna - 1);
-    return item ? item->text() : QString();
+// A number read, captured or filled takes the value its cell shows, as a typed one does.
+void TablaPerfil::Colocar(Fila& fila, int columna, const QVariant& valor) const {
+    const int designacion = DisenoDe(familia_).designacion;
+    if (columna < designacion)
+        fila.Referencia = valor.toString();
+    else if (columna == designacion)
+        fila.Designacion = valor.toString();
+    else
+        fila.Valores[static_cast<std::size_t>(columna - designacion - 1)] = LeerNumero(
+            modelo_->Texto(columna, valor.toDouble()), modelo_->Decimal(), modelo_->Miles());
 }
 
-void TablaPerfil::ColocarTexto(int fila, int columna, const QString& texto) {
-    ColocarTextoCelda(*spread1_, fila, columna, texto);
+// A locked table takes nothing, typed or pasted; a numeric cell takes no empty text. A value
+// that differs from the cell's is a change to save.
+Veredicto TablaPerfil::Escribir(const Celda& celda) {
+    if (!check1_->isChecked()) return Rechazar();
+    const bool numerica = modelo_->Columna(celda.Columna).Formato.has_value();
+    if (numerica && !celda.Numero) return Rechazar();
+    const QVariant valor = numerica ? QVariant(*celda.Numero) : QVariant(celda.Texto);
+    if (Leer(celda.Fila, celda.Columna) != valor) {
+        Colocar(filas_[static_cast<std::size_t>(celda.Fila - 1)], celda.Columna, valor);
+        tablaCambiada_ = true;
+    }
+    return Aceptar();
+}
+
+QString TablaPerfil::Designacion(int fila) const {
+    return Leer(fila, DisenoDe(familia_).designacion).toString();
 }
 
 } // namespace trevalo

@@ -12,6 +12,8 @@
 
 #include <QDialog>
 #include <QTimer>
+#include <optional>
+#include <vector>
 
 #include "profiles/FamiliasPerfil.h"
 #include "profiles/PropiedadesPerfil.h"
@@ -21,13 +23,16 @@ class QCheckBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
-class QTableWidget;
+class QTableView;
 class QWidget;
 
 namespace trevalo {
 
 class CampoNumero;
+class ModeloCeldas;
 class ToolTipTrevalo;
+struct Celda;
+struct Veredicto;
 
 class TablaPerfil : public QDialog {
     Q_OBJECT
@@ -41,7 +46,7 @@ class TablaPerfil : public QDialog {
     // shown).
     bool Leida() const { return leida_; }
     bool Cambiada() const { return tablaCambiada_; }
-    QTableWidget& Grid() { return *spread1_; }
+    QTableView& Grid() { return *spread1_; }
 
     // A section of the generator as a new last row, made the current row: its name in the
     // first column, its numbers in the following ones, in the order the generator gives.
@@ -62,6 +67,14 @@ class TablaPerfil : public QDialog {
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:
+    // A profile as the grid shows it: a numeric cell stays empty until a value is typed,
+    // read, captured or filled by the count.
+    struct Fila {
+        QString Referencia; // the double-tee table's hidden first column
+        QString Designacion;
+        std::vector<std::optional<double>> Valores; // the family's fields
+    };
+
     void CrearControles();
     void ConfigurarPantalla();
     void ColoquePantalla();
@@ -71,15 +84,19 @@ class TablaPerfil : public QDialog {
     void ColocarEmergente();
     FilaPerfil FilaDelGrid(int fila) const;
 
-    // Cells by the forms' numbering: rows and columns from 1.
-    void ColocarNumero(int fila, int columna, double valor);
-    double Numero(int fila, int columna) const;
-    QString Texto(int fila, int columna) const;
-    void ColocarTexto(int fila, int columna, const QString& texto);
+    // Cells by the forms' numbering: rows and columns from 1. A number is kept as its cell
+    // shows it.
+    Fila FilaVacia() const;
+    QVariant Leer(int fila, int columna) const;
+    void Colocar(Fila& fila, int columna, const QVariant& valor) const;
+    Veredicto Escribir(const Celda& celda);
+    QString Designacion(int fila) const;
 
     Programa& programa_;
     FamiliaPerfil familia_;
-    QTableWidget* spread1_;
+    std::vector<Fila> filas_;
+    QTableView* spread1_;
+    ModeloCeldas* modelo_ = nullptr;
     QLineEdit* text1_;
     CampoNumero* long2_;
     CampoNumero* long1_;

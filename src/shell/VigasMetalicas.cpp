@@ -7,13 +7,14 @@
 #include <QHeaderView>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "platform/lienzos/LienzosArchivo.h"
 #include "profiles/DibujosSeccion.h"
 #include "shell/DelegadosCelda.h"
+#include "shell/ModeloCeldas.h"
 #include "shell/OpcionPerfil.h"
 #include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
@@ -63,11 +64,25 @@ void VigasMetalicas::CrearControles() {
     for (int i = 1; i <= NumeroItemsFamilia; ++i)
         fpList1_->addItem(new QListWidgetItem(Dibujo(i), Qs(ItemLista(i).Texto)));
 
-    spread1_ = new QTableWidget(0, 3, marco_);
+    spread1_ = new QTableView(marco_);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
-    spread1_->setHorizontalHeaderLabels(
-        {QStringLiteral("Designación"), QStringLiteral("Area"), QStringLiteral("Inercia")});
+    // The table loaded, shown only: read where it lives, in the program's list of profiles.
+    AccesoCeldas acceso;
+    acceso.Filas = [this] { return static_cast<int>(programa_.ListaPerfil.ListaPerfilesN); };
+    acceso.Leer = [this](int fila, int columna) -> QVariant {
+        const ListaPerfiles& lista = programa_.ListaPerfil;
+        if (columna == 1) return Qs(lista.ListaDesignacion(fila));
+        return columna == 2 ? lista.ListaArea(fila) : lista.ListaInercia(fila);
+    };
+    const FormatoCelda dosDecimales{2, false};
+    const auto& carpetas = programa_.Carpetas;
+    modelo_ = new ModeloCeldas({{QStringLiteral("Designación"), std::nullopt, false, false},
+                                {QStringLiteral("Area"), dosDecimales, false, false},
+                                {QStringLiteral("Inercia"), dosDecimales, false, false}},
+                               std::move(acceso), carpetas.SeparadorDecimal,
+                               carpetas.SeparadorMiles, spread1_);
+    MostrarModelo(programa_, *spread1_, *modelo_);
     spread1_->verticalHeader()->hide();
     spread1_->verticalHeader()->setDefaultSectionSize(18);
     spread1_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -75,7 +90,6 @@ void VigasMetalicas::CrearControles() {
     spread1_->setColumnWidth(2, 110);
     spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
     spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    (new DelegadoNumero(programa_, *spread1_))->Formato(2, -1, 3, -1, 2, false);
     spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     auto* dentro = new QVBoxLayout(marco_);
     dentro->addWidget(fpList1_);
@@ -107,20 +121,14 @@ void VigasMetalicas::CrearControles() {
         if (!cancelarItem_) itemActual_ = fpList1_->currentRow() + 1;
         cancelarItem_ = false;
     });
-    connect(spread1_, &QTableWidget::cellDoubleClicked, this, &VigasMetalicas::Capturar);
+    connect(spread1_, &QTableView::doubleClicked, this, &VigasMetalicas::Capturar);
     (new ToolTipTrevalo(this))->Configurar(programa_.Tapiz);
 }
 
 // The last table loaded, and the picture it was loaded for (the first before any).
 void VigasMetalicas::ColoquePantalla() {
     ListaPerfiles& lista = programa_.ListaPerfil;
-    const int n = lista.ListaPerfilesN;
-    spread1_->setRowCount(n);
-    for (int r = 1; r <= n; ++r) {
-        ColocarTextoCelda(*spread1_, r, 1, Qs(lista.ListaDesignacion(r)));
-        Delegado(*spread1_).ColocarValor(r, 2, lista.ListaArea(r));
-        Delegado(*spread1_).ColocarValor(r, 3, lista.ListaInercia(r));
-    }
+    modelo_->Recargar();
     if (lista.ListaFamilia == 0) lista.ListaFamilia = 1;
     ElegirItem(lista.ListaFamilia);
     itemActual_ = lista.ListaFamilia;
@@ -154,11 +162,11 @@ void VigasMetalicas::Tablas() {
 
 void VigasMetalicas::Capturar() {
     const ListaPerfiles& lista = programa_.ListaPerfil;
-    if (spread1_->rowCount() == 0) {
+    if (modelo_->Filas() == 0) {
         QApplication::beep();
         return;
     }
-    const long fila = std::max(spread1_->currentRow(), 0) + 1;
+    const long fila = std::max(spread1_->currentIndex().row(), 0) + 1;
     if (programa_.Dialogo().Mensaje({MensajeCapturaPerfil(lista, fila, tipo_),
                                      "Capturar Sección de Perfil Metálico", BotonesMensaje::SiNo,
                                      IconoMensaje::Pregunta, 1}) != RespuestaSi) {

@@ -15,9 +15,11 @@
 
 class QGroupBox;
 class QListWidget;
-class QTableWidget;
+class QTableView;
 
 namespace trevalo {
+
+class ModeloCeldas;
 
 class VigasMetalicas : public QDialog {
     Q_OBJECT
@@ -44,7 +46,8 @@ class VigasMetalicas : public QDialog {
     long filaCapturada_ = 0;
     QGroupBox* marco_;
     QListWidget* fpList1_;
-    QTableWidget* spread1_;
+    QTableView* spread1_;
+    ModeloCeldas* modelo_;
     int itemActual_ = 1;
     bool cancelarItem_ = false;
 };

@@ -7,7 +7,7 @@
 #include <QFrame>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableWidget>
+#include <QTableView>
 
 #include "VentanasPrueba.h"
 #include "shell/ExportarCAD.h"
@@ -21,16 +21,21 @@ using namespace trevalo::prueba;
 
 namespace {
 
-QTableWidget& Grilla(ExportarCAD& f) {
-    return *Hijo<QTableWidget>(f, QStringLiteral("Spread1"));
+QTableView& Grilla(ExportarCAD& f) {
+    return *Hijo<QTableView>(f, QStringLiteral("Spread1"));
+}
+
+// A cell of the grid (row and column from 1).
+QVariant Celda(ExportarCAD& f, int fila, int columna, int rol = Qt::DisplayRole) {
+    return Grilla(f).model()->index(fila - 1, columna - 1).data(rol);
 }
 
 QColor Fondo(ExportarCAD& f, int fila) {
-    return Grilla(f).item(fila - 1, 1)->background().color();
+    return Celda(f, fila, 2, Qt::BackgroundRole).value<QColor>();
 }
 
 // A click on the check cell of the row (from 1).
-void Tildar(QTableWidget& g, int fila) {
+void Tildar(QTableView& g, int fila) {
     QTest::mouseClick(g.viewport(), Qt::LeftButton, {},
                       g.visualRect(g.model()->index(fila - 1, 0)).center());
 }
@@ -59,10 +64,11 @@ class ExportarCADTest : public QObject {
         EnVentana<ExportarCAD>([&](ExportarCAD& f) {
             visto = true;
             QCOMPARE(f.windowTitle(), QStringLiteral("Exportar a Korvel-CAD Estructural"));
-            QTableWidget& g = Grilla(f);
-            QCOMPARE(g.rowCount(), static_cast<int>(nombres.size()));
-            for (int r = 1; r <= g.rowCount(); ++r) {
-                QCOMPARE(Std(g.item(r - 1, 1)->text()), nombres[static_cast<std::size_t>(r - 1)]);
+            QTableView& g = Grilla(f);
+            const int filas = g.model()->rowCount();
+            QCOMPARE(filas, static_cast<int>(nombres.size()));
+            for (int r = 1; r <= filas; ++r) {
+                QCOMPARE(Std(Celda(f, r, 2).toString()), nombres[static_cast<std::size_t>(r - 1)]);
                 QVERIFY(!f.Marcada(r));
                 QCOMPARE(Fondo(f, r), QColor(Qt::white));
             }
@@ -85,7 +91,7 @@ class ExportarCADTest : public QObject {
             QCOMPARE(f.focusWidget(), &g);
 
             Pulsar(f, "SSCommand1");
-            for (int r = 1; r <= g.rowCount(); ++r) {
+            for (int r = 1; r <= filas; ++r) {
                 QVERIFY(f.Marcada(r));
                 QCOMPARE(Fondo(f, r), Crema);
             }
@@ -94,11 +100,17 @@ class ExportarCADTest : public QObject {
             QCOMPARE(Fondo(f, 1), QColor(Qt::white));
 
             // The second row: its beam in the preview, marked, to a new project.
-            g.setCurrentCell(1, 1);
+            g.setCurrentIndex(g.model()->index(1, 0));
             QCOMPARE(p.programa.Viga.NombreVigaActual, nombres[1]);
+            // The space bar ticks the row's mark and takes it off again; a click ticks it.
+            QTest::keyClick(&g, Qt::Key_Space);
+            QVERIFY(f.Marcada(2));
+            QTest::keyClick(&g, Qt::Key_Space);
+            QCOMPARE(Fondo(f, 2), QColor(Qt::white));
             Tildar(g, 2);
             QVERIFY(f.Marcada(2));
             QCOMPARE(Fondo(f, 2), Crema);
+            QCOMPARE(Celda(f, 2, 1, Qt::CheckStateRole).toInt(), int(Qt::Checked));
             auto* nuevo = Hijo<QRadioButton>(f, QStringLiteral("Option2"));
             QTest::mouseClick(nuevo, Qt::LeftButton, {}, QPoint(8, nuevo->height() / 2));
             QVERIFY(nuevo->isChecked());
@@ -133,8 +145,8 @@ class ExportarCADTest : public QObject {
         auto ventana = VentanaProyecto(p, "Ejemplo Demostrativo.trv");
         const std::string destino = p.carpeta / "Anexo.Cad";
         EnVentana<ExportarCAD>([&](ExportarCAD& f) {
-            QTableWidget& g = Grilla(f);
-            Tildar(g, g.rowCount());
+            QTableView& g = Grilla(f);
+            Tildar(g, g.model()->rowCount());
             p.dialogos->archivos.push_back({false, destino, "Anexo.Cad"});
             p.dialogos->respuestas.push_back(RespuestaSi);
             Pulsar(f, "LSButton1");

@@ -10,6 +10,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
+#include <QTableView>
 #include <QTableWidget>
 #include <filesystem>
 
@@ -32,13 +34,12 @@ using F = FamiliaPerfil;
 namespace {
 
 // A cell by the forms' numbering (row and column from 1), as the grid shows it.
-QString Mostrado(QTableWidget& grid, int fila, int columna) {
-    const QTableWidgetItem* item = grid.item(fila - 1, columna - 1);
-    if (!item) return {};
-    const QVariant valor = item->data(Qt::EditRole);
-    return valor.typeId() == QMetaType::Double
-               ? Delegado(grid).Texto(fila, columna, valor.toDouble())
-               : item->text();
+QString Mostrado(const QTableView& grid, int fila, int columna) {
+    return grid.model()->index(fila - 1, columna - 1).data().toString();
+}
+
+int FilasGrid(const QTableView& grid) {
+    return grid.model()->rowCount();
 }
 
 QString Muestra(TablaPerfil& t, int fila, int columna) {
@@ -47,7 +48,12 @@ QString Muestra(TablaPerfil& t, int fila, int columna) {
 
 // A value typed into a cell; whether the cell took it.
 bool Teclar(TablaPerfil& t, int fila, int columna, const QString& texto) {
-    return Delegado(t.Grid()).Aplicar(fila, columna, texto);
+    QAbstractItemModel& modelo = *t.Grid().model();
+    return modelo.setData(modelo.index(fila - 1, columna - 1), texto);
+}
+
+void Elegir(QTableView& grid, int fila, int columna) {
+    grid.setCurrentIndex(grid.model()->index(fila - 1, columna - 1));
 }
 
 ArchivoElegido Elegido(const std::string& carpeta, const std::string& nombre) {
@@ -117,8 +123,8 @@ class Perfiles : public QObject {
                     ->setChecked(true);
                 AlAbrirse<TablaPerfil>([&](TablaPerfil& t) {
                     QCOMPARE(t.windowTitle(), Qs(c.ventana));
-                    QCOMPARE(t.Grid().rowCount(), 0);
-                    QCOMPARE(t.Grid().columnCount(), c.columnas);
+                    QCOMPARE(FilasGrid(t.Grid()), 0);
+                    QCOMPARE(t.Grid().model()->columnCount(), c.columnas);
                     QVERIFY(t.Cambiada());
                     QCOMPARE(Control(t, "Long1")->text(), QStringLiteral("0"));
                     QCOMPARE(Control(t, "Long2")->text(), QStringLiteral("0"));
@@ -126,7 +132,7 @@ class Perfiles : public QObject {
                     Control<QCheckBox>(t, "Check1")->setChecked(true);
                     Escribir(t, "Long1", QStringLiteral("3"));
                     QTest::keyClick(Control(t, "Long1"), Qt::Key_Return);
-                    QCOMPARE(t.Grid().rowCount(), 3);
+                    QCOMPARE(FilasGrid(t.Grid()), 3);
                     QCOMPARE(Muestra(t, 3, 2),
                              c.designacion == 2 ? QStringLiteral("0") : QStringLiteral("0.00"));
                     // The double-tee count fills one column short of the last.
@@ -167,6 +173,10 @@ class Perfiles : public QObject {
                 QCOMPARE(Control(t, "Long1")->text(), QStringLiteral("3"));
                 QCOMPARE(Muestra(t, 2, c.designacion), QStringLiteral("P 200"));
                 QCOMPARE(Muestra(t, 2, c.designacion + 1), QStringLiteral("12.35"));
+                // The value the cell holds typed again is no change; an empty number is refused.
+                Control<QCheckBox>(t, "Check1")->setChecked(true);
+                QVERIFY(Teclar(t, 2, c.designacion + 1, QStringLiteral("12.35")));
+                QVERIFY(!Teclar(t, 2, c.designacion + 1, QString()));
                 QVERIFY(!t.Cambiada());
                 QTest::keyClick(&t, Qt::Key_Escape);
             });
@@ -265,7 +275,7 @@ class Perfiles : public QObject {
                 (Pregunta{"Designación: IG 300\nCapturar la Sección y sus Propiedades...    ",
                           "Capturar Secciones", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1}));
             QVERIFY(t.Cambiada());
-            QCOMPARE(t.Grid().rowCount(), 1);
+            QCOMPARE(FilasGrid(t.Grid()), 1);
             // The capture writes one column to the left of the table's fields: the name in
             // the hidden reference, the area under the designation, and so on.
             QCOMPARE(Muestra(t, 1, 1), QStringLiteral("IG 300"));
@@ -298,7 +308,7 @@ class Perfiles : public QObject {
             QVERIFY(!Teclar(t, 1, 2, QStringLiteral("5")));
             QCOMPARE(Muestra(t, 1, 2), QStringLiteral("1.00"));
             Control<QCheckBox>(t, "Check1")->setChecked(true);
-            t.Grid().setCurrentCell(0, 1);
+            Elegir(t.Grid(), 1, 2);
             QTest::keyClick(&t.Grid(), Qt::Key_F2);
             auto* celda = qobject_cast<QLineEdit*>(QApplication::focusWidget());
             QVERIFY(celda);
@@ -309,17 +319,17 @@ class Perfiles : public QObject {
             QVERIFY(t.isVisible());
             QCOMPARE(dialogos().preguntas, std::vector<Pregunta>{PreguntaSalvar});
             QCOMPARE(Muestra(t, 1, 2), QStringLiteral("5.00"));
-            t.Grid().setCurrentCell(0, 0);
+            Elegir(t.Grid(), 1, 1);
             dialogos().respuestas = {RespuestaNo, RespuestaSi};
             Pulsar(t, "LSButton5");
-            QCOMPARE(t.Grid().rowCount(), 1);
+            QCOMPARE(FilasGrid(t.Grid()), 1);
             Pulsar(t, "LSButton5");
             QCOMPARE(dialogos().preguntas.back(),
                      (Pregunta{"Eliminar el Perfil Seleccionado: UPN 100!      \n"
                                "¿Esta Usted Seguro?    ",
                                "Eliminando Perfiles de la Tabla", BotonesMensaje::SiNo,
                                IconoMensaje::Advertencia, 2}));
-            QCOMPARE(t.Grid().rowCount(), 0);
+            QCOMPARE(FilasGrid(t.Grid()), 0);
             QCOMPARE(Control(t, "Long1")->text(), QStringLiteral("0"));
             Escribir(t, "Text1", QString());
             dialogos().respuestas = {RespuestaCancelar, RespuestaSi, RespuestaNo};
@@ -392,8 +402,7 @@ class Perfiles : public QObject {
             emit lista->itemClicked(lista->item(5));
             QCOMPARE(lista->currentRow(), 0);
             QCOMPARE(v.ItemActual(), 1);
-            QCOMPARE(Control<QTableWidget>(v, "Spread1")->item(0, 0)->text(),
-                     QStringLiteral("1 W"));
+            QCOMPARE(Mostrado(*Control<QTableView>(v, "Spread1"), 1, 1), QStringLiteral("1 W"));
             v.reject();
         });
         QCOMPARE(dialogos().preguntas.back(), falta);
@@ -423,17 +432,17 @@ class Perfiles : public QObject {
             auto* lista = Control<QListWidget>(v, "fpList1");
             QCOMPARE(lista->count(), 7);
             QCOMPARE(lista->currentRow(), 0);
-            auto* grid = Control<QTableWidget>(v, "Spread1");
-            QCOMPARE(grid->rowCount(), 0);
+            auto* grid = Control<QTableView>(v, "Spread1");
+            QCOMPARE(FilasGrid(*grid), 0);
             Pulsar(v, "LSButton4"); // an empty grid only beeps
             QVERIFY(dialogos().preguntas.empty());
             lista->setCurrentRow(1);
             emit lista->itemClicked(lista->item(1));
-            QCOMPARE(grid->rowCount(), 1);
+            QCOMPARE(FilasGrid(*grid), 1);
             QCOMPARE(Mostrado(*grid, 1, 1), QStringLiteral("2 IPE 300"));
             QCOMPARE(Mostrado(*grid, 1, 2), QStringLiteral("116.16"));
             QCOMPARE(Mostrado(*grid, 1, 3), QStringLiteral("17741.80"));
-            grid->setCurrentCell(0, 0);
+            Elegir(*grid, 1, 1);
             Pulsar(v, "LSButton4");
         });
         QCOMPARE(r, int(QDialog::Accepted));
@@ -461,13 +470,13 @@ class Perfiles : public QObject {
         Ejecutar(otra, [&](VigasMetalicas& v) {
             auto* lista = Control<QListWidget>(v, "fpList1");
             QCOMPARE(lista->currentRow(), 1);
-            QCOMPARE(Control<QTableWidget>(v, "Spread1")->rowCount(), 1);
+            QCOMPARE(FilasGrid(*Control<QTableView>(v, "Spread1")), 1);
             QCOMPARE(dialogos().dialogosArchivo.size(), archivos);
             lista->setCurrentRow(5);
             emit lista->itemClicked(lista->item(5));
             QCOMPARE(dialogos().dialogosArchivo.back().Filtro, Familia(F::TuboCuadrado).Filtro);
             QCOMPARE(lista->currentRow(), 1);
-            QCOMPARE(Control<QTableWidget>(v, "Spread1")->item(0, 0)->text(),
+            QCOMPARE(Mostrado(*Control<QTableView>(v, "Spread1"), 1, 1),
                      QStringLiteral("2 IPE 300"));
             Pulsar(v, "LSButton1");
         });

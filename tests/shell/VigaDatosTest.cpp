@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRandomGenerator>
-#include <QTableWidget>
+#include <QTableView>
 #include <algorithm>
 
 #include "VentanasPrueba.h"
@@ -426,7 +426,8 @@ class VigaDatosTest : public QObject {
         lista.ListaInercia(1) = 8356;
         const std::string previa = viga.Designacion(1);
         EnVentana<VigasMetalicas>([this](VigasMetalicas& m) {
-            Control<QTableWidget>(m, "Spread1")->setCurrentCell(0, 0);
+            auto* perfiles = Control<QTableView>(m, "Spread1");
+            perfiles->setCurrentIndex(perfiles->model()->index(0, 0));
             dialogos().respuestas = {RespuestaSi};
             Pulsar(m, "LSButton4");
         });

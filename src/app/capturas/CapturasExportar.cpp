@@ -2,7 +2,7 @@
 // second in the preview, and its tool tip.
 
 #include <QPushButton>
-#include <QTableWidget>
+#include <QTableView>
 
 #include "app/capturas/Capturas.h"
 #include "shell/ExportarCAD.h"
@@ -18,7 +18,8 @@ void CapturasExportar(Programa& programa, VigasProyecto& ventana) {
     Guardar(forma, QStringLiteral("13_exportar_cad"));
     forma.Marcar(2, true);
     forma.Marcar(3, true);
-    forma.findChild<QTableWidget*>(QStringLiteral("Spread1"))->setCurrentCell(1, 1);
+    auto* grid = forma.findChild<QTableView*>(QStringLiteral("Spread1"));
+    grid->setCurrentIndex(grid->model()->index(1, 1));
     Guardar(forma, QStringLiteral("14_exportar_cad_marcadas"));
     forma.ToolTip().Mostrar(forma.Boton(QStringLiteral("LSButton1")));
     Esperar(200);

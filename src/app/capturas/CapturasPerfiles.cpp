@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QTableWidget>
+#include <QTableView>
 
 #include "app/capturas/Capturas.h"
 #include "profiles/TablaPerfiles.h"
@@ -18,7 +18,7 @@ namespace trevalo {
 namespace {
 
 // The left button held on a cell of the grid, long enough for the sketch to come up.
-void PulsarCelda(QTableWidget& grid, int fila, int columna, const std::function<void()>& mientras) {
+void PulsarCelda(QTableView& grid, int fila, int columna, const std::function<void()>& mientras) {
     QWidget* vista = grid.viewport();
     const QPointF punto = grid.visualRect(grid.model()->index(fila, columna)).center();
     const QPointF global = vista->mapToGlobal(punto);
