@@ -936,7 +936,9 @@ void VigaDatos::EliminarCargas() {
 
 void VigaDatos::PerfilesMetalicos() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    VigasMetalicas ventana(programa_, this);
+    // The capture is for the type in front in the grid of types.
+    const long tipo = std::max(Vista(Rejilla::TiposMetalicos).currentIndex().row(), 0) + 1;
+    VigasMetalicas ventana(programa_, tipo, this);
     QApplication::restoreOverrideCursor();
     // A captured section shows in its type's row, and the beam is changed: leaving asks.
     const Veredicto captura =

@@ -24,13 +24,6 @@ namespace trevalo {
 
 namespace {
 
-// The beam type on which the editor's grid of types stands.
-long TipoActivo(const QWidget* editor) {
-    const auto* tipos =
-        editor ? editor->findChild<QAbstractItemView*>(QStringLiteral("Spread8")) : nullptr;
-    return tipos ? std::max(tipos->currentIndex().row(), 0) + 1 : 1;
-}
-
 QIcon Dibujo(int item) {
     LienzoImagen lienzo(72, 72);
     DibujeFamiliaPerfil(lienzo, item);
@@ -39,8 +32,8 @@ QIcon Dibujo(int item) {
 
 } // namespace
 
-VigasMetalicas::VigasMetalicas(Programa& programa, QWidget* parent)
-    : QDialog(parent), programa_(programa), tipo_(TipoActivo(parent)) {
+VigasMetalicas::VigasMetalicas(Programa& programa, long tipo, QWidget* parent)
+    : QDialog(parent), programa_(programa), tipo_(tipo) {
     setObjectName(QStringLiteral("VigasMetalicas"));
     setWindowTitle(QStringLiteral("Base de Datos de Perfiles Metálicos"));
     CrearControles();

@@ -25,7 +25,8 @@ class VigasMetalicas : public QDialog {
     Q_OBJECT
 
   public:
-    VigasMetalicas(Programa& programa, QWidget* parent = nullptr);
+    // `tipo`: the beam type a capture is for (the editor's type in front; 1 from the menus).
+    VigasMetalicas(Programa& programa, long tipo = 1, QWidget* parent = nullptr);
 
     long Tipo() const { return tipo_; }
     // The row of the profile list captured and the beam type it is for; 0 when none was.

@@ -116,7 +116,7 @@ QStringList TitulosVentanas(ProgramaPrueba& p) {
         titulo(Carga06(programa, marcas, &editor));
         titulo(Carga07(programa, marcas, &editor));
         titulo(Carga08(programa, marcas, &editor));
-        titulo(VigasMetalicas(programa, &editor));
+        titulo(VigasMetalicas(programa, 1, &editor));
     }
     titulo(OpcionPerfil(programa, ventana.get()));
     for (const FamiliaPerfil familia : TodasLasFamilias) {

@@ -12,7 +12,6 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTableView>
-#include <QTableWidget>
 #include <filesystem>
 
 #include "VentanasPrueba.h"
@@ -418,13 +417,9 @@ class Perfiles : public QObject {
                2530,
                {{1, "IPE 300", {58.08, 300, 150, 12, 8, 8870.9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}}}});
         PonerTipos(programa().Viga, Filas(3, {0.3, 0.5}));
-        QWidget editor;
-        auto* tipos = new QTableWidget(3, 3, &editor);
-        tipos->setObjectName(QStringLiteral("Spread8"));
-        tipos->setCurrentCell(1, 0);
 
         dialogos().archivos.push_back(Elegido(Carpeta(), "DobleTee_C.pfl"));
-        VigasMetalicas ventana(programa(), &editor);
+        VigasMetalicas ventana(programa(), 2);
         const int r = Ejecutar(ventana, [&](VigasMetalicas& v) {
             QCOMPARE(v.windowTitle(), QStringLiteral("Base de Datos de Perfiles Metálicos"));
             QCOMPARE(v.findChild<QGroupBox*>()->title(),
@@ -465,8 +460,7 @@ class Perfiles : public QObject {
                                  Familia(F::DobleTee).Filtro, 1, Carpeta(), ""}));
 
         const std::size_t archivos = dialogos().dialogosArchivo.size();
-        tipos->setCurrentCell(2, 0);
-        VigasMetalicas otra(programa(), &editor);
+        VigasMetalicas otra(programa(), 3);
         Ejecutar(otra, [&](VigasMetalicas& v) {
             auto* lista = Control<QListWidget>(v, "fpList1");
             QCOMPARE(lista->currentRow(), 1);

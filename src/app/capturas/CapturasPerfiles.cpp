@@ -77,7 +77,7 @@ void CapturasPerfiles(Programa& programa, QWidget& padre) {
     const ListaPerfiles antes = programa.ListaPerfil;
     CargarListaPerfiles(programa.Carpetas.RutaPerfiles + "/DobleTee_IPE.pfl", 2,
                         programa.ListaPerfil);
-    VigasMetalicas vigas(programa, &padre);
+    VigasMetalicas vigas(programa, 1, &padre);
     Capturar(vigas, QStringLiteral("26_vigas_metalicas"));
     programa.ListaPerfil = antes;
 }
