@@ -4,6 +4,7 @@
 // answered from a script, and a way to act on a modal window once it is on screen.
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -109,6 +110,16 @@ int Ejecutar(T& ventana, std::type_identity_t<std::function<void(T&)>> accion) {
 }
 
 // Types `texto` into `w` key by key, as keyClicks does, letters beyond ASCII (ñ, á) included.
+// Cells by the forms' numbering: the value a cell holds (0 for an empty or text cell) and
+// whether a check cell is ticked.
+inline double ValorCelda(const QAbstractItemView& grid, int fila, int columna) {
+    return grid.model()->index(fila - 1, columna - 1).data(Qt::EditRole).toDouble();
+}
+inline bool CeldaMarcada(const QAbstractItemView& grid, int fila, int columna) {
+    return grid.model()->index(fila - 1, columna - 1).data(Qt::CheckStateRole).toInt() ==
+           Qt::Checked;
+}
+
 inline void Teclear(QWidget* w, const QString& texto) {
     for (const QChar c : texto)
         QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
