@@ -34,7 +34,6 @@ struct Programa {
     ListaPerfiles ListaPerfil;    // the last table loaded for the steel beam types, for the run
     std::string ArchivoAyuda;     // the help file
     OpcionesImpresion Impresion;  // the choice of the last accepted print dialog
-    std::uint8_t TipoSalida = 0;  // the report's output kind, 0 (the viewer) between reports
     DibujosInforme Dibujos;       // the drawings of the last report's pictures
 
     Dialogos& Dialogo() { return *dialogos_; }
