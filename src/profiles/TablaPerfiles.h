@@ -27,7 +27,7 @@ struct TablaPerfiles {
     std::vector<FilaPerfil> Filas;
 };
 
-// The one table open for editing or loading.
+// The table a table window opens: its file and whether it was just made.
 struct EstadoTablaPerfiles {
     std::string ArchivoTabla; // full path
     std::string TituloTabla;  // file name with its extension, shown in the window title

@@ -29,9 +29,10 @@ ImpreReport::ImpreReport(Programa& programa, QWidget* parent)
 ImpreReport::~ImpreReport() = default;
 
 void ImpreReport::Aceptar() {
+    std::size_t tipo = 0;
     for (std::size_t i = 0; i < opciones_.size(); ++i)
-        if (opciones_[i]->isChecked()) programa_.TipoSalida = static_cast<std::uint8_t>(i);
-    const SalidaInforme& salida = SalidasInforme.at(programa_.TipoSalida);
+        if (opciones_[i]->isChecked()) tipo = i;
+    const SalidaInforme& salida = SalidasInforme.at(tipo);
     ArchivoElegido archivo;
     if (salida.Archivo) {
         archivo = programa_.Dialogo().Archivo(DialogoSalida(programa_, salida));
@@ -39,18 +40,16 @@ void ImpreReport::Aceptar() {
     }
     hide();
     try {
-        Salida(archivo);
+        Salida(salida, archivo);
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
-    programa_.TipoSalida = 0;
     accept();
 }
 
-void ImpreReport::Salida(const ArchivoElegido& archivo) {
+void ImpreReport::Salida(const SalidaInforme& salida, const ArchivoElegido& archivo) {
     auto contenido = AbrirReporte(programa_);
-    const SalidaInforme& salida = SalidasInforme.at(programa_.TipoSalida);
-    if (programa_.TipoSalida == 0) {
+    if (salida.TipoSalida == 0) {
         VerReportes visor(programa_, std::move(contenido), parentWidget());
         visor.exec();
         return;

@@ -2,7 +2,7 @@
 // Asks for the kind of output of the report filled in the report database: the viewer, a
 // PDF, HTML, spreadsheet or RTF file (each through its Save dialog, then the question
 // whether to open it), or the export assistant. A cancelled Save dialog leaves the window
-// in place and writes nothing. After any output the kind is back to the viewer.
+// in place and writes nothing. Each report starts on the viewer.
 
 #include <QDialog>
 #include <memory>
@@ -17,6 +17,8 @@ class ImpreReport;
 
 namespace trevalo {
 
+struct SalidaInforme;
+
 class ImpreReport : public QDialog {
     Q_OBJECT
 
@@ -27,11 +29,11 @@ class ImpreReport : public QDialog {
   private:
     void Aceptar();
     // The output of the kind chosen, once the file (if any) is known.
-    void Salida(const ArchivoElegido& archivo);
+    void Salida(const SalidaInforme& salida, const ArchivoElegido& archivo);
 
     Programa& programa_;
     std::unique_ptr<Ui::ImpreReport> ui_;
-    std::vector<QRadioButton*> opciones_; // by TipoSalida
+    std::vector<QRadioButton*> opciones_; // by kind of output
 };
 
 } // namespace trevalo

@@ -26,7 +26,6 @@ void ImpreVigas::Aceptar() {
     opciones.VigaReporte = static_cast<std::int16_t>(ui_->Combo1->currentIndex());
     opciones.ConDiagramas = ui_->Check1->isChecked() ? 1 : 0;
     opciones.ConReacciones = ui_->Check2->isChecked() ? 1 : 0;
-    programa_.Estado.DialogoAceptado = true;
     accept();
 }
 

@@ -25,7 +25,6 @@ NuevaViga::NuevaViga(Programa& programa, int filaActiva, std::vector<std::string
     : QDialog(parent), programa_(programa), ui_(std::make_unique<Ui::NuevaViga>()),
       nombres_(std::move(nombres)), mostrarFila_(std::move(mostrarFila)) {
     ui_->setupUi(this);
-    programa_.Estado.BeamNuevo = false;
     const auto& lista = programa_.Estado.RsGeneralViga;
     const int vigas = lista ? static_cast<int>(lista->RecordCount()) : 0;
     ui_->VScroll1->setRange(vigas > 0 ? 1 : 0, vigas);

@@ -1,5 +1,6 @@
 #pragma once
-// Asks for the name of a new beam and creates it with the defaults of a new beam. Its scroll
+// Asks for the name of a new beam and creates it with the defaults of a new beam, closing with
+// Accepted once the file holds it. Its scroll
 // bar walks the project's beams in the project window, so the user can look at them while
 // choosing the name.
 

@@ -82,17 +82,13 @@ void OpcionPerfil::Crear() {
                                      BotonesMensaje::SiNo, IconoMensaje::Advertencia, 2}) !=
             RespuestaSi)
         return;
-    auto& estado = programa_.Perfiles;
-    estado.ArchivoTabla = ruta;
-    estado.TituloTabla = titulo;
-    estado.TablaNueva = true;
     try {
         CrearTablaPerfiles(c.RutaPrograma, familia, ruta);
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
         return;
     }
-    AbrirTabla(familia);
+    AbrirTabla(familia, {ruta, titulo, true});
 }
 
 void OpcionPerfil::Editar() {
@@ -101,15 +97,11 @@ void OpcionPerfil::Editar() {
         {"Crear Tabla de Perfiles Metálicos", ModoDialogo::Abrir, Familia(familia).Filtro, 1,
          programa_.Carpetas.RutaPerfiles, ""});
     if (elegido.Cancelado) return;
-    auto& estado = programa_.Perfiles;
-    estado.ArchivoTabla = elegido.FileName;
-    estado.TituloTabla = elegido.FileTitle;
-    estado.TablaNueva = false;
-    AbrirTabla(familia);
+    AbrirTabla(familia, {elegido.FileName, elegido.FileTitle, false});
 }
 
-void OpcionPerfil::AbrirTabla(FamiliaPerfil familia) {
-    TablaPerfil tabla(programa_, familia, this);
+void OpcionPerfil::AbrirTabla(FamiliaPerfil familia, const EstadoTablaPerfiles& archivo) {
+    TablaPerfil tabla(programa_, familia, archivo, this);
     if (tabla.Leida()) tabla.exec();
 }
 

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "profiles/FamiliasPerfil.h"
+#include "profiles/TablaPerfiles.h"
 #include "shell/Programa.h"
 
 class QRadioButton;
@@ -28,7 +29,7 @@ class OpcionPerfil : public QDialog {
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:
-    void AbrirTabla(FamiliaPerfil familia);
+    void AbrirTabla(FamiliaPerfil familia, const EstadoTablaPerfiles& archivo);
 
     Programa& programa_;
     std::array<QRadioButton*, 4> opciones_{};

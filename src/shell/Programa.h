@@ -12,7 +12,6 @@
 #include "model/Viga.h"
 #include "output/LlenarImpreDatos.h"
 #include "profiles/ListaPerfiles.h"
-#include "profiles/TablaPerfiles.h"
 #include "store/CarpetasPrograma.h"
 #include "store/Dialogos.h"
 #include "store/EstadoProyecto.h"
@@ -30,12 +29,10 @@ struct Programa {
     ResultadosViga Resultados;
     EstadoPloteos Vista;
     EstadoProyecto Estado;
-    EstadoTablaPerfiles Perfiles; // the profile table open in an editor, the capture flag
-    ListaPerfiles ListaPerfil;    // the last table loaded for the steel beam types, for the run
-    std::string ArchivoAyuda;     // the help file
-    OpcionesImpresion Impresion;  // the choice of the last accepted print dialog
-    std::uint8_t TipoSalida = 0;  // the report's output kind, 0 (the viewer) between reports
-    DibujosInforme Dibujos;       // the drawings of the last report's pictures
+    ListaPerfiles ListaPerfil;   // the last table loaded for the steel beam types, for the run
+    std::string ArchivoAyuda;    // the help file
+    OpcionesImpresion Impresion; // the choice of the last accepted print dialog
+    DibujosInforme Dibujos;      // the drawings of the last report's pictures
 
     Dialogos& Dialogo() { return *dialogos_; }
 

@@ -10,7 +10,6 @@ namespace trevalo {
 Renombrar::Renombrar(Programa& programa, QWidget* parent)
     : QDialog(parent), programa_(programa), ui_(std::make_unique<Ui::Renombrar>()) {
     ui_->setupUi(this);
-    programa_.Estado.DialogoAceptado = false;
     try {
         actual_ = ListaVigasAbierta(programa_.Estado).Campo("NombreViga").Texto();
     } catch (const ErrorTrevalo& e) {

@@ -1,7 +1,7 @@
 #pragma once
 // "Renombrar Vigas": asks for a new name of the beam where RsGeneralViga stands (the caller
-// moved it to the selected row). On yes NombreRenombrar takes the name, DialogoAceptado is
-// set and the window closes; the caller renames. A name taken, even in another case, or a
+// moved it to the selected row). On yes NombreRenombrar takes the name and the window closes
+// with Accepted; the caller renames. A name taken, even in another case, or a
 // question answered no leaves it open.
 
 #include <QDialog>

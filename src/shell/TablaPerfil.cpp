@@ -185,16 +185,18 @@ QLabel* Etiqueta(const char* texto, QWidget* control, QWidget* padre) {
 
 } // namespace
 
-TablaPerfil::TablaPerfil(Programa& programa, FamiliaPerfil familia, QWidget* parent)
-    : QDialog(parent), programa_(programa), familia_(familia), toolTip_(new ToolTipTrevalo(this)) {
+TablaPerfil::TablaPerfil(Programa& programa, FamiliaPerfil familia, EstadoTablaPerfiles tabla,
+                         QWidget* parent)
+    : QDialog(parent), programa_(programa), tabla_(std::move(tabla)), familia_(familia),
+      toolTip_(new ToolTipTrevalo(this)) {
     setObjectName(Qs(trevalo::Familia(familia).Editor));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowTitle(QString::fromUtf8(DisenoDe(familia).titulo) + QStringLiteral("     Tabla: [") +
-                   Qs(programa_.Perfiles.TituloTabla) + QLatin1Char(']'));
+                   Qs(tabla_.TituloTabla) + QLatin1Char(']'));
     CrearControles();
     ConfigurarPantalla();
     ColoquePantalla();
-    tablaCambiada_ = programa_.Perfiles.TablaNueva;
+    tablaCambiada_ = tabla_.TablaNueva;
     totalCambiado_ = false;
     Modificar(false);
 
@@ -345,10 +347,10 @@ void TablaPerfil::ConfigurarPantalla() {
 }
 
 void TablaPerfil::ColoquePantalla() {
-    if (programa_.Perfiles.TablaNueva) return;
+    if (tabla_.TablaNueva) return;
     TablaPerfiles tabla;
     try {
-        tabla = LeerTablaPerfiles(programa_.Perfiles.ArchivoTabla, familia_);
+        tabla = LeerTablaPerfiles(tabla_.ArchivoTabla, familia_);
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
         leida_ = false;
@@ -445,7 +447,7 @@ bool TablaPerfil::Salvar() {
     for (int r = 1; r <= static_cast<int>(filas_.size()); ++r)
         tabla.Filas.push_back(FilaDelGrid(r));
     try {
-        if (!SalvarTablaPerfiles(programa_.Perfiles.ArchivoTabla, familia_, tabla)) {
+        if (!SalvarTablaPerfiles(tabla_.ArchivoTabla, familia_, tabla)) {
             text1_->setFocus();
             return false;
         }

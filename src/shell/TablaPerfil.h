@@ -7,8 +7,8 @@
 // show a sketch of the section under the mouse while the button is held on a row; the
 // double-tee table also takes new rows from the section generator.
 //
-// The table opened is the program's Perfiles.ArchivoTabla; a table just made from its
-// template (TablaNueva) starts empty and is offered for saving even if left untouched.
+// The table opened is the one the window is given; a table just made from its template
+// (TablaNueva) starts empty and is offered for saving even if left untouched.
 
 #include <QDialog>
 #include <QTimer>
@@ -17,6 +17,7 @@
 
 #include "profiles/FamiliasPerfil.h"
 #include "profiles/PropiedadesPerfil.h"
+#include "profiles/TablaPerfiles.h"
 #include "shell/Programa.h"
 
 class QCheckBox;
@@ -38,7 +39,8 @@ class TablaPerfil : public QDialog {
     Q_OBJECT
 
   public:
-    TablaPerfil(Programa& programa, FamiliaPerfil familia, QWidget* parent = nullptr);
+    TablaPerfil(Programa& programa, FamiliaPerfil familia, EstadoTablaPerfiles tabla,
+                QWidget* parent = nullptr);
     ~TablaPerfil() override;
 
     FamiliaPerfil Familia() const { return familia_; }
@@ -93,6 +95,7 @@ class TablaPerfil : public QDialog {
     QString Designacion(int fila) const;
 
     Programa& programa_;
+    EstadoTablaPerfiles tabla_;
     FamiliaPerfil familia_;
     std::vector<Fila> filas_;
     QTableView* spread1_;

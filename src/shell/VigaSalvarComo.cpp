@@ -11,7 +11,6 @@ VigaSalvarComo::VigaSalvarComo(Programa& programa, int filaActiva, QWidget* pare
     : QDialog(parent), programa_(programa), ui_(std::make_unique<Ui::VigaSalvarComo>()),
       filaActiva_(filaActiva) {
     ui_->setupUi(this);
-    programa_.Estado.DialogoAceptado = false;
     connect(ui_->Command1, &QPushButton::clicked, this, &VigaSalvarComo::Aceptar);
     ui_->Text1->setFocus();
 }
@@ -44,8 +43,6 @@ void VigaSalvarComo::Aceptar() {
             return;
         }
     } catch (const ErrorTrevalo& e) {
-        // Nothing was copied: the caller must not look for a new beam.
-        estado.DialogoAceptado = false;
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
     ui_->Text1->setFocus();

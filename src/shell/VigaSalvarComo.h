@@ -1,8 +1,8 @@
 #pragma once
 // "Salvar Como...": creates a beam under a new name from the beam selected in the project
 // window. On " Aceptar " the questions of the lifecycle are asked; on yes the selected beam
-// (now in the model) is copied under the name, DialogoAceptado is set and the window
-// closes. A name refused or a question answered no leaves it open.
+// (now in the model) is copied under the name and the window closes with Accepted. A name
+// refused, a question answered no or a copy the file refuses leaves it open.
 
 #include <QDialog>
 #include <memory>

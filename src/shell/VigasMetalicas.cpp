@@ -137,8 +137,6 @@ void VigasMetalicas::Tablas() {
         {"Crear Tabla de Perfiles Metálicos", ModoDialogo::Abrir,
          Familia(ItemLista(item).Familia).Filtro, 1, programa_.Carpetas.RutaPerfiles, ""});
     if (!elegido.Cancelado) {
-        programa_.Perfiles.ArchivoTabla = elegido.FileName;
-        programa_.Perfiles.TituloTabla = elegido.FileTitle;
         try {
             CargarListaPerfiles(elegido.FileName, item, programa_.ListaPerfil);
             ColoquePantalla();

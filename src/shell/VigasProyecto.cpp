@@ -464,7 +464,6 @@ void VigasProyecto::RestaurarVigaActiva(int pestana) {
 
 void VigasProyecto::RestaurarTrasRecorrido() {
     if (Filas() > 0) RestaurarVigaActiva(Pestana());
-    programa_.Estado.DialogoAceptado = false;
     pantalla_->setFocus();
 }
 
@@ -477,25 +476,19 @@ void VigasProyecto::ExportaVigasCAD() {
 }
 
 void VigasProyecto::CrearViga() {
-    auto& estado = programa_.Estado;
     programa_.Viga.VigaNueva = true;
-    {
-        NuevaViga dialogo(
-            programa_, FilaActiva(), NombresLista(),
-            [this](int fila) {
-                FijarFilaActiva(fila);
-                CambioFila(fila);
-            },
-            this);
-        dialogo.exec();
-    }
-    if (!estado.BeamNuevo) return pantalla_->setFocus();
+    const auto mostrarFila = [this](int fila) {
+        FijarFilaActiva(fila);
+        CambioFila(fila);
+    };
+    if (NuevaViga(programa_, FilaActiva(), NombresLista(), mostrarFila, this).exec() !=
+        QDialog::Accepted)
+        return pantalla_->setFocus();
     // The new beam is the last record, and goes on the last row although the list is sorted.
     AgregarUltimaFila();
     programa_.Viga.VigaNueva = true;
     MostrarEditor();
     RestaurarVigaActiva(1);
-    estado.BeamNuevo = false;
 }
 
 void VigasProyecto::AgregarUltimaFila() {
@@ -555,14 +548,9 @@ void VigasProyecto::EditarViga() {
 
 void VigasProyecto::CopiarVigaSeleccionada() {
     if (Filas() == 0) return;
-    {
-        VigaSalvarComo dialogo(programa_, FilaActiva(), this);
-        dialogo.exec();
-    }
-    if (programa_.Estado.DialogoAceptado) {
+    if (VigaSalvarComo(programa_, FilaActiva(), this).exec() == QDialog::Accepted) {
         AgregarUltimaFila();
         RestaurarVigaActiva(1);
-        programa_.Estado.DialogoAceptado = false;
     }
     pantalla_->setFocus();
 }
@@ -571,14 +559,7 @@ void VigasProyecto::RenombrarSeleccionada() {
     if (Filas() == 0) return;
     auto& estado = programa_.Estado;
     estado.RsGeneralViga->AbsolutePosition(FilaActiva() - 1);
-    {
-        Renombrar dialogo(programa_, this);
-        dialogo.exec();
-    }
-    if (estado.DialogoAceptado) {
-        RenombrarVigaSeleccionada();
-        estado.DialogoAceptado = false;
-    }
+    if (Renombrar(programa_, this).exec() == QDialog::Accepted) RenombrarVigaSeleccionada();
     pantalla_->setFocus();
 }
 

@@ -358,7 +358,6 @@ void SalvarViga(EstadoProyecto& estado, VigaActual& v) {
         EscribirCabecera(lista, v);
         EscribirTablasHijas(bd, v, {guardado, false});
     });
-    estado.BeamNuevo = true;
     v.VigaNueva = false;
 }
 

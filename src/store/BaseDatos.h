@@ -77,14 +77,14 @@ void LeerViga(EstadoProyecto& estado, VigaActual& viga);
 // VigaNueva, else the row where RsGeneralViga stands; then the eight child tables, old rows
 // deleted first. A joint keeps LDer, LIzq, HC only if it carries a vertical support (in R1
 // with Apoyo other than 3, or in R10 with SV10 not 0); others are written as 0. On success
-// BeamNuevo = true and VigaNueva = false. On failure the file and RsGeneralViga are as they
+// VigaNueva = false. On failure the file and RsGeneralViga are as they
 // were, and the engine's error is raised with its text + "...    ".
 void SalvarViga(EstadoProyecto& estado, VigaActual& viga);
 
 // Writes the beam under estado.NombreCopiaViga, replacing a beam of that name, with a new
 // header row on RsGeneralViga. Kept as users know it: every joint's LDer, LIzq, HC are
-// written, and column W3_k of the loads receives the point load P(t, k). Neither VigaNueva
-// nor BeamNuevo changes. Failure as in SalvarViga.
+// written, and column W3_k of the loads receives the point load P(t, k). VigaNueva does not
+// change. Failure as in SalvarViga.
 void CopiarViga(EstadoProyecto& estado, const VigaActual& viga);
 
 // Whether GeneralViga holds a beam of that name (case ignored).

@@ -333,7 +333,6 @@ bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
              "Salvar Como", IconoMensaje::Pregunta, 1);
     if (Preguntar(estado, dialogos, pregunta) != RespuestaSi) return false;
     estado.NombreCopiaViga = nombre;
-    estado.DialogoAceptado = true;
     return true;
 }
 
@@ -353,7 +352,6 @@ bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
                                    "Renombrar", IconoMensaje::Pregunta, 1);
     if (Preguntar(estado, dialogos, pregunta) != RespuestaSi) return false;
     estado.NombreRenombrar = nombre;
-    estado.DialogoAceptado = true;
     return true;
 }
 

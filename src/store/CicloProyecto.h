@@ -122,13 +122,13 @@ BuscarViga BuscarEnProyecto(EstadoProyecto& estado);
 
 // " Aceptar " of "Salvar Como...": `leerSeleccionada` moves to the beam selected in the
 // project window, loads it and gives its name. On yes, NombreCopiaViga takes the trimmed
-// name and DialogoAceptado becomes true; the caller then copies the beam.
+// name and the answer is true; the caller then copies the beam.
 bool AceptarSalvarComoViga(const std::string& texto, const BuscarViga& existe,
                            const std::function<std::string()>& leerSeleccionada,
                            EstadoProyecto& estado, Dialogos& dialogos);
 
 // " Aceptar " of "Renombrar Vigas" for the beam `actual`. On yes, NombreRenombrar takes the
-// trimmed name and DialogoAceptado becomes true; the caller then renames the beam. A name
+// trimmed name and the answer is true; the caller then renames the beam. A name
 // that differs from a taken one only in case is taken.
 bool AceptarRenombrarViga(const std::string& texto, const std::string& actual,
                           const BuscarViga& existe, EstadoProyecto& estado, Dialogos& dialogos);

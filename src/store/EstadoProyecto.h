@@ -21,10 +21,8 @@ struct EstadoProyecto {
     bool ProyectoNuevo = false;
     std::string NombreCopiaViga; // name under which CopiarViga writes
     std::string NombreRenombrar; // new name chosen in the rename dialog
-    bool BeamNuevo = false;      // set by every SalvarViga; the windows test and clear it
-    bool DialogoAceptado = false;
-    std::string Mensaje; // the last question's text
-    int Respuesta = 0;   // the button pressed: 6 yes, 7 no
+    std::string Mensaje;         // the last question's text
+    int Respuesta = 0;           // the button pressed: 6 yes, 7 no
 };
 
 } // namespace trevalo

@@ -120,9 +120,10 @@ QStringList TitulosVentanas(ProgramaPrueba& p) {
     }
     titulo(OpcionPerfil(programa, ventana.get()));
     for (const FamiliaPerfil familia : TodasLasFamilias) {
-        programa.Perfiles = {programa.Carpetas.RutaPerfiles + "/DobleTee_IPE.pfl", Std(Variable),
-                             false};
-        titulo(TablaPerfil(programa, familia, ventana.get()));
+        titulo(TablaPerfil(
+            programa, familia,
+            {programa.Carpetas.RutaPerfiles + "/DobleTee_IPE.pfl", Std(Variable), false},
+            ventana.get()));
     }
     titulo(DobleTee(
         programa, [](const CapturaSeccion&) {}, ventana.get()));

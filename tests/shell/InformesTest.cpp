@@ -135,7 +135,6 @@ class InformesTest : public QObject {
                     (Pregunta{"¿Desea Abrir el Archivo " + std::string(archivo) + "?    ",
                               "Abrir el Archivo Exportado", BotonesMensaje::SiNo,
                               IconoMensaje::Pregunta, 1}));
-            QCOMPARE(static_cast<int>(p.programa.TipoSalida), 0);
         }
         // Yes opened the PDF, No opened nothing.
         QCOMPARE(abiertos.rutas, QStringList{Qs(carpeta + "/Informe ñ.pdf")});

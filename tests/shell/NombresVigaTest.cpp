@@ -66,7 +66,7 @@ class NombresViga : public QObject {
         QCOMPARE(lista.size(), 6u);
         std::vector<int> mostradas;
         NuevaViga ventana(programa(), 2, lista, [&](int fila) { mostradas.push_back(fila); });
-        Ejecutar(ventana, [&](NuevaViga& v) {
+        const int creada = Ejecutar(ventana, [&](NuevaViga& v) {
             QCOMPARE(v.windowTitle(), QStringLiteral("Crear Nueva Viga"));
             auto* barra = Hijo<QScrollBar>(v, QStringLiteral("VScroll1"));
             QCOMPARE(barra->maximum(), 6);
@@ -91,27 +91,27 @@ class NombresViga : public QObject {
         const std::string nombre = "2''X4 D'ALEMBERT ''ÑANDÚ''";
         QCOMPARE(preguntas().size(), 1u);
         QCOMPARE(programa().Viga.NombreVigaActual, nombre);
-        QVERIFY(programa().Estado.BeamNuevo);
+        QCOMPARE(creada, int(QDialog::Accepted));
         QCOMPARE(programa().Estado.RsGeneralViga->RecordCount(), 7);
         const VigaActual guardada = EnArchivo(nombre);
         QCOMPARE(guardada.NT, std::int16_t{1});
         QCOMPARE(guardada.LT(1), 4.0);
         QVERIFY(ExisteViga(*programa().Estado.BDProyecto, nombre));
 
-        // Cancel changes nothing, and clears the mark of a beam created before.
+        // Cancel changes nothing.
         NuevaViga otra(programa(), 7, Lista(), [](int) {});
-        Ejecutar(otra, [](NuevaViga& v) {
+        const int cancelada = Ejecutar(otra, [](NuevaViga& v) {
             Teclear(Hijo<QLineEdit>(v, QStringLiteral("Text1")), QStringLiteral("V-9"));
             QTest::keyClick(&v, Qt::Key_Escape);
         });
-        QVERIFY(!programa().Estado.BeamNuevo);
+        QCOMPARE(cancelada, int(QDialog::Rejected));
         QCOMPARE(programa().Estado.RsGeneralViga->RecordCount(), 7);
     }
 
     void SalvarComoCopiaLaSeleccionadaConElNombreTalCual() {
         const std::string origen = Lista()[0];
         VigaSalvarComo ventana(programa(), 1);
-        Ejecutar(ventana, [&](VigaSalvarComo& v) {
+        const int aceptada = Ejecutar(ventana, [&](VigaSalvarComo& v) {
             QCOMPARE(v.windowTitle(), QStringLiteral("Salvar Como..."));
             Proponer(v, QStringLiteral("  v-101 ENTREPISO eje b "), "Command1");
             QCOMPARE(preguntas(),
@@ -121,7 +121,6 @@ class NombresViga : public QObject {
             p->dialogos->respuestas = {RespuestaNo, RespuestaSi};
             Proponer(v, QStringLiteral(" Copia \"Ñ\" d'Ávila "), "Command1");
             QVERIFY(v.isVisible());
-            QVERIFY(!programa().Estado.DialogoAceptado);
             QTest::mouseClick(Hijo<QPushButton>(v, QStringLiteral("Command1")), Qt::LeftButton);
         });
 
@@ -133,7 +132,7 @@ class NombresViga : public QObject {
         QCOMPARE(preguntas().size(), 3u);
         QCOMPARE(preguntas()[1], salvar);
         QCOMPARE(preguntas()[2], salvar);
-        QVERIFY(programa().Estado.DialogoAceptado);
+        QCOMPARE(aceptada, int(QDialog::Accepted));
         QCOMPARE(Lista().back(), copia);
         const VigaActual original = EnArchivo(origen), copiada = EnArchivo(copia);
         QCOMPARE(copiada.NT, original.NT);
@@ -144,7 +143,7 @@ class NombresViga : public QObject {
         const std::string actual = Lista()[1];
         programa().Estado.RsGeneralViga->AbsolutePosition(1); // the caller's selected row
         Renombrar ventana(programa());
-        Ejecutar(ventana, [&](Renombrar& v) {
+        const int renombrada = Ejecutar(ventana, [&](Renombrar& v) {
             QCOMPARE(v.windowTitle(), QStringLiteral("Renombrar Vigas"));
             QCOMPARE(Hijo<QLabel>(v, QStringLiteral("LabelN"))->text(), Qs(actual));
             Proponer(v, QStringLiteral(" v-102 BALCÓN en volado"), "Command2");
@@ -162,7 +161,7 @@ class NombresViga : public QObject {
                           "   Por el Nombre: Eje \"C\" l'Ñu       \n\nEsta Usted Seguro?       \n",
                       "Renombrar", BotonesMensaje::SiNo, IconoMensaje::Pregunta, 1}));
         QCOMPARE(programa().Estado.NombreRenombrar, std::string("Eje \"C\" l'Ñu"));
-        QVERIFY(programa().Estado.DialogoAceptado);
+        QCOMPARE(renombrada, int(QDialog::Accepted));
         QVERIFY(ExisteViga(*programa().Estado.BDProyecto, actual)); // the caller renames
     }
 };

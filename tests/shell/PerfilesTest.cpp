@@ -83,8 +83,7 @@ class Perfiles : public QObject {
 
     // The table window opened on a file, as "Editar" opens it.
     void Editar(F familia, const std::string& nombre, std::function<void(TablaPerfil&)> accion) {
-        programa().Perfiles = {Carpeta() + "/" + nombre, nombre, false};
-        TablaPerfil t(programa(), familia);
+        TablaPerfil t(programa(), familia, {Carpeta() + "/" + nombre, nombre, false});
         Ejecutar(t, std::move(accion));
     }
 

@@ -33,7 +33,6 @@ TEST_F(Almacen, SalvarSobreLaFilaActual) {
     Posicionar("Doble");
     ASSERT_NO_THROW(SalvarViga(estado_, v));
     EXPECT_EQ(Volcar(*estado_.BDProyecto), primera); // twice gives identical tables
-    EXPECT_TRUE(estado_.BeamNuevo);
     EXPECT_EQ(estado_.RsGeneralViga->RecordCount(), 2);
 
     // One more span and the other concrete option: the header row follows.
@@ -56,11 +55,9 @@ TEST_F(Almacen, CopiarVigaSoloDifiereEnLoQueSeConserva) {
     ASSERT_LT(conApoyo.size(), static_cast<std::size_t>(v.NT + 1));
     Guardar(v);
     v.VigaNueva = true; // the copy ignores and keeps it
-    estado_.BeamNuevo = false;
     estado_.NombreCopiaViga = "Copia";
     ASSERT_NO_THROW(CopiarViga(estado_, v));
     EXPECT_TRUE(v.VigaNueva);
-    EXPECT_FALSE(estado_.BeamNuevo);
     EXPECT_EQ(estado_.RsGeneralViga->RecordCount(), 2);
 
     BaseDatos& bd = *estado_.BDProyecto;
@@ -160,10 +157,8 @@ TEST_F(Almacen, UnFalloAMitadDeSalvarDejaLaVigaComoEstaba) {
     std::set<long> otros;
     auto cambiada = VigaAleatoria(azar, "Intacta", true, otros); // restrains joint 2
     Posicionar("Intacta");
-    estado_.BeamNuevo = false;
     EXPECT_TREVALO_ERROR(SalvarViga(estado_, cambiada), 1811, "fallo inyectado...    ");
     EXPECT_EQ(Volcar(bd), antes);
-    EXPECT_FALSE(estado_.BeamNuevo);
     EXPECT_EQ(estado_.RsGeneralViga->Campo("NT").Entero(), v.NT); // the list shows the file
     EXPECT_EQ(estado_.RsGeneralViga->Campo("NombreViga").Texto(), "Intacta");
 

@@ -390,11 +390,10 @@ TEST_F(PreguntasViga, SalvarComo) {
 
     d.respuestas = {RespuestaNo, RespuestaSi};
     EXPECT_FALSE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, d));
-    EXPECT_FALSE(estado.DialogoAceptado);
+    EXPECT_TRUE(estado.NombreCopiaViga.empty());
     EXPECT_TRUE(AceptarSalvarComoViga("V-2 ", existe, leer, estado, d));
     EXPECT_NE(d.preguntas.back().Texto.find("Seleccionada: V-1"), std::string::npos);
     EXPECT_EQ(estado.NombreCopiaViga, "V-2");
-    EXPECT_TRUE(estado.DialogoAceptado);
     EXPECT_EQ(lecturas, 2);
 }
 

@@ -37,8 +37,7 @@ void CapturarTabla(Programa& programa, QWidget& padre, FamiliaPerfil familia,
                    const std::string& archivo, const QString& nombre, bool nueva = false) {
     const std::string ruta = programa.Carpetas.RutaPerfiles + "/" + archivo;
     if (nueva) CrearTablaPerfiles(programa.Carpetas.RutaPrograma, familia, ruta);
-    programa.Perfiles = {ruta, archivo, nueva};
-    TablaPerfil tabla(programa, familia, &padre);
+    TablaPerfil tabla(programa, familia, {ruta, archivo, nueva}, &padre);
     tabla.show();
     Guardar(tabla, nombre);
     if (tabla.Emergente() && !nueva)
