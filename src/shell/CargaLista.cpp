@@ -27,22 +27,23 @@ double Leer(const VigaActual& viga, const ColumnaCarga& c, long t, long k) {
 CargaLista::CargaLista(Programa& programa, const Arreglo<std::int16_t>& tramoCarga,
                        FormaCargaLista forma, QWidget* parent)
     : DialogoCarga(programa, tramoCarga, forma.titulo, forma.marco, parent),
-      forma_(std::move(forma)), long1_(new QLineEdit(&Marco())),
-      spread1_(new QTableView(&Marco())) {
-    long1_->setObjectName(QStringLiteral("Long1"));
-    spread1_->setObjectName(QStringLiteral("Spread1"));
+      forma_(std::move(forma)), cantidad_(new QLineEdit(&Marco())),
+      vistaCargas_(new QTableView(&Marco())) {
+    cantidad_->setObjectName(QStringLiteral("Long1"));
+    vistaCargas_->setObjectName(QStringLiteral("Spread1"));
     // A count of loads: digits only, so it is never negative nor beyond a 16-bit integer.
-    long1_->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,4}")), long1_));
-    long1_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    long1_->setMaximumWidth(long1_->fontMetrics().horizontalAdvance(QStringLiteral("00000000")));
-    Campos().addRow(QString::fromUtf8(forma_.etiqueta), long1_);
-    Campos().addRow(spread1_);
+    cantidad_->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral("[0-9]{0,4}")), cantidad_));
+    cantidad_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    cantidad_->setMaximumWidth(
+        cantidad_->fontMetrics().horizontalAdvance(QStringLiteral("00000000")));
+    Campos().addRow(QString::fromUtf8(forma_.etiqueta), cantidad_);
+    Campos().addRow(vistaCargas_);
     ConfigurarSpread();
-    AlTerminar(long1_, [this](bool retorno) { Cantidad(retorno); });
+    AlTerminar(cantidad_, [this](bool retorno) { Cantidad(retorno); });
     if (const long t = UltimoMarcado()) Mostrar(t);
-    FinCarga(spread1_);
-    long1_->setFocus();
+    FinCarga(vistaCargas_);
+    cantidad_->setFocus();
 }
 
 void CargaLista::ConfigurarSpread() {
@@ -72,35 +73,37 @@ void CargaLista::ConfigurarSpread() {
     acceso.Crecer = [this](int filas) {
         const int nuevas = static_cast<int>(std::min<long>(filas, forma_.limite));
         if (nuevas <= static_cast<int>(filas_.size())) return false;
-        long1_->setText(QString::number(nuevas));
-        textoAplicado_ = long1_->text();
+        cantidad_->setText(QString::number(nuevas));
+        textoAplicado_ = cantidad_->text();
         n_ = nuevas;
         Filas(nuevas);
         return true;
     };
     const auto& carpetas = programa_.Carpetas;
     modelo_ = new ModeloCeldas(std::move(titulos), std::move(acceso), carpetas.SeparadorDecimal,
-                               carpetas.SeparadorMiles, spread1_);
-    MostrarModelo(programa_, *spread1_, *modelo_);
-    EsquinaNo(*spread1_);
+                               carpetas.SeparadorMiles, vistaCargas_);
+    MostrarModelo(programa_, *vistaCargas_, *modelo_);
+    EsquinaNo(*vistaCargas_);
     // Tab leaves the list for the buttons; the arrows and Return move between its cells.
-    spread1_->setTabKeyNavigation(false);
-    const int ancho = 15 * spread1_->fontMetrics().averageCharWidth();
-    for (int c = 0; c < columnas; ++c) spread1_->setColumnWidth(c, ancho);
+    vistaCargas_->setTabKeyNavigation(false);
+    const int ancho = 15 * vistaCargas_->fontMetrics().averageCharWidth();
+    for (int c = 0; c < columnas; ++c) vistaCargas_->setColumnWidth(c, ancho);
     // Every column in sight, and room for six rows.
-    const int marco = 2 * spread1_->frameWidth();
-    spread1_->setMinimumWidth(spread1_->verticalHeader()->minimumWidth() + columnas * ancho +
-                              spread1_->verticalScrollBar()->sizeHint().width() + marco);
-    spread1_->setMinimumHeight(spread1_->horizontalHeader()->sizeHint().height() +
-                               6 * spread1_->verticalHeader()->defaultSectionSize() + marco);
+    const int marco = 2 * vistaCargas_->frameWidth();
+    vistaCargas_->setMinimumWidth(vistaCargas_->verticalHeader()->minimumWidth() +
+                                  columnas * ancho +
+                                  vistaCargas_->verticalScrollBar()->sizeHint().width() + marco);
+    vistaCargas_->setMinimumHeight(vistaCargas_->horizontalHeader()->sizeHint().height() +
+                                   6 * vistaCargas_->verticalHeader()->defaultSectionSize() +
+                                   marco);
     Filas(2);
 }
 
 void CargaLista::Mostrar(long t) {
     const VigaActual& viga = programa_.Viga;
     n_ = (viga.*forma_.cantidad)(t);
-    long1_->setText(QString::number(n_));
-    textoAplicado_ = long1_->text();
+    cantidad_->setText(QString::number(n_));
+    textoAplicado_ = cantidad_->text();
     filas_.assign(static_cast<std::size_t>(std::max(n_, 0)), {});
     for (int r = 1; r <= n_; ++r)
         for (const ColumnaCarga& c : forma_.columnas)
@@ -109,12 +112,12 @@ void CargaLista::Mostrar(long t) {
 }
 
 void CargaLista::Cantidad(bool retorno) {
-    if (!Activo() || (!retorno && long1_->text() == textoAplicado_)) return;
-    n_ = long1_->text().toInt();
+    if (!Activo() || (!retorno && cantidad_->text() == textoAplicado_)) return;
+    n_ = cantidad_->text().toInt();
     if (retorno && !forma_.limiteAlAceptar && n_ > forma_.limite) AvisoLimite();
-    textoAplicado_ = long1_->text();
+    textoAplicado_ = cantidad_->text();
     Filas(n_);
-    spread1_->setFocus();
+    vistaCargas_->setFocus();
 }
 
 void CargaLista::Filas(int n) {
@@ -128,7 +131,7 @@ void CargaLista::AvisoLimite() {
     programa_.Dialogo().Mensaje({"Número Máximo de Cargas por Viga = " + limite + "    ",
                                  "Cargas en Vigas", BotonesMensaje::Aceptar,
                                  IconoMensaje::Advertencia, 1});
-    long1_->setText(Qs(limite));
+    cantidad_->setText(Qs(limite));
 }
 
 std::vector<std::vector<double>> CargaLista::Tomadas() const {
@@ -140,7 +143,7 @@ EntradaCarga CargaLista::Tomar() {
     Cantidad(false); // a count typed and not yet applied
     if (forma_.limiteAlAceptar && n_ > forma_.limite) {
         AvisoLimite();
-        textoAplicado_ = long1_->text();
+        textoAplicado_ = cantidad_->text();
         n_ = static_cast<int>(forma_.limite);
     }
     // A count beyond the slots of a span, which only the limit's check on Return stops, is

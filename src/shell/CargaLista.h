@@ -50,8 +50,8 @@ class CargaLista : public DialogoCarga {
     EntradaCarga Tomar() override;
 
     FormaCargaLista forma_;
-    QLineEdit* long1_;
-    QTableView* spread1_;
+    QLineEdit* cantidad_;
+    QTableView* vistaCargas_;
     ModeloCeldas* modelo_ = nullptr;
     std::vector<std::vector<double>> filas_; // the rows shown, as typed
     int n_ = 0;                              // the count applied to the rows

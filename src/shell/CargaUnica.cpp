@@ -30,47 +30,47 @@ QRadioButton* Opcion(const char* nombre, const char* texto, QWidget* padre) {
 CargaUnica::CargaUnica(Programa& programa, const Arreglo<std::int16_t>& tramoCarga,
                        const FormaCargaUnica& forma, QWidget* parent)
     : DialogoCarga(programa, tramoCarga, forma.titulo, forma.marco, parent), forma_(forma),
-      long1_(Campo("Long1", "", programa, &Marco())) {
-    Campos().addRow(QString::fromUtf8(forma.etiqueta), long1_);
+      valor_(Campo("Long1", "", programa, &Marco())) {
+    Campos().addRow(QString::fromUtf8(forma.etiqueta), valor_);
     if (forma.conLa) {
-        double1_ = Campo("Double1", "0.00", programa, &Marco());
-        Campos().addRow(QStringLiteral("La (m) ="), double1_);
+        la_ = Campo("Double1", "0.00", programa, &Marco());
+        Campos().addRow(QStringLiteral("La (m) ="), la_);
     }
     if (forma.conGravedad) {
-        option1_ = Opcion("Option1", "Carga es de Gravedad", &Marco());
-        option2_ = Opcion("Option2", "Perpendicular al Tramo", &Marco());
-        Campos().addRow(option1_);
-        Campos().addRow(option2_);
-        option1_->setChecked(true);
+        deGravedad_ = Opcion("Option1", "Carga es de Gravedad", &Marco());
+        perpendicular_ = Opcion("Option2", "Perpendicular al Tramo", &Marco());
+        Campos().addRow(deGravedad_);
+        Campos().addRow(perpendicular_);
+        deGravedad_->setChecked(true);
     }
-    AlTerminar(long1_, [this](bool) { Colorear(); });
+    AlTerminar(valor_, [this](bool) { Colorear(); });
     if (const long t = UltimoMarcado()) Mostrar(t);
     Colorear();
-    QWidget* ultimo = long1_;
-    if (double1_) ultimo = double1_;
-    if (option2_) ultimo = option2_;
+    QWidget* ultimo = valor_;
+    if (la_) ultimo = la_;
+    if (perpendicular_) ultimo = perpendicular_;
     FinCarga(ultimo);
-    long1_->setFocus();
+    valor_->setFocus();
 }
 
 void CargaUnica::Mostrar(long t) {
     const VigaActual& viga = programa_.Viga;
-    long1_->ColocarValor((viga.*forma_.valor)(t));
-    if (double1_) double1_->ColocarValor(viga.la5(t));
-    if (option1_) (viga.Gravedad(t) == 0 ? option1_ : option2_)->setChecked(true);
+    valor_->ColocarValor((viga.*forma_.valor)(t));
+    if (la_) la_->ColocarValor(viga.la5(t));
+    if (deGravedad_) (viga.Gravedad(t) == 0 ? deGravedad_ : perpendicular_)->setChecked(true);
 }
 
 void CargaUnica::Colorear() {
-    QPalette colores = long1_->palette();
+    QPalette colores = valor_->palette();
     colores.setColor(QPalette::Text,
-                     long1_->Valor() < 0 ? QColor(255, 0, 0) : palette().color(QPalette::Text));
-    long1_->setPalette(colores);
+                     valor_->Valor() < 0 ? QColor(255, 0, 0) : palette().color(QPalette::Text));
+    valor_->setPalette(colores);
 }
 
 EntradaCarga CargaUnica::Tomar() {
-    CargaPorTramo carga{forma_.valor, long1_->Valor(), std::nullopt, std::nullopt};
-    if (double1_) carga.la = double1_->Valor();
-    if (option1_) carga.gravedad = option1_->isChecked() ? 0 : 1;
+    CargaPorTramo carga{forma_.valor, valor_->Valor(), std::nullopt, std::nullopt};
+    if (la_) carga.la = la_->Valor();
+    if (deGravedad_) carga.gravedad = deGravedad_->isChecked() ? 0 : 1;
     return carga;
 }
 

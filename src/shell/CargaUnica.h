@@ -36,10 +36,10 @@ class CargaUnica : public DialogoCarga {
     EntradaCarga Tomar() override;
 
     FormaCargaUnica forma_;
-    CampoNumero* long1_;
-    CampoNumero* double1_ = nullptr;
-    QRadioButton* option1_ = nullptr;
-    QRadioButton* option2_ = nullptr;
+    CampoNumero* valor_;
+    CampoNumero* la_ = nullptr;
+    QRadioButton* deGravedad_ = nullptr;
+    QRadioButton* perpendicular_ = nullptr;
 };
 
 } // namespace trevalo

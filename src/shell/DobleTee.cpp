@@ -40,11 +40,11 @@ DobleTee::DobleTee(Programa& programa, Capturar capturar, QWidget* parent)
 void DobleTee::CrearControles() {
     auto* seccion = new QGroupBox(QStringLiteral("Sección Doble Tee"), this);
     auto* datos = new QFormLayout;
-    text1_ = new QLineEdit(seccion);
-    text1_->setObjectName(QStringLiteral("Text1"));
-    text1_->setMaxLength(50);
-    text1_->setMinimumWidth(180);
-    datos->addRow(QStringLiteral("Designación:"), text1_);
+    designacion_ = new QLineEdit(seccion);
+    designacion_->setObjectName(QStringLiteral("Text1"));
+    designacion_->setMaxLength(50);
+    designacion_->setMinimumWidth(180);
+    datos->addRow(QStringLiteral("Designación:"), designacion_);
     for (std::size_t i = 0; i < doubles_.size(); ++i) {
         auto* campo = new CampoNumero(seccion);
         campo->setObjectName(QStringLiteral("Double%1").arg(i + 1));
@@ -55,13 +55,13 @@ void DobleTee::CrearControles() {
     }
     for (QLabel* e : seccion->findChildren<QLabel*>())
         if (e->buddy()) e->buddy()->setAccessibleName(e->text());
-    picture1_ = new QLabel(seccion);
-    picture1_->setObjectName(QStringLiteral("Picture1"));
-    picture1_->setFixedSize(340, 340);
-    picture1_->setFrameShape(QFrame::StyledPanel);
+    dibujo_ = new QLabel(seccion);
+    dibujo_->setObjectName(QStringLiteral("Picture1"));
+    dibujo_->setFixedSize(340, 340);
+    dibujo_->setFrameShape(QFrame::StyledPanel);
     auto* filaSeccion = new QHBoxLayout(seccion);
     filaSeccion->addLayout(datos);
-    filaSeccion->addWidget(picture1_);
+    filaSeccion->addWidget(dibujo_);
 
     auto* propiedades = new QGroupBox(QStringLiteral("Propiedades"), this);
     auto* cuadro = new QGridLayout(propiedades);
@@ -119,14 +119,14 @@ void DobleTee::MostrarEtiquetas() {
 }
 
 void DobleTee::Calcular() {
-    LienzoImagen lienzo(picture1_->width(), picture1_->height());
+    LienzoImagen lienzo(dibujo_->width(), dibujo_->height());
     const auto& c = programa_.Carpetas;
     const ResultadoCalculo r =
         CalcularPerfil(lienzo, doubles_[0]->Valor(), doubles_[1]->Valor(), doubles_[2]->Valor(),
                        doubles_[3]->Valor(), valores_, c.SeparadorDecimal, c.SeparadorMiles);
     if (r == ResultadoCalculo::SinCambio) return;
     imagen_ = lienzo.Imagen();
-    picture1_->setPixmap(QPixmap::fromImage(imagen_));
+    dibujo_->setPixmap(QPixmap::fromImage(imagen_));
     MostrarEtiquetas();
     if (r == ResultadoCalculo::FallaGeometria)
         programa_.Dialogo().Mensaje({MensajeErrorGeometria, TituloErrorGeometria,
@@ -134,10 +134,10 @@ void DobleTee::Calcular() {
 }
 
 void DobleTee::CapturarSeccion() {
-    const std::string nombre = Recortar(Std(text1_->text()));
+    const std::string nombre = Recortar(Std(designacion_->text()));
     if (nombre.empty()) {
         QApplication::beep();
-        text1_->setFocus();
+        designacion_->setFocus();
         return;
     }
     const double d = doubles_[0]->Valor(), tw = doubles_[1]->Valor(), bf = doubles_[2]->Valor(),
@@ -157,14 +157,14 @@ void DobleTee::CapturarSeccion() {
 }
 
 void DobleTee::Borrar() {
-    text1_->clear();
+    designacion_->clear();
     for (CampoNumero* campo : doubles_) campo->ColocarValor(0);
     for (long i = 1; i <= 12; ++i) valores_.LSLabel(i).assign(1, '0');
     MostrarEtiquetas();
-    imagen_ = QImage(picture1_->size(), QImage::Format_RGB32);
+    imagen_ = QImage(dibujo_->size(), QImage::Format_RGB32);
     imagen_.fill(Qt::white);
-    picture1_->setPixmap(QPixmap::fromImage(imagen_));
-    text1_->setFocus();
+    dibujo_->setPixmap(QPixmap::fromImage(imagen_));
+    designacion_->setFocus();
 }
 
 } // namespace trevalo

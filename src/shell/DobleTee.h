@@ -37,10 +37,10 @@ class DobleTee : public QDialog {
 
     Programa& programa_;
     Capturar capturar_;
-    QLineEdit* text1_;
+    QLineEdit* designacion_;
     std::array<CampoNumero*, 4> doubles_{}; // d, tw, bf, tf
     std::array<QLabel*, 12> etiquetas_{};
-    QLabel* picture1_;
+    QLabel* dibujo_;
     QImage imagen_;
     EtiquetasPerfil valores_;
 };

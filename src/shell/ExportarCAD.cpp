@@ -65,12 +65,12 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
 
     auto* marco =
         new QGroupBox(QStringLiteral("Programa de Dibujo Korvel-CAD Estructural 8.0"), this);
-    spread1_ = new QTableView(marco);
-    spread1_->setObjectName(QStringLiteral("Spread1"));
-    spread1_->setAccessibleName(QStringLiteral("Vigas a Exportar"));
-    picture1_ = new PantallaViga(programa_, false, marco);
-    picture1_->setObjectName(QStringLiteral("Picture1"));
-    picture1_->setMinimumSize(420, 300);
+    vistaVigas_ = new QTableView(marco);
+    vistaVigas_->setObjectName(QStringLiteral("Spread1"));
+    vistaVigas_->setAccessibleName(QStringLiteral("Vigas a Exportar"));
+    lienzo_ = new PantallaViga(programa_, false, marco);
+    lienzo_->setObjectName(QStringLiteral("Picture1"));
+    lienzo_->setMinimumSize(420, 300);
     for (int i = 0; i < 4; ++i) {
         option_[i] = new QRadioButton(QString::fromUtf8(Opciones[i]), marco);
         option_[i]->setObjectName(QStringLiteral("Option%1").arg(i + 1));
@@ -78,14 +78,14 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
     for (const Orden& o : Ordenes) CrearBoton(*this, o);
 
     auto* lista = new QVBoxLayout;
-    lista->addWidget(spread1_, 1);
+    lista->addWidget(vistaVigas_, 1);
     auto* marcas = new QHBoxLayout;
     marcas->addWidget(Boton(QStringLiteral("SSCommand1")));
     marcas->addWidget(Boton(QStringLiteral("SSCommand2")));
     lista->addLayout(marcas);
     auto* arriba = new QHBoxLayout;
     arriba->addLayout(lista);
-    arriba->addWidget(picture1_, 1);
+    arriba->addWidget(lienzo_, 1);
     auto* opciones = new QHBoxLayout;
     opciones->addWidget(
         GrupoOpciones("En Korvel-CAD Estructural 8.0", option_[0], option_[1], marco));
@@ -99,13 +99,13 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
     panelP_->setObjectName(QStringLiteral("LSFrameP"));
     panelP_->setFrameShape(QFrame::StyledPanel);
     auto* progreso = new QHBoxLayout(panelP_);
-    lsLabel4_ = new QLabel(QStringLiteral("Exportando..."), panelP_);
-    lsLabel4_->setObjectName(QStringLiteral("LSLabel4"));
-    progressBar1_ = new QProgressBar(panelP_);
-    progressBar1_->setObjectName(QStringLiteral("ProgressBar1"));
-    progressBar1_->setRange(0, 100);
-    progreso->addWidget(lsLabel4_);
-    progreso->addWidget(progressBar1_, 1);
+    textoProgreso_ = new QLabel(QStringLiteral("Exportando..."), panelP_);
+    textoProgreso_->setObjectName(QStringLiteral("LSLabel4"));
+    progreso_ = new QProgressBar(panelP_);
+    progreso_->setObjectName(QStringLiteral("ProgressBar1"));
+    progreso_->setRange(0, 100);
+    progreso->addWidget(textoProgreso_);
+    progreso->addWidget(progreso_, 1);
     panelP_->hide();
 
     auto* ordenes = new QHBoxLayout;
@@ -127,7 +127,7 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
             [this] { MarcarTodas(true); });
     connect(Boton(QStringLiteral("SSCommand2")), &QPushButton::clicked, this,
             [this] { MarcarTodas(false); });
-    connect(picture1_, &PantallaViga::Redimensionado, picture1_, &PantallaViga::Pintar);
+    connect(lienzo_, &PantallaViga::Redimensionado, lienzo_, &PantallaViga::Pintar);
 
     // The load of the form.
     toolTip_->Configurar(programa_.Tapiz);
@@ -148,8 +148,8 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
-    if (!filas_.empty()) spread1_->setCurrentIndex(modelo_->index(0, 1));
-    connect(spread1_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+    if (!filas_.empty()) vistaVigas_->setCurrentIndex(modelo_->index(0, 1));
+    connect(vistaVigas_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& fila) {
                 if (fila.isValid()) CambioFila(fila.row() + 1);
             });
@@ -180,16 +180,16 @@ void ExportarCAD::ColoquePantalla(const std::vector<std::string>& nombres) {
     modelo_ = new ModeloCeldas({{QStringLiteral("Exportar"), std::nullopt, false, true},
                                 {QStringLiteral("Nombre de la Viga"), std::nullopt, false, false}},
                                std::move(acceso), programa_.Carpetas.SeparadorDecimal,
-                               programa_.Carpetas.SeparadorMiles, spread1_);
-    spread1_->setModel(modelo_);
-    new DelegadoMarca(*spread1_, 1);
+                               programa_.Carpetas.SeparadorMiles, vistaVigas_);
+    vistaVigas_->setModel(modelo_);
+    new DelegadoMarca(*vistaVigas_, 1);
     // Only the mark is entered, by a click or the space bar on its cell.
-    spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    spread1_->horizontalHeader()->setStretchLastSection(true);
-    spread1_->verticalHeader()->setDefaultSectionSize(20);
-    spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
-    spread1_->setMinimumWidth(380);
-    spread1_->horizontalHeader()->resizeSection(0, 64);
+    vistaVigas_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    vistaVigas_->horizontalHeader()->setStretchLastSection(true);
+    vistaVigas_->verticalHeader()->setDefaultSectionSize(20);
+    vistaVigas_->setSelectionMode(QAbstractItemView::SingleSelection);
+    vistaVigas_->setMinimumWidth(380);
+    vistaVigas_->horizontalHeader()->resizeSection(0, 64);
 }
 
 bool ExportarCAD::Marcada(int fila) const {
@@ -204,7 +204,7 @@ void ExportarCAD::Marcar(int fila, bool marcada) {
 void ExportarCAD::MarcarTodas(bool marcada) {
     for (FilaCAD& fila : filas_) fila.Marcada = marcada;
     modelo_->Recargar();
-    spread1_->setFocus();
+    vistaVigas_->setFocus();
 }
 
 void ExportarCAD::CambioFila(int fila) {
@@ -215,7 +215,7 @@ void ExportarCAD::CambioFila(int fila) {
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
-    picture1_->Pintar();
+    lienzo_->Pintar();
 }
 
 void ExportarCAD::MostrarPanel(bool visible) {
@@ -229,7 +229,7 @@ void ExportarCAD::Exportar() {
             {"No ha Seleccionado Vigas para Exportar a Korvel-CAD Estructural!        \n",
              "Exportar Viga a Korvel-CAD Estructural 8.0", BotonesMensaje::Aceptar,
              IconoMensaje::Advertencia, 1});
-        spread1_->setFocus();
+        vistaVigas_->setFocus();
         return;
     }
     if (!listaConcreto_) return;
@@ -237,18 +237,18 @@ void ExportarCAD::Exportar() {
                      programa_.Resultados, programa_.Vista,    *listaConcreto_};
     PasosCAD pasos{[this](bool visible) { MostrarPanel(visible); },
                    [this](double valor) {
-                       progressBar1_->setValue(static_cast<int>(valor));
+                       progreso_->setValue(static_cast<int>(valor));
                        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
                    }};
     OpcionesCAD opciones{option_[1]->isChecked(), option_[3]->isChecked()};
     try {
         if (ExportarCAD70(modelo, programa_.Dialogo(), programa_.Carpetas, filas_,
-                          spread1_->currentIndex().row() + 1, opciones, pasos) == 0)
-            spread1_->setFocus();
+                          vistaVigas_->currentIndex().row() + 1, opciones, pasos) == 0)
+            vistaVigas_->setFocus();
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
-    picture1_->Pintar();
+    lienzo_->Pintar();
 }
 
 void ExportarCAD::Directorio() {

@@ -55,13 +55,13 @@ class ExportarCAD : public QDialog {
     Programa& programa_;
     std::optional<Recordset> listaConcreto_;
     std::vector<FilaCAD> filas_; // the beams of the list and their marks, row by row
-    QTableView* spread1_;
+    QTableView* vistaVigas_;
     ModeloCeldas* modelo_;
-    PantallaViga* picture1_;
+    PantallaViga* lienzo_;
     QRadioButton* option_[4];
     QFrame* panelP_;
-    QProgressBar* progressBar1_;
-    QLabel* lsLabel4_;
+    QProgressBar* progreso_;
+    QLabel* textoProgreso_;
     ToolTipTrevalo* toolTip_;
 };
 

@@ -217,40 +217,40 @@ void TablaPerfil::CrearControles() {
 
     auto* panel3 = new QWidget(this);
     panel3->setObjectName(QStringLiteral("Panel3"));
-    text1_ = new QLineEdit(panel3);
-    text1_->setObjectName(QStringLiteral("Text1"));
-    text1_->setMaxLength(70);
-    long2_ = new CampoNumero(panel3);
-    long2_->setObjectName(QStringLiteral("Long2"));
-    long2_->Configurar("0", sep, miles);
-    long2_->ColocarValor(0); // what a new table stores
-    long2_->setMaximumWidth(90);
-    check1_ = new QCheckBox(QStringLiteral("Modificar la Tabla"), panel3);
-    check1_->setObjectName(QStringLiteral("Check1"));
+    descripcion_ = new QLineEdit(panel3);
+    descripcion_->setObjectName(QStringLiteral("Text1"));
+    descripcion_->setMaxLength(70);
+    resistencia_ = new CampoNumero(panel3);
+    resistencia_->setObjectName(QStringLiteral("Long2"));
+    resistencia_->Configurar("0", sep, miles);
+    resistencia_->ColocarValor(0); // what a new table stores
+    resistencia_->setMaximumWidth(90);
+    modificar_ = new QCheckBox(QStringLiteral("Modificar la Tabla"), panel3);
+    modificar_->setObjectName(QStringLiteral("Check1"));
     auto* arriba = new QHBoxLayout(panel3);
     arriba->setContentsMargins(0, 0, 0, 0);
-    arriba->addWidget(Etiqueta("Descripción: ", text1_, panel3));
-    arriba->addWidget(text1_, 1);
+    arriba->addWidget(Etiqueta("Descripción: ", descripcion_, panel3));
+    arriba->addWidget(descripcion_, 1);
     arriba->addSpacing(12);
-    arriba->addWidget(Etiqueta(d.fy, long2_, panel3));
-    arriba->addWidget(long2_);
+    arriba->addWidget(Etiqueta(d.fy, resistencia_, panel3));
+    arriba->addWidget(resistencia_);
     arriba->addSpacing(12);
-    arriba->addWidget(check1_);
+    arriba->addWidget(modificar_);
 
-    spread1_ = new QTableView(this);
-    spread1_->setObjectName(QStringLiteral("Spread1"));
-    spread1_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
+    vistaPerfiles_ = new QTableView(this);
+    vistaPerfiles_->setObjectName(QStringLiteral("Spread1"));
+    vistaPerfiles_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
 
     auto* panel1 = new QWidget(this);
     panel1->setObjectName(QStringLiteral("Panel1"));
-    long1_ = new CampoNumero(panel1);
-    long1_->setObjectName(QStringLiteral("Long1"));
-    long1_->Configurar("0", sep, miles);
-    long1_->ColocarValor(0); // an empty grid until rows are read
-    long1_->setMaximumWidth(70);
-    ssPanel3_ = new QWidget(panel1);
-    ssPanel3_->setObjectName(QStringLiteral("SSPanel3"));
-    auto* edicion = new QHBoxLayout(ssPanel3_);
+    totalPerfiles_ = new CampoNumero(panel1);
+    totalPerfiles_->setObjectName(QStringLiteral("Long1"));
+    totalPerfiles_->Configurar("0", sep, miles);
+    totalPerfiles_->ColocarValor(0); // an empty grid until rows are read
+    totalPerfiles_->setMaximumWidth(70);
+    panelEdicion_ = new QWidget(panel1);
+    panelEdicion_->setObjectName(QStringLiteral("SSPanel3"));
+    auto* edicion = new QHBoxLayout(panelEdicion_);
     edicion->setContentsMargins(0, 0, 0, 0);
     if (familia_ == FamiliaPerfil::DobleTee)
         CrearBotones(*this, *edicion,
@@ -261,10 +261,10 @@ void TablaPerfil::CrearControles() {
                  {{{"LSButton5", "Eliminar", "Eliminar", d.tipEliminar}, [this] { Eliminar(); }}});
     auto* abajo = new QHBoxLayout(panel1);
     abajo->setContentsMargins(0, 0, 0, 0);
-    abajo->addWidget(Etiqueta("Total Perfiles:", long1_, panel1));
-    abajo->addWidget(long1_);
+    abajo->addWidget(Etiqueta("Total Perfiles:", totalPerfiles_, panel1));
+    abajo->addWidget(totalPerfiles_);
     abajo->addSpacing(12);
-    abajo->addWidget(ssPanel3_);
+    abajo->addWidget(panelEdicion_);
     abajo->addStretch(1);
     CrearBotones(*this, *abajo,
                  {{{"LSButton4", "Salvar", "Salvar", "Salvar las modificaciones realizadas. "},
@@ -274,51 +274,52 @@ void TablaPerfil::CrearControles() {
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(4, 4, 4, 8);
     todo->addWidget(panel3);
-    todo->addWidget(spread1_, 1);
+    todo->addWidget(vistaPerfiles_, 1);
     todo->addWidget(panel1);
 
-    connect(check1_, &QCheckBox::toggled, this, &TablaPerfil::Modificar);
+    connect(modificar_, &QCheckBox::toggled, this, &TablaPerfil::Modificar);
     const auto cambio = [this] {
         if (!cargando_) tablaCambiada_ = true;
     };
-    connect(text1_, &QLineEdit::textEdited, this, cambio);
-    connect(long2_, &QLineEdit::textEdited, this, cambio);
-    connect(long1_, &QLineEdit::textEdited, this, [this] {
+    connect(descripcion_, &QLineEdit::textEdited, this, cambio);
+    connect(resistencia_, &QLineEdit::textEdited, this, cambio);
+    connect(totalPerfiles_, &QLineEdit::textEdited, this, [this] {
         totalCambiado_ = true;
         tablaCambiada_ = true;
     });
-    connect(long1_, &QLineEdit::editingFinished, this, &TablaPerfil::AplicarTotal);
-    connect(long1_, &QLineEdit::returnPressed, spread1_, qOverload<>(&QWidget::setFocus));
+    connect(totalPerfiles_, &QLineEdit::editingFinished, this, &TablaPerfil::AplicarTotal);
+    connect(totalPerfiles_, &QLineEdit::returnPressed, vistaPerfiles_,
+            qOverload<>(&QWidget::setFocus));
     toolTip_->Configurar(programa_.Tapiz);
 
     if (!d.dibujo) return;
-    lsFrame3_ = new QFrame(this);
-    lsFrame3_->setObjectName(QStringLiteral("LSFrame3"));
-    lsFrame3_->setFrameShape(QFrame::Box);
-    lsFrame3_->setAutoFillBackground(true);
-    lsFrame3_->setFixedSize(240, 250);
-    auto* labelV4 = new QLabel(lsFrame3_);
+    emergente_ = new QFrame(this);
+    emergente_->setObjectName(QStringLiteral("LSFrame3"));
+    emergente_->setFrameShape(QFrame::Box);
+    emergente_->setAutoFillBackground(true);
+    emergente_->setFixedSize(240, 250);
+    auto* labelV4 = new QLabel(emergente_);
     labelV4->setObjectName(QStringLiteral("LabelV4"));
-    picture5_ = new QLabel(lsFrame3_);
-    picture5_->setObjectName(QStringLiteral("Picture5"));
-    labelV6_ = new QLabel(lsFrame3_);
-    labelV6_->setObjectName(QStringLiteral("LabelV6"));
-    labelV6_->setAlignment(Qt::AlignCenter);
-    auto* marco = new QVBoxLayout(lsFrame3_);
+    croquis_ = new QLabel(emergente_);
+    croquis_->setObjectName(QStringLiteral("Picture5"));
+    rotuloCroquis_ = new QLabel(emergente_);
+    rotuloCroquis_->setObjectName(QStringLiteral("LabelV6"));
+    rotuloCroquis_->setAlignment(Qt::AlignCenter);
+    auto* marco = new QVBoxLayout(emergente_);
     marco->setContentsMargins(15, 2, 15, 4);
     marco->addWidget(labelV4);
-    marco->addWidget(picture5_, 1);
-    marco->addWidget(labelV6_);
-    lsFrame3_->hide();
-    timer1_.setInterval(200);
-    timer1_.setSingleShot(true);
-    connect(&timer1_, &QTimer::timeout, this, &TablaPerfil::MostrarEmergente);
-    spread1_->viewport()->installEventFilter(this);
-    spread1_->setMouseTracking(true);
-    connect(spread1_, &QTableView::pressed, this, [this](const QModelIndex& celda) {
+    marco->addWidget(croquis_, 1);
+    marco->addWidget(rotuloCroquis_);
+    emergente_->hide();
+    esperaCroquis_.setInterval(200);
+    esperaCroquis_.setSingleShot(true);
+    connect(&esperaCroquis_, &QTimer::timeout, this, &TablaPerfil::MostrarEmergente);
+    vistaPerfiles_->viewport()->installEventFilter(this);
+    vistaPerfiles_->setMouseTracking(true);
+    connect(vistaPerfiles_, &QTableView::pressed, this, [this](const QModelIndex& celda) {
         if (!popupActivo_) return;
         filaEmergente_ = celda.row() + 1;
-        timer1_.start();
+        esperaCroquis_.start();
     });
 }
 
@@ -334,16 +335,16 @@ void TablaPerfil::ConfigurarPantalla() {
     acceso.Escribir = [this](const Celda& celda) { return Escribir(celda); };
     const auto& carpetas = programa_.Carpetas;
     modelo_ = new ModeloCeldas(ColumnasCelda(d), std::move(acceso), carpetas.SeparadorDecimal,
-                               carpetas.SeparadorMiles, spread1_);
-    MostrarModelo(programa_, *spread1_, *modelo_);
-    auto* encabezado = new EncabezadoPerfil(std::move(lineas), spread1_);
-    spread1_->setHorizontalHeader(encabezado);
+                               carpetas.SeparadorMiles, vistaPerfiles_);
+    MostrarModelo(programa_, *vistaPerfiles_, *modelo_);
+    auto* encabezado = new EncabezadoPerfil(std::move(lineas), vistaPerfiles_);
+    vistaPerfiles_->setHorizontalHeader(encabezado);
     encabezado->setFixedHeight(encabezado->sizeHint().height());
-    spread1_->verticalHeader()->setDefaultSectionSize(18);
-    EsquinaNo(*spread1_);
+    vistaPerfiles_->verticalHeader()->setDefaultSectionSize(18);
+    EsquinaNo(*vistaPerfiles_);
     for (int c = 1; c <= Columnas(familia_); ++c)
-        spread1_->setColumnWidth(c - 1, c == d.designacion ? 150 : 72);
-    if (familia_ == FamiliaPerfil::DobleTee) spread1_->setColumnHidden(0, true);
+        vistaPerfiles_->setColumnWidth(c - 1, c == d.designacion ? 150 : 72);
+    if (familia_ == FamiliaPerfil::DobleTee) vistaPerfiles_->setColumnHidden(0, true);
 }
 
 void TablaPerfil::ColoquePantalla() {
@@ -356,10 +357,10 @@ void TablaPerfil::ColoquePantalla() {
         leida_ = false;
         return;
     }
-    text1_->setText(Qs(tabla.DescripcionTabla));
-    long2_->ColocarValor(tabla.ResistenciaFY);
+    descripcion_->setText(Qs(tabla.DescripcionTabla));
+    resistencia_->ColocarValor(tabla.ResistenciaFY);
     if (tabla.Filas.empty()) return;
-    long1_->ColocarValor(static_cast<double>(tabla.Filas.size()));
+    totalPerfiles_->ColocarValor(static_cast<double>(tabla.Filas.size()));
     const int primero = PrimerCampo(familia_);
     for (const FilaPerfil& perfil : tabla.Filas) {
         Fila& fila = filas_.emplace_back(FilaVacia());
@@ -372,18 +373,18 @@ void TablaPerfil::ColoquePantalla() {
 }
 
 void TablaPerfil::Modificar(bool activo) {
-    spread1_->setEditTriggers(activo ? QAbstractItemView::DoubleClicked |
-                                           QAbstractItemView::EditKeyPressed |
-                                           QAbstractItemView::AnyKeyPressed
-                                     : QAbstractItemView::NoEditTriggers);
-    ssPanel3_->setVisible(activo);
-    long1_->setEnabled(activo);
-    spread1_->setFocus();
+    vistaPerfiles_->setEditTriggers(activo ? QAbstractItemView::DoubleClicked |
+                                                 QAbstractItemView::EditKeyPressed |
+                                                 QAbstractItemView::AnyKeyPressed
+                                           : QAbstractItemView::NoEditTriggers);
+    panelEdicion_->setVisible(activo);
+    totalPerfiles_->setEnabled(activo);
+    vistaPerfiles_->setFocus();
 }
 
 void TablaPerfil::AplicarTotal() {
     if (!totalCambiado_) return;
-    const auto n = static_cast<std::size_t>(std::clamp(long1_->Valor(), 0.0, 32767.0));
+    const auto n = static_cast<std::size_t>(std::clamp(totalPerfiles_->Valor(), 0.0, 32767.0));
     filas_.resize(n, FilaVacia());
     const Diseno& d = DisenoDe(familia_);
     for (int r = 1; r <= static_cast<int>(n); ++r)
@@ -402,7 +403,7 @@ void TablaPerfil::CrearPerfil() {
     DobleTee generador(
         programa_, [this](const CapturaSeccion& c) { AgregarCaptura(c); }, this);
     generador.exec();
-    spread1_->setFocus();
+    vistaPerfiles_->setFocus();
 }
 
 // The generator writes from the first column on: the name in the reference column, the area
@@ -417,7 +418,7 @@ void TablaPerfil::AgregarCaptura(const CapturaSeccion& captura) {
         Colocar(fila, 2 + static_cast<int>(i), captura.Numeros[i]);
     tablaCambiada_ = true;
     modelo_->Recargar();
-    spread1_->setCurrentIndex(modelo_->index(static_cast<int>(filas_.size()) - 1, 1));
+    vistaPerfiles_->setCurrentIndex(modelo_->index(static_cast<int>(filas_.size()) - 1, 1));
 }
 
 void TablaPerfil::Eliminar() {
@@ -425,7 +426,7 @@ void TablaPerfil::Eliminar() {
         QApplication::beep();
         return;
     }
-    const int fila = std::max(spread1_->currentIndex().row(), 0) + 1;
+    const int fila = std::max(vistaPerfiles_->currentIndex().row(), 0) + 1;
     const Diseno& d = DisenoDe(familia_);
     const std::string nombre = Recortar(Std(Designacion(fila)));
     const std::string espacios = familia_ == FamiliaPerfil::DobleTee ? "!        " : "!      ";
@@ -435,31 +436,32 @@ void TablaPerfil::Eliminar() {
     if (programa_.Dialogo().Mensaje(pregunta) != RespuestaSi) return;
     filas_.erase(filas_.begin() + (fila - 1));
     modelo_->Recargar();
-    long1_->ColocarValor(static_cast<double>(filas_.size()));
+    totalPerfiles_->ColocarValor(static_cast<double>(filas_.size()));
     tablaCambiada_ = true;
-    spread1_->setFocus();
+    vistaPerfiles_->setFocus();
 }
 
 bool TablaPerfil::Salvar() {
     TablaPerfiles tabla;
-    tabla.DescripcionTabla = Std(text1_->text());
-    tabla.ResistenciaFY = static_cast<std::int16_t>(std::clamp(long2_->Valor(), 0.0, 32767.0));
+    tabla.DescripcionTabla = Std(descripcion_->text());
+    tabla.ResistenciaFY =
+        static_cast<std::int16_t>(std::clamp(resistencia_->Valor(), 0.0, 32767.0));
     for (int r = 1; r <= static_cast<int>(filas_.size()); ++r)
         tabla.Filas.push_back(FilaDelGrid(r));
     try {
         if (!SalvarTablaPerfiles(tabla_.ArchivoTabla, familia_, tabla)) {
-            text1_->setFocus();
+            descripcion_->setFocus();
             return false;
         }
     } catch (const ErrorTrevalo& e) {
         Pregunta mensaje = MensajeError(e);
         mensaje.Texto += "...    ";
         programa_.Dialogo().Mensaje(mensaje);
-        spread1_->setFocus();
+        vistaPerfiles_->setFocus();
         return false;
     }
     tablaCambiada_ = false;
-    spread1_->setFocus();
+    vistaPerfiles_->setFocus();
     return true;
 }
 
@@ -472,7 +474,7 @@ void TablaPerfil::reject() {
             {"Desea Salvar las Modificaciones?      ", "Tabla de Perfiles",
              BotonesMensaje::SiNoCancelar, IconoMensaje::Pregunta, 1});
         if (respuesta == RespuestaCancelar) {
-            spread1_->setFocus();
+            vistaPerfiles_->setFocus();
             return;
         }
         // Nothing is lost unasked: a save that did not happen keeps the window open.
@@ -490,24 +492,24 @@ FilaPerfil TablaPerfil::FilaDelGrid(int fila) const {
 }
 
 QWidget* TablaPerfil::Emergente() const {
-    return lsFrame3_;
+    return emergente_;
 }
 
 bool TablaPerfil::eventFilter(QObject* objeto, QEvent* evento) {
     const auto tipo = evento->type();
-    if (objeto != spread1_->viewport() ||
+    if (objeto != vistaPerfiles_->viewport() ||
         (tipo != QEvent::MouseButtonPress && tipo != QEvent::MouseButtonRelease &&
          tipo != QEvent::MouseMove))
         return false;
     const auto* raton = static_cast<QMouseEvent*>(evento);
     if (tipo == QEvent::MouseMove) {
-        if (raton->buttons() == Qt::NoButton) lsFrame3_->hide();
+        if (raton->buttons() == Qt::NoButton) emergente_->hide();
     } else if (raton->button() == Qt::LeftButton) {
         popupActivo_ = tipo == QEvent::MouseButtonPress;
         popup_ = raton->position().toPoint();
         if (!popupActivo_) {
-            timer1_.stop();
-            lsFrame3_->hide();
+            esperaCroquis_.stop();
+            emergente_->hide();
         }
     }
     return false;
@@ -515,30 +517,30 @@ bool TablaPerfil::eventFilter(QObject* objeto, QEvent* evento) {
 
 void TablaPerfil::MostrarEmergente() {
     if (filaEmergente_ < 1 || filaEmergente_ > static_cast<int>(filas_.size())) return;
-    lsFrame3_->hide();
+    emergente_->hide();
     // The frame has not been laid out before it is first shown: the sketch takes the size
     // its picture will have.
-    lsFrame3_->layout()->activate();
-    LienzoImagen lienzo(picture5_->width(), picture5_->height());
+    emergente_->layout()->activate();
+    LienzoImagen lienzo(croquis_->width(), croquis_->height());
     lienzo.Cls();
     DisenoDe(familia_).dibujo(lienzo, FilaDelGrid(filaEmergente_));
-    picture5_->setPixmap(QPixmap::fromImage(lienzo.Imagen()));
-    labelV6_->setText(Designacion(filaEmergente_).trimmed());
+    croquis_->setPixmap(QPixmap::fromImage(lienzo.Imagen()));
+    rotuloCroquis_->setText(Designacion(filaEmergente_).trimmed());
     ColocarEmergente();
-    lsFrame3_->show();
-    lsFrame3_->raise();
+    emergente_->show();
+    emergente_->raise();
 }
 
 // 200 twips right of and below the mouse; 200 twips to its left, or above it, when the
 // frame would come closer than 100 twips to the window's edge.
 void TablaPerfil::ColocarEmergente() {
     constexpr int Lejos = 13, Cerca = 7;
-    const QPoint raton = spread1_->viewport()->mapTo(this, popup_);
-    const QSize tamano = lsFrame3_->size();
+    const QPoint raton = vistaPerfiles_->viewport()->mapTo(this, popup_);
+    const QSize tamano = emergente_->size();
     int x = raton.x() + Lejos, y = raton.y() + Lejos;
     if (x + tamano.width() > width() - Cerca) x = raton.x() - Lejos - tamano.width();
     if (y + tamano.height() > height() - Cerca) y = raton.y() - Lejos - tamano.height();
-    lsFrame3_->move(x, y);
+    emergente_->move(x, y);
 }
 
 TablaPerfil::Fila TablaPerfil::FilaVacia() const {
@@ -572,7 +574,7 @@ void TablaPerfil::Colocar(Fila& fila, int columna, const QVariant& valor) const 
 // A locked table takes nothing, typed or pasted; a numeric cell takes no empty text. A value
 // that differs from the cell's is a change to save.
 Veredicto TablaPerfil::Escribir(const Celda& celda) {
-    if (!check1_->isChecked()) return Rechazar();
+    if (!modificar_->isChecked()) return Rechazar();
     const bool numerica = modelo_->Columna(celda.Columna).Formato.has_value();
     if (numerica && !celda.Numero) return Rechazar();
     const QVariant valor = numerica ? QVariant(*celda.Numero) : QVariant(celda.Texto);

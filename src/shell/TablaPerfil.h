@@ -48,7 +48,7 @@ class TablaPerfil : public QDialog {
     // shown).
     bool Leida() const { return leida_; }
     bool Cambiada() const { return tablaCambiada_; }
-    QTableView& Grid() { return *spread1_; }
+    QTableView& Grid() { return *vistaPerfiles_; }
 
     // A section of the generator as a new last row, made the current row: its name in the
     // first column, its numbers in the following ones, in the order the generator gives.
@@ -98,18 +98,18 @@ class TablaPerfil : public QDialog {
     EstadoTablaPerfiles tabla_;
     FamiliaPerfil familia_;
     std::vector<Fila> filas_;
-    QTableView* spread1_;
+    QTableView* vistaPerfiles_;
     ModeloCeldas* modelo_ = nullptr;
-    QLineEdit* text1_;
-    CampoNumero* long2_;
-    CampoNumero* long1_;
-    QCheckBox* check1_;
-    QWidget* ssPanel3_;
-    QFrame* lsFrame3_ = nullptr;
-    QLabel* picture5_ = nullptr;
-    QLabel* labelV6_ = nullptr;
+    QLineEdit* descripcion_;
+    CampoNumero* resistencia_;
+    CampoNumero* totalPerfiles_;
+    QCheckBox* modificar_;
+    QWidget* panelEdicion_;
+    QFrame* emergente_ = nullptr;
+    QLabel* croquis_ = nullptr;
+    QLabel* rotuloCroquis_ = nullptr;
     ToolTipTrevalo* toolTip_;
-    QTimer timer1_;
+    QTimer esperaCroquis_;
     bool leida_ = true;
     bool tablaCambiada_ = false;
     bool totalCambiado_ = false;

@@ -43,23 +43,23 @@ VigasMetalicas::VigasMetalicas(Programa& programa, long tipo, QWidget* parent)
 void VigasMetalicas::CrearControles() {
     marco_ =
         new QGroupBox(QStringLiteral("Seleccione el Perfil de la Viga Tipo: %1").arg(tipo_), this);
-    fpList1_ = new QListWidget(marco_);
-    fpList1_->setObjectName(QStringLiteral("fpList1"));
-    fpList1_->setAccessibleName(QStringLiteral("Perfiles"));
-    fpList1_->setViewMode(QListView::IconMode);
-    fpList1_->setIconSize(QSize(72, 72));
-    fpList1_->setGridSize(QSize(128, 112));
-    fpList1_->setMovement(QListView::Static);
-    fpList1_->setWrapping(false);
-    fpList1_->setFlow(QListView::LeftToRight);
-    fpList1_->setWordWrap(true);
-    fpList1_->setFixedHeight(136);
+    familias_ = new QListWidget(marco_);
+    familias_->setObjectName(QStringLiteral("fpList1"));
+    familias_->setAccessibleName(QStringLiteral("Perfiles"));
+    familias_->setViewMode(QListView::IconMode);
+    familias_->setIconSize(QSize(72, 72));
+    familias_->setGridSize(QSize(128, 112));
+    familias_->setMovement(QListView::Static);
+    familias_->setWrapping(false);
+    familias_->setFlow(QListView::LeftToRight);
+    familias_->setWordWrap(true);
+    familias_->setFixedHeight(136);
     for (int i = 1; i <= NumeroItemsFamilia; ++i)
-        fpList1_->addItem(new QListWidgetItem(Dibujo(i), Qs(ItemLista(i).Texto)));
+        familias_->addItem(new QListWidgetItem(Dibujo(i), Qs(ItemLista(i).Texto)));
 
-    spread1_ = new QTableView(marco_);
-    spread1_->setObjectName(QStringLiteral("Spread1"));
-    spread1_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
+    vistaPerfiles_ = new QTableView(marco_);
+    vistaPerfiles_->setObjectName(QStringLiteral("Spread1"));
+    vistaPerfiles_->setAccessibleName(QStringLiteral("Perfiles de la Tabla"));
     // The table loaded, shown only: read where it lives, in the program's list of profiles.
     AccesoCeldas acceso;
     acceso.Filas = [this] { return static_cast<int>(programa_.ListaPerfil.ListaPerfilesN); };
@@ -74,19 +74,19 @@ void VigasMetalicas::CrearControles() {
                                 {QStringLiteral("Area"), dosDecimales, false, false},
                                 {QStringLiteral("Inercia"), dosDecimales, false, false}},
                                std::move(acceso), carpetas.SeparadorDecimal,
-                               carpetas.SeparadorMiles, spread1_);
-    MostrarModelo(programa_, *spread1_, *modelo_);
-    spread1_->verticalHeader()->hide();
-    spread1_->verticalHeader()->setDefaultSectionSize(18);
-    spread1_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    spread1_->setColumnWidth(1, 100);
-    spread1_->setColumnWidth(2, 110);
-    spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
-    spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+                               carpetas.SeparadorMiles, vistaPerfiles_);
+    MostrarModelo(programa_, *vistaPerfiles_, *modelo_);
+    vistaPerfiles_->verticalHeader()->hide();
+    vistaPerfiles_->verticalHeader()->setDefaultSectionSize(18);
+    vistaPerfiles_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    vistaPerfiles_->setColumnWidth(1, 100);
+    vistaPerfiles_->setColumnWidth(2, 110);
+    vistaPerfiles_->setSelectionMode(QAbstractItemView::SingleSelection);
+    vistaPerfiles_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    vistaPerfiles_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     auto* dentro = new QVBoxLayout(marco_);
-    dentro->addWidget(fpList1_);
-    dentro->addWidget(spread1_, 1);
+    dentro->addWidget(familias_);
+    dentro->addWidget(vistaPerfiles_, 1);
 
     auto* botones = new QHBoxLayout;
     botones->addStretch(1);
@@ -109,12 +109,12 @@ void VigasMetalicas::CrearControles() {
 
     // A click on a picture loads a table for it; unless the load was cancelled, the picture
     // becomes the current one.
-    connect(fpList1_, &QListWidget::itemClicked, this, [this] {
+    connect(familias_, &QListWidget::itemClicked, this, [this] {
         Tablas();
-        if (!cancelarItem_) itemActual_ = fpList1_->currentRow() + 1;
+        if (!cancelarItem_) itemActual_ = familias_->currentRow() + 1;
         cancelarItem_ = false;
     });
-    connect(spread1_, &QTableView::doubleClicked, this, &VigasMetalicas::Capturar);
+    connect(vistaPerfiles_, &QTableView::doubleClicked, this, &VigasMetalicas::Capturar);
     (new ToolTipTrevalo(this))->Configurar(programa_.Tapiz);
 }
 
@@ -128,11 +128,11 @@ void VigasMetalicas::ColoquePantalla() {
 }
 
 void VigasMetalicas::ElegirItem(int item) {
-    fpList1_->setCurrentRow(item - 1);
+    familias_->setCurrentRow(item - 1);
 }
 
 void VigasMetalicas::Tablas() {
-    const int item = std::max(fpList1_->currentRow(), 0) + 1;
+    const int item = std::max(familias_->currentRow(), 0) + 1;
     const ArchivoElegido elegido = programa_.Dialogo().Archivo(
         {"Crear Tabla de Perfiles Metálicos", ModoDialogo::Abrir,
          Familia(ItemLista(item).Familia).Filtro, 1, programa_.Carpetas.RutaPerfiles, ""});
@@ -140,7 +140,7 @@ void VigasMetalicas::Tablas() {
         try {
             CargarListaPerfiles(elegido.FileName, item, programa_.ListaPerfil);
             ColoquePantalla();
-            spread1_->setFocus();
+            vistaPerfiles_->setFocus();
             return;
         } catch (const ErrorTrevalo& e) {
             // A file of another family: told, and the earlier table stays, as on a cancel.
@@ -157,11 +157,11 @@ void VigasMetalicas::Capturar() {
         QApplication::beep();
         return;
     }
-    const long fila = std::max(spread1_->currentIndex().row(), 0) + 1;
+    const long fila = std::max(vistaPerfiles_->currentIndex().row(), 0) + 1;
     if (programa_.Dialogo().Mensaje({MensajeCapturaPerfil(lista, fila, tipo_),
                                      "Capturar Sección de Perfil Metálico", BotonesMensaje::SiNo,
                                      IconoMensaje::Pregunta, 1}) != RespuestaSi) {
-        spread1_->setFocus();
+        vistaPerfiles_->setFocus();
         return;
     }
     filaCapturada_ = fila;

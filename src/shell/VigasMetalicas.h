@@ -46,8 +46,8 @@ class VigasMetalicas : public QDialog {
     long tipo_;
     long filaCapturada_ = 0;
     QGroupBox* marco_;
-    QListWidget* fpList1_;
-    QTableView* spread1_;
+    QListWidget* familias_;
+    QTableView* vistaPerfiles_;
     ModeloCeldas* modelo_;
     int itemActual_ = 1;
     bool cancelarItem_ = false;

@@ -86,20 +86,20 @@ VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowFlag(Qt::WindowMinimizeButtonHint);
 
-    spread1_ = new QTableView(this);
-    spread1_->setModel(lista_);
-    spread1_->setObjectName(QStringLiteral("Spread1"));
-    spread1_->setAccessibleName(QStringLiteral("Vigas del Proyecto"));
-    lblNombre_ = new QLabel(this);
-    lblNombre_->setObjectName(QStringLiteral("LblNombre"));
-    tab1_ = new QTabBar(this);
-    tab1_->setObjectName(QStringLiteral("Tab1"));
-    for (const char* t : Pestanas) tab1_->addTab(QString::fromUtf8(t));
+    vistaVigas_ = new QTableView(this);
+    vistaVigas_->setModel(lista_);
+    vistaVigas_->setObjectName(QStringLiteral("Spread1"));
+    vistaVigas_->setAccessibleName(QStringLiteral("Vigas del Proyecto"));
+    nombreViga_ = new QLabel(this);
+    nombreViga_->setObjectName(QStringLiteral("LblNombre"));
+    pestanas_ = new QTabBar(this);
+    pestanas_->setObjectName(QStringLiteral("Tab1"));
+    for (const char* t : Pestanas) pestanas_->addTab(QString::fromUtf8(t));
     pantalla_ = new PantallaViga(programa_, true, this);
     pantalla_->setObjectName(QStringLiteral("Picture1"));
 
     auto* izquierda = new QVBoxLayout;
-    izquierda->addWidget(spread1_, 1);
+    izquierda->addWidget(vistaVigas_, 1);
     auto* mover = new QHBoxLayout;
     for (int i = 0; i < 2; ++i) {
         btoMove_[i] = new QPushButton(i == 0 ? QStringLiteral("◀") : QStringLiteral("▶"), this);
@@ -116,40 +116,40 @@ VigasProyecto::VigasProyecto(Programa& programa, QWidget* parent)
     auto* derecha = new QVBoxLayout;
     derecha->addWidget(CrearHerramientas());
     auto* nombre = new QHBoxLayout;
-    nombre->addWidget(tab1_, 1);
-    nombre->addWidget(lblNombre_);
+    nombre->addWidget(pestanas_, 1);
+    nombre->addWidget(nombreViga_);
     derecha->addLayout(nombre);
     derecha->addWidget(pantalla_, 1);
 
-    lsPanelP_ = new QWidget(this);
-    lsPanelP_->setObjectName(QStringLiteral("LSPanelP"));
-    auto* progreso = new QHBoxLayout(lsPanelP_);
-    lsLabel4_ = new QLabel(lsPanelP_);
-    lsLabel4_->setObjectName(QStringLiteral("LSLabel4"));
-    progressBar1_ = new QProgressBar(lsPanelP_);
-    progressBar1_->setObjectName(QStringLiteral("ProgressBar1"));
-    progreso->addWidget(lsLabel4_);
-    progreso->addWidget(progressBar1_, 1);
-    lsPanelP_->hide();
-    derecha->addWidget(lsPanelP_);
+    panelProgreso_ = new QWidget(this);
+    panelProgreso_->setObjectName(QStringLiteral("LSPanelP"));
+    auto* progreso = new QHBoxLayout(panelProgreso_);
+    textoProgreso_ = new QLabel(panelProgreso_);
+    textoProgreso_->setObjectName(QStringLiteral("LSLabel4"));
+    progreso_ = new QProgressBar(panelProgreso_);
+    progreso_->setObjectName(QStringLiteral("ProgressBar1"));
+    progreso->addWidget(textoProgreso_);
+    progreso->addWidget(progreso_, 1);
+    panelProgreso_->hide();
+    derecha->addWidget(panelProgreso_);
 
     auto* todo = new QHBoxLayout(this);
     todo->addLayout(izquierda);
     todo->addLayout(derecha, 1);
 
-    idPantalla_ = new QMenu(this);
-    idPantalla_->setObjectName(QStringLiteral("ID_Pantalla"));
+    menuLienzo_ = new QMenu(this);
+    menuLienzo_->setObjectName(QStringLiteral("ID_Pantalla"));
     for (const char* clave : {"ID_Editar", "", "ID_KorvelCAD", "", "ID_ZoomIN", "ID_ZoomOut", "",
                               "ID_PanRealtime", "", "ID_ZoomExtents"}) {
         if (*clave == '\0')
-            idPantalla_->addSeparator();
+            menuLienzo_->addSeparator();
         else
-            idPantalla_->addAction(Accion(QString::fromUtf8(clave)));
+            menuLienzo_->addAction(Accion(QString::fromUtf8(clave)));
     }
 
-    connect(tab1_, &QTabBar::currentChanged, this, [this](int i) { ClickPestana(i + 1); });
+    connect(pestanas_, &QTabBar::currentChanged, this, [this](int i) { ClickPestana(i + 1); });
     // A row chosen in the view loads its beam; the list's own changes only show in the view.
-    connect(spread1_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+    connect(vistaVigas_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& actual) {
                 const int fila = actual.row() + 1;
                 if (!actual.isValid() || fila == lista_->Actual()) return;
@@ -238,14 +238,14 @@ QWidget* VigasProyecto::CrearBotones() {
 }
 
 void VigasProyecto::ConfigurarSpread() {
-    spread1_->horizontalHeader()->setStretchLastSection(true);
-    spread1_->verticalHeader()->setDefaultSectionSize(18);
-    spread1_->horizontalHeader()->setFixedHeight(22);
-    spread1_->setSelectionMode(QAbstractItemView::SingleSelection);
-    spread1_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    spread1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    spread1_->setMinimumWidth(240);
-    EsquinaNo(*spread1_);
+    vistaVigas_->horizontalHeader()->setStretchLastSection(true);
+    vistaVigas_->verticalHeader()->setDefaultSectionSize(18);
+    vistaVigas_->horizontalHeader()->setFixedHeight(22);
+    vistaVigas_->setSelectionMode(QAbstractItemView::SingleSelection);
+    vistaVigas_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    vistaVigas_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    vistaVigas_->setMinimumWidth(240);
+    EsquinaNo(*vistaVigas_);
     for (const char* clave :
          {"ID_Aumentar", "ID_Disminuir", "ID_LetraMas", "ID_LetraMenos", "ID_LetraR"})
         Accion(QString::fromUtf8(clave))->setEnabled(false);
@@ -281,22 +281,22 @@ std::vector<std::string> VigasProyecto::NombresLista() const {
 void VigasProyecto::SeguirActual(int fila) {
     const QModelIndex indice = lista_->index(fila - 1, 0);
     if (indice.isValid())
-        spread1_->selectionModel()->setCurrentIndex(indice, QItemSelectionModel::ClearAndSelect |
-                                                                QItemSelectionModel::Rows);
+        vistaVigas_->selectionModel()->setCurrentIndex(indice, QItemSelectionModel::ClearAndSelect |
+                                                                   QItemSelectionModel::Rows);
     else
-        spread1_->selectionModel()->clear();
+        vistaVigas_->selectionModel()->clear();
     Botones();
 }
 
 int VigasProyecto::Pestana() const {
-    return tab1_->currentIndex() + 1;
+    return pestanas_->currentIndex() + 1;
 }
 
 void VigasProyecto::ElegirPestana(int pestana) {
     if (Pestana() == pestana)
         ClickPestana(pestana);
     else
-        tab1_->setCurrentIndex(pestana - 1);
+        pestanas_->setCurrentIndex(pestana - 1);
 }
 
 // --- The rule of load, analysis and drawing -----------------------------------------------
@@ -307,7 +307,7 @@ void VigasProyecto::ColoquePantalla() {
     if (lista)
         for (lista->MoveFirst(); !lista->AlFinal(); lista->MoveNext())
             nombres.push_back(lista->Campo("NombreViga").Texto());
-    const QSignalBlocker bloqueo(spread1_->selectionModel()); // no beam is loaded by the view
+    const QSignalBlocker bloqueo(vistaVigas_->selectionModel()); // no beam is loaded by the view
     lista_->Colocar(std::move(nombres));
 }
 
@@ -315,7 +315,7 @@ void VigasProyecto::Tomar(int fila) {
     auto& estado = programa_.Estado;
     estado.RsGeneralViga->AbsolutePosition(fila - 1);
     programa_.Viga.NombreVigaActual = estado.RsGeneralViga->Campo("NombreViga").Texto();
-    lblNombre_->setText(Qs(programa_.Viga.NombreVigaActual));
+    nombreViga_->setText(Qs(programa_.Viga.NombreVigaActual));
     try {
         LeerViga(estado, programa_.Viga);
     } catch (const ErrorTrevalo& e) {
@@ -442,7 +442,7 @@ void VigasProyecto::Despachar(const QString& clave) {
 }
 
 void VigasProyecto::MostrarMenuContextual(const QPoint& lugar) {
-    idPantalla_->popup(lugar);
+    menuLienzo_->popup(lugar);
 }
 
 // --- Beam commands -------------------------------------------------------------------------
@@ -496,11 +496,11 @@ void VigasProyecto::AgregarUltimaFila() {
     lista.MoveLast();
     programa_.Viga.NombreVigaActual = lista.Campo("NombreViga").Texto();
     {
-        const QSignalBlocker bloqueo(spread1_->selectionModel());
+        const QSignalBlocker bloqueo(vistaVigas_->selectionModel());
         lista_->Agregar(programa_.Viga.NombreVigaActual);
     }
     FijarFilaActiva(Filas());
-    lblNombre_->setText(Qs(programa_.Viga.NombreVigaActual));
+    nombreViga_->setText(Qs(programa_.Viga.NombreVigaActual));
     Botones();
     programa_.Vista.FactorZoom = 1.0;
     programa_.Vista.PanX = programa_.Vista.PanY = 0.0;
@@ -593,9 +593,9 @@ void VigasProyecto::EliminarVigaSeleccionada() {
         programa_.Dialogo().Mensaje(MensajeError(e));
         return pantalla_->setFocus();
     }
-    lblNombre_->clear();
+    nombreViga_->clear();
     {
-        const QSignalBlocker bloqueo(spread1_->selectionModel());
+        const QSignalBlocker bloqueo(vistaVigas_->selectionModel());
         lista_->Quitar(fila);
     }
     if (Filas() > 0) {
@@ -637,11 +637,11 @@ void VigasProyecto::LlenarImpreDatos() {
     ModeloInforme modelo{programa_.Estado, programa_.Proyecto, programa_.Viga, programa_.Resultados,
                          programa_.Vista};
     const auto progreso = [this](const std::string& etiqueta, double valor) {
-        lsPanelP_->show();
-        lsPanelP_->raise();
-        lsLabel4_->setText(Qs(etiqueta));
-        progressBar1_->setValue(std::min(100, static_cast<int>(valor + 0.5)));
-        lsPanelP_->repaint();
+        panelProgreso_->show();
+        panelProgreso_->raise();
+        textoProgreso_->setText(Qs(etiqueta));
+        progreso_->setValue(std::min(100, static_cast<int>(valor + 0.5)));
+        panelProgreso_->repaint();
     };
     try {
         programa_.Dibujos.clear();
@@ -652,7 +652,7 @@ void VigasProyecto::LlenarImpreDatos() {
     } catch (const ErrorTrevalo& e) {
         programa_.Dialogo().Mensaje(MensajeError(e));
     }
-    lsPanelP_->hide();
+    panelProgreso_->hide();
 }
 
 void VigasProyecto::AbrirProyectoVentana() {

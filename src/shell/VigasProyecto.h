@@ -118,17 +118,17 @@ class VigasProyecto : public QDialog {
     bool abierto_ = false;
     bool enPestana_ = false; // a tab change made by the program, not by the user
     ListaVigas* lista_;
-    QTableView* spread1_;
-    QLabel* lblNombre_;
-    QTabBar* tab1_;
+    QTableView* vistaVigas_;
+    QLabel* nombreViga_;
+    QTabBar* pestanas_;
     PantallaViga* pantalla_;
     QPushButton* btoMove_[2];
     std::map<QString, QPushButton*> botones_;
     std::map<QString, QAction*> acciones_;
-    QMenu* idPantalla_;
-    QProgressBar* progressBar1_;
-    QLabel* lsLabel4_;
-    QWidget* lsPanelP_;
+    QMenu* menuLienzo_;
+    QProgressBar* progreso_;
+    QLabel* textoProgreso_;
+    QWidget* panelProgreso_;
     ToolTipTrevalo* toolTip_;
 };
 
