@@ -2,118 +2,78 @@
 
 #include <QDir>
 #include <QFileSystemModel>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTreeView>
-#include <QVBoxLayout>
 #include <optional>
 
-#include "shell/Ordenes.h"
 #include "shell/TextoQt.h"
 #include "store/Compactar.h"
+#include "ui_Compactar1.h"
 
 namespace trevalo {
 
-Compactar1::Compactar1(Programa& programa, QWidget* padre) : QDialog(padre), programa_(programa) {
-    setObjectName(QStringLiteral("Compactar1"));
-    setWindowTitle(QStringLiteral("Reparar y Compactar Archivos"));
-    resize(760, 480);
-
-    modelo_ = new QFileSystemModel(this);
+Compactar1::Compactar1(Programa& programa, QWidget* padre)
+    : QDialog(padre), programa_(programa), ui_(std::make_unique<Ui::Compactar1>()),
+      modelo_(new QFileSystemModel(this)) {
+    ui_->setupUi(this);
     modelo_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
     // The whole file system, so that projects on other disks (under /media, /mnt) are
     // reached as well as those of the user's folders.
     modelo_->setRootPath(QDir::rootPath());
-    folderView1_ = new QTreeView(this);
-    folderView1_->setObjectName(QStringLiteral("FolderView1"));
-    folderView1_->setModel(modelo_);
-    folderView1_->setRootIndex(modelo_->index(QDir::rootPath()));
+    QTreeView* carpetas = ui_->FolderView1;
+    carpetas->setModel(modelo_);
+    carpetas->setRootIndex(modelo_->index(QDir::rootPath()));
+    for (int c = 1; c < modelo_->columnCount(); ++c) carpetas->hideColumn(c);
     // The folders are read in the background: the current one is brought into view as its
     // parents come in.
     connect(modelo_, &QFileSystemModel::directoryLoaded, this, [this](const QString& carpeta) {
-        if (dirActual_.startsWith(carpeta)) folderView1_->scrollTo(folderView1_->currentIndex());
+        if (dirActual_.startsWith(carpeta))
+            ui_->FolderView1->scrollTo(ui_->FolderView1->currentIndex());
     });
-    for (int c = 1; c < modelo_->columnCount(); ++c) folderView1_->hideColumn(c);
-    folderView1_->header()->hide();
-    fileView1_ = new QListWidget(this);
-    fileView1_->setObjectName(QStringLiteral("FileView1"));
-    fileView1_->setAccessibleName(QStringLiteral("Proyectos de la carpeta"));
-    connect(folderView1_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+    connect(carpetas->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& actual) {
                 if (actual.isValid()) CambiarCarpeta(modelo_->filePath(actual));
             });
-
-    auto* marco = new QGroupBox(QStringLiteral("Seleccione el Directorio"), this);
-    auto* vistas = new QHBoxLayout(marco);
-    vistas->addWidget(folderView1_, 1);
-    vistas->addWidget(fileView1_, 1);
-
-    progressBar1_ = new QProgressBar(this);
-    progressBar1_->setObjectName(QStringLiteral("ProgressBar1"));
-    lsLabel1_ = new QLabel(QStringLiteral("Archivo:"), this);
-    lsLabel1_->setObjectName(QStringLiteral("LSLabel1"));
-    progressBar1_->hide();
-    lsLabel1_->hide();
-
-    auto* marcar = BotonDialogo(*this, "SSCommand1", " Marcar Todas las Partidas del Presupuesto ");
-    auto* desmarcar =
-        BotonDialogo(*this, "LSButton1", " Desmarcar Todas las Partidas del Presupuesto ");
-    auto* aceptar = BotonDialogo(*this, "Command2", " Aceptar ");
-    auto* cancelar = BotonDialogo(*this, "Command1", " Cancelar ");
-    aceptar->setDefault(true);
-    connect(marcar, &QPushButton::clicked, this, [this] { Marcar(true); });
-    connect(desmarcar, &QPushButton::clicked, this, [this] { Marcar(false); });
-    connect(aceptar, &QPushButton::clicked, this, &Compactar1::Aceptar);
-    connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
-
-    auto* botones = new QHBoxLayout;
-    botones->addWidget(marcar);
-    botones->addWidget(desmarcar);
-    botones->addStretch();
-    botones->addWidget(aceptar);
-    botones->addWidget(cancelar);
-    auto* capas = new QVBoxLayout(this);
-    capas->addWidget(marco, 1);
-    capas->addWidget(lsLabel1_);
-    capas->addWidget(progressBar1_);
-    capas->addLayout(botones);
-
+    connect(ui_->SSCommand1, &QPushButton::clicked, this, [this] { Marcar(true); });
+    connect(ui_->LSButton1, &QPushButton::clicked, this, [this] { Marcar(false); });
+    connect(ui_->Command2, &QPushButton::clicked, this, &Compactar1::Aceptar);
+    connect(ui_->Command1, &QPushButton::clicked, this, &QDialog::reject);
     CambiarCarpeta(Qs(programa_.Carpetas.RutaBase + "/Proyectos"));
 }
 
+Compactar1::~Compactar1() = default;
+
 void Compactar1::CambiarCarpeta(const QString& carpeta) {
     const QModelIndex nodo = modelo_->index(carpeta);
-    if (nodo.isValid() && folderView1_->currentIndex() != nodo) {
-        folderView1_->scrollTo(nodo);
-        folderView1_->setCurrentIndex(nodo); // lists the folder, through currentChanged
+    if (nodo.isValid() && ui_->FolderView1->currentIndex() != nodo) {
+        ui_->FolderView1->scrollTo(nodo);
+        ui_->FolderView1->setCurrentIndex(nodo); // lists the folder, through currentChanged
         return;
     }
     dirActual_ = carpeta;
-    fileView1_->clear();
+    ui_->FileView1->clear();
     const QStringList archivos = QDir(carpeta).entryList(
         {QStringLiteral("*.trv")}, QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
     for (const QString& nombre : archivos) {
-        auto* item = new QListWidgetItem(nombre, fileView1_);
+        auto* item = new QListWidgetItem(nombre, ui_->FileView1);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
 }
 
 void Compactar1::Marcar(bool marca) {
-    for (int i = 0; i < fileView1_->count(); ++i)
-        fileView1_->item(i)->setCheckState(marca ? Qt::Checked : Qt::Unchecked);
+    for (int i = 0; i < ui_->FileView1->count(); ++i)
+        ui_->FileView1->item(i)->setCheckState(marca ? Qt::Checked : Qt::Unchecked);
 }
 
 QStringList Compactar1::Marcados() const {
     QStringList nombres;
-    for (int i = 0; i < fileView1_->count(); ++i)
-        if (fileView1_->item(i)->checkState() == Qt::Checked)
-            nombres << fileView1_->item(i)->text();
+    for (int i = 0; i < ui_->FileView1->count(); ++i)
+        if (ui_->FileView1->item(i)->checkState() == Qt::Checked)
+            nombres << ui_->FileView1->item(i)->text();
     return nombres;
 }
 
@@ -129,18 +89,18 @@ void Compactar1::Aceptar() {
     programa_.Estado.RsGeneralViga.reset();
     programa_.Estado.BDProyecto.reset();
 
-    progressBar1_->show();
-    lsLabel1_->show();
+    ui_->ProgressBar1->show();
+    ui_->LSLabel1->show();
     const double paso = 100.0 / marcados.size();
     double avance = 0;
     int hechos = 0;
     std::optional<Pregunta> falla;
     const std::string temporal = TemporalCompactar(Std(dirActual_));
     for (const QString& nombre : marcados) {
-        progressBar1_->setValue(static_cast<int>(avance));
+        ui_->ProgressBar1->setValue(static_cast<int>(avance));
         avance += paso;
-        lsLabel1_->setText(QStringLiteral("Archivo: ") + nombre);
-        lsLabel1_->repaint();
+        ui_->LSLabel1->setText(QStringLiteral("Archivo: ") + nombre);
+        ui_->LSLabel1->repaint();
         try {
             CompactarArchivo(Std(QDir(dirActual_).filePath(nombre)), temporal);
         } catch (const ErrorTrevalo& e) {
@@ -150,9 +110,9 @@ void Compactar1::Aceptar() {
         }
         ++hechos;
     }
-    progressBar1_->hide();
-    lsLabel1_->hide();
-    folderView1_->setFocus();
+    ui_->ProgressBar1->hide();
+    ui_->LSLabel1->hide();
+    ui_->FolderView1->setFocus();
     const std::string cuenta = "(" + std::to_string(hechos) + ")";
     if (falla) {
         // The files after the one that failed were not touched: the run stops there.

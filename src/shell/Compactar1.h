@@ -8,14 +8,15 @@
 // covers the whole file system. The dialog stays open after a run.
 
 #include <QDialog>
+#include <memory>
 
 #include "shell/Programa.h"
 
 class QFileSystemModel;
-class QLabel;
-class QListWidget;
-class QProgressBar;
-class QTreeView;
+
+namespace Ui {
+class Compactar1;
+}
 
 namespace trevalo {
 
@@ -24,6 +25,7 @@ class Compactar1 : public QDialog {
 
   public:
     Compactar1(Programa& programa, QWidget* padre = nullptr);
+    ~Compactar1() override;
 
     // The folder whose project files the list shows (DirActual).
     const QString& DirActual() const { return dirActual_; }
@@ -37,11 +39,8 @@ class Compactar1 : public QDialog {
     QStringList Marcados() const;
 
     Programa& programa_;
+    std::unique_ptr<Ui::Compactar1> ui_;
     QFileSystemModel* modelo_;
-    QTreeView* folderView1_;
-    QListWidget* fileView1_;
-    QProgressBar* progressBar1_;
-    QLabel* lsLabel1_;
     QString dirActual_;
 };
 
