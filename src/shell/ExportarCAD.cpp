@@ -35,17 +35,6 @@ constexpr Color ColorMarcada = 0xC4EFFF;
 const char* const Opciones[4] = {"Anexar a un Proyecto Existente", "Crear un Nuevo Proyecto",
                                  "Apoyada sobre Vigas", "Apoyada sobre Columnas"};
 
-// The commands: object name, caption, tip title, tip text.
-const Orden Ordenes[] = {
-    {"KorvelButton1", "Directorio", "Directorio de Korvel-CAD",
-     "Visualizar el directorio de\nKorvel-CAD Estructural 8.0 "},
-    {"LSButton1", "Exportar", "Exportar a Korvel-CAD",
-     "Exportar las vigas seleccionadas al\nprograma Korvel-CAD Estructural 8.0 "},
-    {"LSButton9", " Cancelar ", "", ""},
-    {"SSCommand1", "Marcar Todas", "", ""},
-    {"SSCommand2", "Desmarcar Todas", "", ""},
-};
-
 QGroupBox* GrupoOpciones(const char* titulo, QRadioButton* a, QRadioButton* b, QWidget* padre) {
     auto* grupo = new QGroupBox(QString::fromUtf8(titulo), padre);
     auto* capas = new QVBoxLayout(grupo);
@@ -75,13 +64,13 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
         option_[i] = new QRadioButton(QString::fromUtf8(Opciones[i]), marco);
         option_[i]->setObjectName(QStringLiteral("Option%1").arg(i + 1));
     }
-    for (const Orden& o : Ordenes) CrearBoton(*this, o);
 
     auto* lista = new QVBoxLayout;
     lista->addWidget(vistaVigas_, 1);
     auto* marcas = new QHBoxLayout;
-    marcas->addWidget(Boton(QStringLiteral("SSCommand1")));
-    marcas->addWidget(Boton(QStringLiteral("SSCommand2")));
+    CrearBotones(*this, *marcas,
+                 {{{"SSCommand1", "Marcar Todas", "", ""}, [this] { MarcarTodas(true); }},
+                  {{"SSCommand2", "Desmarcar Todas", "", ""}, [this] { MarcarTodas(false); }}});
     lista->addLayout(marcas);
     auto* arriba = new QHBoxLayout;
     arriba->addLayout(lista);
@@ -109,24 +98,21 @@ ExportarCAD::ExportarCAD(Programa& programa, const std::vector<std::string>& nom
     panelP_->hide();
 
     auto* ordenes = new QHBoxLayout;
-    ordenes->addWidget(Boton(QStringLiteral("KorvelButton1")));
+    CrearBotones(*this, *ordenes,
+                 {{{"KorvelButton1", "Directorio", "Directorio de Korvel-CAD",
+                    "Visualizar el directorio de\nKorvel-CAD Estructural 8.0 "},
+                   [this] { Directorio(); }}});
     ordenes->addStretch(1);
-    ordenes->addWidget(Boton(QStringLiteral("LSButton1")));
-    ordenes->addWidget(Boton(QStringLiteral("LSButton9")));
+    CrearBotones(*this, *ordenes,
+                 {{{"LSButton1", "Exportar", "Exportar a Korvel-CAD",
+                    "Exportar las vigas seleccionadas al\nprograma Korvel-CAD Estructural 8.0 "},
+                   [this] { Exportar(); }},
+                  {{"LSButton9", " Cancelar ", "", ""}, [this] { reject(); }}});
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(marco, 1);
     todo->addWidget(panelP_);
     todo->addLayout(ordenes);
 
-    connect(Boton(QStringLiteral("LSButton1")), &QPushButton::clicked, this,
-            &ExportarCAD::Exportar);
-    connect(Boton(QStringLiteral("LSButton9")), &QPushButton::clicked, this, &QDialog::reject);
-    connect(Boton(QStringLiteral("KorvelButton1")), &QPushButton::clicked, this,
-            &ExportarCAD::Directorio);
-    connect(Boton(QStringLiteral("SSCommand1")), &QPushButton::clicked, this,
-            [this] { MarcarTodas(true); });
-    connect(Boton(QStringLiteral("SSCommand2")), &QPushButton::clicked, this,
-            [this] { MarcarTodas(false); });
     connect(lienzo_, &PantallaViga::Redimensionado, lienzo_, &PantallaViga::Pintar);
 
     // The load of the form.
