@@ -116,6 +116,14 @@ long EdicionViga::Valor(Cuenta cuenta) const {
     }
 }
 
+std::optional<std::pair<long, Pregunta>> EdicionViga::TramoSinLongitud() const {
+    for (long t = 1; t <= viga_.NT; ++t)
+        if (En(viga_.LT, t) == 0)
+            return std::pair{t, Aviso("¡No pueden existir Tramos con Longitud igual a Cero (0)!",
+                                      "Longitud de los Tramos")};
+    return std::nullopt;
+}
+
 long EdicionViga::Filas(Rejilla rejilla) const {
     const VigaActual& v = viga_;
     switch (rejilla) {

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -113,6 +114,9 @@ class EdicionViga {
     void Preparar();
 
     long Valor(Cuenta cuenta) const;
+    // The first span of length zero, which the spans' page does not let the user leave,
+    // with its message; nothing when every span has a length.
+    std::optional<std::pair<long, Pregunta>> TramoSinLongitud() const;
 
     // What a list shows: its rows, the value of a cell (a number, or the text of a name
     // column) and the caption of a span row ("A - B"). Slots beyond a list shorter than its

@@ -674,17 +674,14 @@ void VigaDatos::IrA(int pagina, bool juntas) {
 }
 
 bool VigaDatos::LongitudesValidas() {
-    const ModeloCeldas& longitudes = Modelo(Rejilla::Longitudes);
-    for (int i = 1; i <= longitudes.Filas(); ++i) {
-        if (longitudes.Valor(i, 1) != 0) continue;
-        QTableView& g = Vista(Rejilla::Longitudes);
-        g.setFocus();
-        g.setCurrentIndex(longitudes.index(i - 1, 0));
-        programa_.Dialogo().Mensaje(Aviso(
-            "¡No pueden existir Tramos con Longitud igual a Cero (0)!", "Longitud de los Tramos"));
-        return false;
-    }
-    return true;
+    const auto sinLongitud = edicion_.TramoSinLongitud();
+    if (!sinLongitud) return true;
+    QTableView& g = Vista(Rejilla::Longitudes);
+    g.setFocus();
+    g.setCurrentIndex(
+        Modelo(Rejilla::Longitudes).index(static_cast<int>(sinLongitud->first) - 1, 0));
+    programa_.Dialogo().Mensaje(sinLongitud->second);
+    return false;
 }
 
 void VigaDatos::Siguiente() {

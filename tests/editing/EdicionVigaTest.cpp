@@ -227,6 +227,18 @@ TEST(EdicionViga, LoQueMuestraCadaLista) {
     EXPECT_EQ(edicion.RotuloTramo(2), "B - " + v.NombreEje(3));
 }
 
+// The spans' page is not left while a span has no length: the first such span, with its message.
+TEST(EdicionViga, TramoSinLongitud) {
+    VigaActual v = TresTramos();
+    EXPECT_FALSE(EdicionViga(v).TramoSinLongitud());
+    v.LT(2) = v.LT(3) = 0;
+    const auto sin = EdicionViga(v).TramoSinLongitud();
+    ASSERT_TRUE(sin);
+    EXPECT_EQ(sin->first, 2);
+    EXPECT_EQ(sin->second.Texto, "¡No pueden existir Tramos con Longitud igual a Cero (0)!");
+    EXPECT_EQ(sin->second.Titulo, "Longitud de los Tramos");
+}
+
 TEST(EdicionViga, CeldasDeTexto) {
     VigaActual v = TresTramos();
     EdicionViga edicion(v);
