@@ -24,8 +24,6 @@ using namespace trevalo::prueba;
 
 namespace {
 
-const std::string Ejemplo = "Ejemplo Demostrativo.trv";
-
 std::string Proyectos(ProgramaPrueba& p, const std::string& nombre) {
     return p.programa.Carpetas.RutaProyectos + "/" + nombre;
 }

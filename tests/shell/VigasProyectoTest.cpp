@@ -25,8 +25,6 @@ using namespace trevalo::prueba;
 
 namespace {
 
-const std::string Ejemplo = "Ejemplo Demostrativo.trv";
-
 // Whether the canvas shows anything but the background and the grid: the beam is drawn.
 bool HayDibujo(const PantallaViga& pantalla) {
     const QImage& imagen = pantalla.Imagen();
