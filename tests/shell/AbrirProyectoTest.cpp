@@ -24,8 +24,6 @@ using namespace trevalo::prueba;
 
 namespace {
 
-const std::string Ejemplo = "Ejemplo Demostrativo.trv";
-
 std::string Proyectos(ProgramaPrueba& p, const std::string& nombre) {
     return p.programa.Carpetas.RutaProyectos + "/" + nombre;
 }
@@ -178,34 +176,26 @@ class AbrirProyectoTest : public QObject {
         menu->close();
     }
 
+    // Named on the command line, a missing file and a file that is not a project give the
+    // messages of the menu's dialog, and no project is open.
     void UnArchivoQueFaltaONoEsProyectoDaElMensajeDelMenuYNingunProyecto() {
         ProgramaPrueba p;
-        EscribirArchivo(Proyectos(p, "Notas.trv"), "no es un proyecto");
         const std::string falta = Proyectos(p, "Falta.trv"), notas = Proyectos(p, "Notas.trv");
-        for (const std::string& ruta : {falta, notas}) {
-            // By the menu's dialog, over the sample open.
+        EscribirArchivo(notas, "no es un proyecto");
+        const std::pair<std::string, Pregunta> casos[] = {
+            {falta, ErrorStore(53, "No existe el archivo: " + falta)},
+            {notas, ErrorStore(3343, "El archivo no es un proyecto de vigas: " + notas +
+                                         " (file is not a database)")}};
+        for (const auto& [ruta, mensaje] : casos) {
             p.dialogos->preguntas.clear();
-            MenuP menu(p.programa);
-            menu.AbrirArchivoProyecto(Qs(Proyectos(p, Ejemplo)));
-            p.dialogos->archivos = {{false, ruta, std::filesystem::path(ruta).filename().string()}};
-            menu.Despachar(QStringLiteral("ID_Proyecto_Abrir"));
-            QCOMPARE(Estado(menu), QStringLiteral("Trevalo 6.0  Proyecto: [] -"));
-            QCOMPARE(p.dialogos->preguntas.size(), 1u);
-            const Pregunta delMenu = p.dialogos->preguntas[0];
-
-            // By the command line: the same message, and no project open.
             MenuP* inicio = Iniciar(p, Qs(ruta));
             QVERIFY(inicio);
-            QTRY_COMPARE(p.dialogos->preguntas.size(), 2u);
-            QVERIFY(p.dialogos->preguntas[1] == delMenu);
+            QTRY_COMPARE(p.dialogos->preguntas, std::vector<Pregunta>{mensaje});
             QCOMPARE(Estado(*inicio), QStringLiteral("Trevalo 6.0  Proyecto: [] -"));
             QCOMPARE(p.programa.Estado.NombreProyecto, std::string());
             inicio->close();
             QTRY_VERIFY(!VentanaAbierta<MenuP>());
         }
-        QCOMPARE(p.dialogos->preguntas[0].Texto.rfind(
-                     "El archivo no es un proyecto de vigas: " + notas, 0),
-                 0u);
     }
 
     void UnTrvSoltadoSobreLaVentanaSeAbre() {

@@ -78,8 +78,7 @@ const QString Variable = QStringLiteral("…"); // a name in a title, as the con
 // written as the help's contents write it. The windows are made over the sample project.
 QStringList TitulosVentanas(ProgramaPrueba& p) {
     Programa& programa = p.programa;
-    const std::string proyecto = "Ejemplo Demostrativo.trv";
-    auto ventana = VentanaProyecto(p, proyecto);
+    auto ventana = VentanaProyecto(p, Ejemplo);
     QStringList titulos;
     const auto titulo = [&titulos](const QWidget& w, const std::string& nombre = {}) {
         QString t = w.windowTitle();
@@ -87,9 +86,9 @@ QStringList TitulosVentanas(ProgramaPrueba& p) {
     };
     titulos << Splash(programa, p.entorno).windowTitle();
     MenuP menu(programa);
-    titulo(menu, proyecto);
-    titulo(*ventana, proyecto);
-    titulo(DatosG(programa, &menu), proyecto);
+    titulo(menu, Ejemplo);
+    titulo(*ventana, Ejemplo);
+    titulo(DatosG(programa, &menu), Ejemplo);
     titulo(Calendario(QDate::currentDate()));
     titulo(ConfigurarPrograma(programa, &menu));
     titulo(Compactar1(programa, &menu));
@@ -268,8 +267,7 @@ class AyudaTest : public QObject {
     void ElEjemploImprimeLosResultadosDelPrograma() {
         ProgramaPrueba p;
         EstadoProyecto estado;
-        estado.BDProyecto =
-            BaseDatos::Abrir(p.programa.Carpetas.RutaProyectos + "/Ejemplo Demostrativo.trv");
+        estado.BDProyecto = BaseDatos::Abrir(p.programa.Carpetas.RutaProyectos + "/" + Ejemplo);
         ProyectoActual proyecto;
         VigaActual viga = PrimeraViga();
         ResultadosViga r;

@@ -54,7 +54,7 @@ class ExportarCADTest : public QObject {
   private slots:
     void ExportaLaVigaActivaAUnProyectoNuevo() {
         ProgramaPrueba p;
-        auto ventana = VentanaProyecto(p, "Ejemplo Demostrativo.trv");
+        auto ventana = VentanaProyecto(p, Ejemplo);
         VigasProyecto& v = *ventana;
         v.BtoMove_Click(1);
         v.ElegirPestana(3);
@@ -142,7 +142,7 @@ class ExportarCADTest : public QObject {
     // concrete beams, and its export fails with the target left as the template made it.
     void UnaFilaMasAllaDeLasVigasDeConcretoAvisaYNoEscribe() {
         ProgramaPrueba p;
-        auto ventana = VentanaProyecto(p, "Ejemplo Demostrativo.trv");
+        auto ventana = VentanaProyecto(p, Ejemplo);
         const std::string destino = p.carpeta / "Anexo.Cad";
         EnVentana<ExportarCAD>([&](ExportarCAD& f) {
             QTableView& g = Grilla(f);

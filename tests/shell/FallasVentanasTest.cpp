@@ -13,7 +13,6 @@ using namespace trevalo::prueba;
 
 namespace {
 
-const std::string Ejemplo = "Ejemplo Demostrativo.trv";
 const std::string Primera = "V-001 Fundación sobre Suelo Elástico"; // first of the sample
 
 Pregunta Falla(const std::string& texto, long numero) {

@@ -29,8 +29,6 @@ using namespace trevalo::prueba;
 
 namespace {
 
-const std::string Ejemplo = "Ejemplo Demostrativo.trv";
-
 QByteArray Leer(const std::string& ruta) {
     QFile archivo(Qs(ruta));
     return archivo.open(QIODevice::ReadOnly) ? archivo.readAll() : QByteArray();
@@ -140,9 +138,8 @@ class InformesTest : public QObject {
         QCOMPARE(abiertos.rutas, QStringList{Qs(carpeta + "/Informe ñ.pdf")});
         // The head and a page a picture: six beams, three pictures each.
         QCOMPARE(PaginasPdf(carpeta + "/Informe ñ.pdf"), 1 + 18);
-        // The pictures reach the page as the drawings the fill kept: SVG, no image.
+        // The pictures reach the page as the drawings the fill kept.
         QCOMPARE(Leer(carpeta + "/informe.htm").count("<svg "), 18);
-        QCOMPARE(Leer(carpeta + "/informe.htm").count("data:image"), 0);
         QVERIFY(Leer(carpeta + "/informe.xlsx").startsWith("PK"));
         QCOMPARE(Leer(carpeta + "/informe.rtf").count("\\pngblip"), 18);
 

@@ -109,7 +109,6 @@ int Ejecutar(T& ventana, std::type_identity_t<std::function<void(T&)>> accion) {
     return ventana.exec();
 }
 
-// Types `texto` into `w` key by key, as keyClicks does, letters beyond ASCII (ñ, á) included.
 // Cells by the forms' numbering: the value a cell holds (0 for an empty or text cell) and
 // whether a check cell is ticked.
 inline double ValorCelda(const QAbstractItemView& grid, int fila, int columna) {
@@ -120,6 +119,7 @@ inline bool CeldaMarcada(const QAbstractItemView& grid, int fila, int columna) {
            Qt::Checked;
 }
 
+// Types `texto` into `w` key by key, as keyClicks does, letters beyond ASCII (ñ, á) included.
 inline void Teclear(QWidget* w, const QString& texto) {
     for (const QChar c : texto)
         QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
@@ -166,6 +166,9 @@ template <typename T> T* VentanaAbierta() {
         if (auto* v = qobject_cast<T*>(w); v && v->isVisible()) return v;
     return nullptr;
 }
+
+// The sample project the start-up copies into the data folder.
+inline const std::string Ejemplo = "Ejemplo Demostrativo.trv";
 
 // The project window on a project of the data folder, on screen.
 inline std::unique_ptr<VigasProyecto> VentanaProyecto(ProgramaPrueba& p,
