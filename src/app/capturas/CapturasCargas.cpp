@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTimer>
 
 #include "app/capturas/Capturas.h"
@@ -34,8 +34,8 @@ void Mostrar(Programa& programa, QWidget& editor, const Arreglo<std::int16_t>& m
              const QString& nombre) {
     Dialogo dialogo(programa, marcas, &editor);
     dialogo.show();
-    auto* lista = dialogo.template findChild<QTableWidget*>();
-    if (lista && lista->rowCount() == 0) EntrarLong1(dialogo, QStringLiteral("2"));
+    auto* lista = dialogo.template findChild<QTableView*>();
+    if (lista && lista->model()->rowCount() == 0) EntrarLong1(dialogo, QStringLiteral("2"));
     Guardar(dialogo, nombre);
     dialogo.hide();
 }
