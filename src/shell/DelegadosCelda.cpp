@@ -10,7 +10,6 @@
 #include <QRegularExpressionValidator>
 #include <QTableView>
 #include <algorithm>
-#include <cassert>
 
 #include "model/Redondeo.h"
 #include "shell/TextoQt.h"
@@ -114,12 +113,6 @@ void MostrarModelo(Programa& programa, QTableView& vista, ModeloCeldas& modelo) 
 void MostrarVeredicto(Programa& programa, const Veredicto& veredicto) {
     if (veredicto.Aviso) programa.Dialogo().Mensaje(*veredicto.Aviso);
     if (veredicto.Pitido) QApplication::beep();
-}
-
-ModeloCeldas& Modelo(const QTableView& vista) {
-    auto* modelo = qobject_cast<ModeloCeldas*>(vista.model());
-    assert(modelo && "the grid shows a ModeloCeldas");
-    return *modelo;
 }
 
 DelegadoMarca::DelegadoMarca(QAbstractItemView& grid, int columna) : QStyledItemDelegate(&grid) {

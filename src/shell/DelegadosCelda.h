@@ -48,9 +48,6 @@ void MostrarModelo(Programa& programa, QTableView& vista, ModeloCeldas& modelo);
 // Shows what an entry has to say: its message, then its beep.
 void MostrarVeredicto(Programa& programa, const Veredicto& veredicto);
 
-// The model of a grid made by MostrarModelo.
-ModeloCeldas& Modelo(const QTableView& vista);
-
 // A column of check cells: a centred box, ticked by a click or the space bar; the tick goes
 // to the model as the cell's check state.
 class DelegadoMarca : public QStyledItemDelegate {

@@ -91,7 +91,7 @@ void DialogoCarga::Aceptar() {
     TerminarEdicion(*this); // a cell being typed is part of the load
     entrada_ = Tomar();
     const Veredicto veredicto = EdicionViga(programa_.Viga).RevisarCarga(*entrada_);
-    if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
+    MostrarVeredicto(programa_, veredicto);
     if (veredicto.Aceptado) accept();
 }
 

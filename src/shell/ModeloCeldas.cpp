@@ -58,7 +58,9 @@ Veredicto ModeloCeldas::Entrar(int fila, int columna, const QString& texto) {
     const ColumnaCelda& c = Columna(columna);
     if (!acceso_.Escribir || fila < 1 || fila > filas_) return Rechazar();
     Celda celda{fila, columna, texto.trimmed(), std::nullopt};
-    if (c.Formato && !celda.Texto.isEmpty()) {
+    if (c.Marca) {
+        celda.Numero = celda.Texto.toDouble(); // a tick, 1 or 0: no number to format
+    } else if (c.Formato && !celda.Texto.isEmpty()) {
         celda.Numero = Leer(columna, celda.Texto);
         if (!celda.Numero) return Rechazar();
     }
@@ -169,16 +171,7 @@ bool ModeloCeldas::setData(const QModelIndex& indice, const QVariant& valor, int
     if (marca != (rol == Qt::CheckStateRole) || (!marca && rol != Qt::EditRole)) return false;
     const QString texto =
         marca ? QString::number(valor.toInt() == Qt::Checked ? 1 : 0) : valor.toString();
-    // A tick is no number to format: it goes to the edit as it is.
-    Veredicto veredicto;
-    if (marca) {
-        veredicto = acceso_.Escribir
-                        ? acceso_.Escribir({indice.row() + 1, columna, texto, texto.toDouble()})
-                        : Rechazar();
-        if (veredicto.Aceptado) Recargar();
-    } else {
-        veredicto = Entrar(indice.row() + 1, columna, texto);
-    }
+    const Veredicto veredicto = Entrar(indice.row() + 1, columna, texto);
     if (veredicto.Aviso || veredicto.Pitido) emit Respuesta(veredicto);
     return veredicto.Aceptado;
 }

@@ -748,7 +748,7 @@ void VigaDatos::AplicarCuenta(int n) {
     tecleando_ = false;
     const Veredicto veredicto =
         edicion_.CambiarCuenta(static_cast<Cuenta>(n), Long(n).text().toLong());
-    if (veredicto.Aviso) programa_.Dialogo().Mensaje(*veredicto.Aviso);
+    MostrarVeredicto(programa_, veredicto);
     if (!veredicto.Aceptado || veredicto.Valor) MostrarCuenta(n);
     if (veredicto.Aceptado) Recargar();
     // A refused count of spans redraws too; a refused count of joints does not.
@@ -943,7 +943,7 @@ void VigaDatos::PerfilesMetalicos() {
             ? edicion_.CapturarPerfil(programa_.ListaPerfil, ventana.FilaCapturada(),
                                       ventana.TipoCapturado())
             : Ignorar();
-    if (captura.Aviso) programa_.Dialogo().Mensaje(*captura.Aviso);
+    MostrarVeredicto(programa_, captura);
     if (captura.Aceptado) {
         ModeloCeldas& tipos = Modelo(Rejilla::TiposMetalicos);
         tipos.Recargar();
