@@ -883,6 +883,7 @@ void VigaDatos::BotonCarga(int tipo) {
         return Vista(Rejilla::TramosCargados).setFocus();
     }
     const auto carga = MostrarCarga(tipo, *tramoCarga);
+    VolverA(Rejilla::TramosCargados);
     if (!carga || !edicion_.AplicarCarga(*tramoCarga, *carga).Aceptado) return;
     DesmarcarTodos();
     Registrar(QString::fromUtf8(BotonesCarga[tipo - 1].titulo).trimmed());
@@ -921,6 +922,13 @@ std::optional<EntradaCarga> VigaDatos::MostrarCarga(int tipo,
     return dialogo->Entrada();
 }
 
+void VigaDatos::VolverA(Rejilla lista) {
+    // The editor active again, also where no window manager gives it back the focus when a
+    // dialog of its own closes, so that the keys (Ctrl+Z among them) reach it at once.
+    activateWindow();
+    Vista(lista).setFocus();
+}
+
 void VigaDatos::EliminarCargas() {
     const Pregunta pregunta{
         "Eliminar todas las Cargas en la Viga!        \nEsta Usted Seguro?        ",
@@ -952,7 +960,7 @@ void VigaDatos::PerfilesMetalicos() {
         Redibujar();
         Registrar(QStringLiteral("Capturar Perfil Metálico"));
     }
-    Vista(Rejilla::TiposMetalicos).setFocus();
+    VolverA(Rejilla::TiposMetalicos);
 }
 
 // --- Tools, drawing, saving, leaving -------------------------------------------------------

@@ -125,6 +125,8 @@ class VigaDatos : public QDialog {
     // The load dialog of kind 1..8 over the marked spans: the load accepted, or nothing.
     std::optional<EntradaCarga> MostrarCarga(int tipo, const Arreglo<std::int16_t>& tramoCarga);
     void EliminarCargas();
+    // Back from a dialog of the editor: the editor active and the focus on a list.
+    void VolverA(Rejilla lista);
     // " Perfiles Metálicos ": the steel profile window over the type in front in Spread8.
     void PerfilesMetalicos();
 
